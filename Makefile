@@ -1,0 +1,29 @@
+# Vantle: `make run` starts the program, `make test` runs every test.
+BUILD_DIR ?= build
+BUILD_TYPE ?= RelWithDebInfo
+JOBS ?= $(shell nproc)
+CMAKE_FLAGS ?=
+PREFIX ?= /usr/local
+
+.PHONY: all build run test bench clean install package
+
+all: build
+
+build:
+	@scripts/ensure-deps.sh build
+	cmake -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) -DCMAKE_INSTALL_PREFIX=$(PREFIX) $(CMAKE_FLAGS)
+	cmake --build $(BUILD_DIR) -j $(JOBS)
+
+run: build
+	@scripts/ensure-deps.sh run
+	@scripts/run.sh $(BUILD_DIR)/bin/vantle
+
+test: build
+	@scripts/ensure-deps.sh test
+	ctest --test-dir $(BUILD_DIR) --output-on-failure -j $(JOBS)
+
+install: build
+	cmake --install $(BUILD_DIR) --prefix $(PREFIX)
+
+clean:
+	rm -rf $(BUILD_DIR)

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QStringList>
+#include <QTextStream>
+#include <optional>
+
+class SettingsStore;
+
+// The command line: small subcommands, each a function of its arguments (after the
+// subcommand's name) and its streams, returning the exit status. `main` only dispatches.
+
+struct CommandContext {
+    QTextStream &out;
+    QTextStream &err;
+    SettingsStore &store; // read-only for every subcommand but none writes today
+};
+
+namespace ExitStatus {
+inline constexpr int ok = 0;
+inline constexpr int failure = 1; // the command could not do its work (nothing picked, no instance…)
+inline constexpr int usage = 2; // the command was given something it does not understand
+} // namespace ExitStatus
+
+// vantle format [--format NAME | --all] [--contrast] COLOR...
+int runFormatCommand(const QStringList &args, CommandContext &context);
+
+// The overall help text and the names of the subcommands.
+QString commandLineHelp();
+bool isSubcommand(const QString &word);
+
+// Splits "--name=value" into "--name" and "value"; the helper every subcommand parses with.
+struct OptionWord {
+    QString name;
+    std::optional<QString> inlineValue;
+};
+OptionWord splitOptionWord(const QString &word);

@@ -1,0 +1,86 @@
+#include "app/ColorArgument.h"
+#include "app/CommandLine.h"
+#include "model/Contrast.h"
+#include "model/PickedColor.h"
+#include "services/SettingsViewModel.h"
+
+#include <QList>
+
+namespace {
+
+QString contrastLine(const QString &label, double luminance, double reference)
+{
+    const double ratio = contrastRatio(luminance, reference);
+    return label + u'\t' + contrastRatioText(ratio) + u'\t' + contrastLevel(ratio);
+}
+
+} // namespace
+
+int runFormatCommand(const QStringList &args, CommandContext &context)
+{
+    std::optional<ColorFormat> format;
+    bool all = false;
+    bool contrast = false;
+    QList<ColorComponents> colors;
+
+    auto usageError = [&](const QString &message) {
+        context.err << "vantle format: " << message << Qt::endl;
+        return ExitStatus::usage;
+    };
+
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        const QString &word = args[i];
+        const OptionWord option = splitOptionWord(word);
+        if (option.name == u"--format" || option.name == u"-f") {
+            QString name;
+            if (option.inlineValue)
+                name = *option.inlineValue;
+            else if (i + 1 < args.size())
+                name = args[++i];
+            else
+                return usageError(QStringLiteral("--format needs a format name; accepted: ") + acceptedFormatsText());
+            format = parseFormatArgument(name);
+            if (!format)
+                return usageError(QStringLiteral("unknown format \"%1\"; accepted: %2").arg(name, acceptedFormatsText()));
+        } else if (word == u"--all" || word == u"-a") {
+            all = true;
+        } else if (word == u"--contrast" || word == u"-c") {
+            contrast = true;
+        } else if (word == u"--help" || word == u"-h") {
+            context.out << "Usage: vantle format [--format NAME | --all] [--contrast] COLOR...\n"
+                        << "Colours: " << acceptedColorsText() << "\n"
+                        << "Formats: " << acceptedFormatsText() << "\n";
+            return ExitStatus::ok;
+        } else if (const auto color = parseColorArgument(word)) {
+            colors.append(*color); // before the option test: "-0.5,0,0" is a colour
+        } else if (word.startsWith(u'-') && word.size() > 1 && !word[1].isDigit() && word[1] != u'.') {
+            return usageError(QStringLiteral("unknown option \"%1\"").arg(word));
+        } else {
+            return usageError(QStringLiteral("cannot read the colour \"%1\"; accepted: %2").arg(word, acceptedColorsText()));
+        }
+    }
+    if (all && format)
+        return usageError(QStringLiteral("--format and --all cannot be used together"));
+    if (colors.isEmpty())
+        return usageError(QStringLiteral("no colour given; accepted: ") + acceptedColorsText());
+
+    const ColorFormat preferred = format.value_or(SettingsViewModel::currentFormat(context.store));
+    for (qsizetype i = 0; i < colors.size(); ++i) {
+        const ColorComponents &c = colors[i];
+        if (i > 0)
+            context.out << '\n';
+        if (all) {
+            for (ColorFormat f : allColorFormats)
+                context.out << rawValue(f) << '\t' << formatColor(c.red, c.green, c.blue, c.alpha, f) << '\n';
+        } else {
+            context.out << formatColor(c.red, c.green, c.blue, c.alpha, preferred) << '\n';
+        }
+        if (contrast) {
+            const double luminance = relativeLuminance(c.red, c.green, c.blue);
+            context.out << contrastLine(QStringLiteral("vs White"), luminance, whiteLuminance) << '\n'
+                        << contrastLine(QStringLiteral("vs Black"), luminance, blackLuminance) << '\n';
+        }
+    }
+    context.out.flush();
+    return ExitStatus::ok;
+}

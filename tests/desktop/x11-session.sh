@@ -1,0 +1,80 @@
+#!/usr/bin/env bash
+# Runs a command inside a private X11 desktop: Xvfb on a free display, openbox as window
+# manager, trayer as system tray (XEmbed), all on a private session bus. Everything this
+# script starts is ended by PID when the command finishes.
+#
+#   x11-session.sh [--size WxH] [--no-tray] [--no-wm] COMMAND [ARGS...]
+#
+# Exports DISPLAY, DBUS_SESSION_BUS_ADDRESS and VANTLE_TEST_SESSION=1 to COMMAND.
+# Exits 77 (CTest's "skipped") when Xvfb is not installed.
+set -euo pipefail
+
+size=1280x800x24
+tray=1
+wm=1
+while [[ $# -gt 0 ]]; do
+    case "$1" in
+        --size) size="$2x24"; shift 2 ;;
+        --no-tray) tray=0; shift ;;
+        --no-wm) wm=0; shift ;;
+        *) break ;;
+    esac
+done
+
+if ! command -v Xvfb >/dev/null; then
+    echo "SKIP: Xvfb is not installed (apt-get install xvfb)" >&2
+    exit 77
+fi
+
+if [[ -z "${VANTLE_IN_DBUS:-}" ]]; then
+    # Re-run under a private session bus that ends with us.
+    export VANTLE_IN_DBUS=1
+    args=(--size "${size%x24}")
+    [[ $tray == 0 ]] && args+=(--no-tray)
+    [[ $wm == 0 ]] && args+=(--no-wm)
+    exec dbus-run-session -- "$0" "${args[@]}" "$@"
+fi
+
+pids=()
+cleanup() {
+    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[$i]}" 2>/dev/null || true; done
+    wait 2>/dev/null || true
+    [[ -n "${fifo_dir:-}" ]] && rm -rf "$fifo_dir"
+}
+trap cleanup EXIT
+
+# Let Xvfb pick a free display and tell us its number, so parallel tests never collide.
+fifo_dir=$(mktemp -d)
+mkfifo "$fifo_dir/display"
+Xvfb -displayfd 3 -screen 0 "$size" -nolisten tcp 3>"$fifo_dir/display" >/dev/null 2>&1 &
+pids+=($!)
+read -r -t 20 display_number <"$fifo_dir/display" || { echo "Xvfb did not start" >&2; exit 1; }
+export DISPLAY=":$display_number"
+export NO_AT_BRIDGE=1
+export VANTLE_TEST_SESSION=1
+export QT_QPA_PLATFORM=xcb
+unset WAYLAND_DISPLAY XDG_SESSION_TYPE
+
+wait_for() { # wait_for SECONDS COMMAND...: retry briefly until COMMAND succeeds
+    local deadline=$((SECONDS + $1)); shift
+    until "$@" >/dev/null 2>&1; do
+        ((SECONDS < deadline)) || return 1
+        sleep 0.05
+    done
+}
+wait_for 10 xdpyinfo || { echo "X server $DISPLAY not answering" >&2; exit 1; }
+
+if [[ $wm == 1 ]] && command -v openbox >/dev/null; then
+    openbox --sm-disable >/dev/null 2>&1 &
+    pids+=($!)
+    wait_for 10 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q window' || true
+fi
+if [[ $tray == 1 ]] && command -v trayer >/dev/null; then
+    trayer --edge top --align right --widthtype request --height 24 --SetDockType true \
+        --transparent false --tint 0x202020 >/dev/null 2>&1 &
+    pids+=($!)
+    wait_for 10 sh -c 'xprop -root | grep -q "_NET_SYSTEM_TRAY_S0\|_NET_SYSTEM_TRAY"' || true
+    wait_for 10 sh -c "xdotool search --class trayer" || true
+fi
+
+"$@"

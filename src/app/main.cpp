@@ -3,11 +3,33 @@
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QTextStream>
-#include <cstdio>
+#include <memory>
+
+// Dispatch only: each subcommand is a function of its arguments and streams. Commands that
+// show something on screen get a QApplication; the rest run without a display.
 
 namespace {
+
+using CommandFunction = int (*)(const QStringList &args, CommandContext &context);
+
+struct Command {
+    const char *name;
+    CommandFunction run;
+};
+
+const Command commands[] = {
+    {"format", runFormatCommand},
+};
+
+bool needsDisplay(const QStringList &args)
+{
+    if (args.isEmpty())
+        return true; // the tray program
+    return args.first() == u"pick" && args.contains(QStringLiteral("--print"));
+}
 
 int runSubcommand(const QString &name, const QStringList &args)
 {
@@ -16,8 +38,9 @@ int runSubcommand(const QString &name, const QStringList &args)
     SettingsStore store(SettingsStore::standardFilePath());
     SettingsViewModel::registerDefaults(store);
     CommandContext context{out, err, store};
-    if (name == u"format")
-        return runFormatCommand(args, context);
+    for (const Command &command : commands)
+        if (name == QLatin1String(command.name))
+            return command.run(args, context);
     err << "vantle: the command \"" << name << "\" is not available in this build\n";
     return ExitStatus::usage;
 }
@@ -26,12 +49,19 @@ int runSubcommand(const QString &name, const QStringList &args)
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
+    QStringList args;
+    for (int i = 1; i < argc; ++i)
+        args << QString::fromLocal8Bit(argv[i]);
+
+    std::unique_ptr<QCoreApplication> app;
+    if (needsDisplay(args))
+        app = std::make_unique<QApplication>(argc, argv);
+    else
+        app = std::make_unique<QCoreApplication>(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Vantle"));
     QCoreApplication::setApplicationName(QStringLiteral("Vantle"));
     QCoreApplication::setApplicationVersion(QString::fromLatin1(BuildInfo::version));
 
-    const QStringList args = QCoreApplication::arguments().mid(1);
     QTextStream out(stdout);
     if (!args.isEmpty() && isSubcommand(args.first()))
         return runSubcommand(args.first(), args.mid(1));
@@ -43,6 +73,7 @@ int main(int argc, char **argv)
         QTextStream(stderr) << "vantle: unknown command \"" << args.first() << "\"\n\n" << commandLineHelp();
         return ExitStatus::usage;
     }
+    // The tray program arrives with the application shell; until then, the help.
     out << commandLineHelp();
     return ExitStatus::ok;
 }

@@ -1,0 +1,63 @@
+#include "screens/Symbols.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace {
+
+QString resourcePath(const QString &name)
+{
+    return QStringLiteral(":/symbols/") + name + QStringLiteral(".svg");
+}
+
+} // namespace
+
+namespace Symbols {
+
+bool exists(const QString &name)
+{
+    return QFile::exists(resourcePath(name));
+}
+
+void paint(QPainter &painter, const QRectF &rect, const QString &name, const QColor &color)
+{
+    const QPixmap tinted = pixmap(name, qCeil(qMax(rect.width(), rect.height())), color, painter.device()
+                                      ? painter.device()->devicePixelRatioF()
+                                      : 1.0);
+    if (tinted.isNull())
+        return;
+    const qreal side = qMin(rect.width(), rect.height());
+    const QRectF target(rect.center().x() - side / 2, rect.center().y() - side / 2, side, side);
+    painter.drawPixmap(target, tinted, QRectF(tinted.rect()));
+}
+
+QPixmap pixmap(const QString &name, int size, const QColor &color, qreal devicePixelRatio)
+{
+    QSvgRenderer renderer(resourcePath(name));
+    if (!renderer.isValid() || size <= 0)
+        return {};
+    const int device = qCeil(size * devicePixelRatio);
+    QPixmap result(device, device);
+    result.fill(Qt::transparent);
+    QPainter p(&result);
+    p.setRenderHint(QPainter::Antialiasing);
+    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+    renderer.render(&p, QRectF(0, 0, device, device));
+    // Keep the shape, take the colour.
+    p.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    p.fillRect(result.rect(), color);
+    p.end();
+    result.setDevicePixelRatio(devicePixelRatio);
+    return result;
+}
+
+QIcon icon(const QString &name, int size, const QColor &color)
+{
+    QIcon result;
+    result.addPixmap(pixmap(name, size, color, 1.0));
+    result.addPixmap(pixmap(name, size, color, 2.0));
+    return result;
+}
+
+} // namespace Symbols

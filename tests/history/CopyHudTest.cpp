@@ -152,6 +152,31 @@ TEST_F(CopyHudTest, AFadeOutUnderWayNeverEndsTheNextMessage)
     EXPECT_GE(shown.elapsed(), 1750); // the second lived its full time
 }
 
+TEST_F(CopyHudTest, PaintsATranslucentDarkCapsuleWithWhiteText)
+{
+    hud.showHUD(sampleMessage);
+    QWidget *window = hud.currentWindow();
+    ASSERT_TRUE(window);
+    const QImage image = window->grab().toImage().convertToFormat(QImage::Format_ARGB32);
+    ASSERT_EQ(image.size(), window->size() * window->devicePixelRatio());
+    const int h = image.height(), w = image.width();
+    // Inside the capsule, away from the text: black at 0.78.
+    const QColor body = image.pixelColor(h / 2, h / 2);
+    EXPECT_NEAR(body.alphaF(), 0.78, 0.02);
+    EXPECT_EQ(body.red() + body.green() + body.blue(), 0);
+    // The corners outside the rounded ends hold at most the faint shadow.
+    for (const QPoint corner : { QPoint(0, 0), QPoint(w - 1, 0), QPoint(0, h - 1), QPoint(w - 1, h - 1) })
+        EXPECT_LT(image.pixelColor(corner).alphaF(), 0.31) << corner.x() << "," << corner.y();
+    // The bottom corners are darker than the top ones: the shadow falls 2 px down.
+    EXPECT_GT(image.pixelColor(0, h - 1).alphaF(), image.pixelColor(0, 0).alphaF());
+    // White text somewhere along the middle line.
+    int white = 0;
+    for (int x = 0; x < w; ++x)
+        for (int y = h / 3; y < 2 * h / 3; ++y)
+            white += image.pixelColor(x, y).lightness() > 200 && image.pixelColor(x, y).alpha() == 255;
+    EXPECT_GT(white, 20);
+}
+
 // Focus and clicks need a window manager and a real server.
 TEST_F(CopyHudTest, NeverTakesFocusAndLetsClicksThrough)
 {

@@ -25,6 +25,7 @@ const Command commands[] = {
     {"format", runFormatCommand},
     {"pick", runPickRequest},
     {"toggle", runToggleCommand},
+    {"export", runExportCommand},
 };
 
 bool needsDisplay(const QStringList &args)

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "history/CopyConfirmation.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+class QWidget;
+
+// The copy confirmation: a small dark capsule with one line of white text ("Copied #FF6B36")
+// floating 100 px above the middle of the screen under the pointer. It fades in over 0.2 s,
+// starts fading out 1.5 s after it appeared and is gone 0.3 s later. It takes no input and
+// never takes focus from the application the user works in. A new message replaces the
+// capsule on screen at once, without a fade. Main thread only; a fresh window per message.
+//
+// Where the windowing system places windows itself (Wayland), the capsule still shows, where
+// the compositor puts it; where no window can be shown at all, nothing happens.
+class CopyHud : public QObject, public CopyConfirmation {
+    Q_OBJECT
+public:
+    explicit CopyHud(QObject *parent = nullptr);
+    ~CopyHud() override;
+
+    void showHUD(const QString &message) override;
+
+    // The capsule window on screen (also while fading out), or null.
+    QWidget *currentWindow() const;
+
+    // The capsule's size and place for `message` on a screen whose usable area is `available`
+    // (without panels and docks), in the screen's logical pixels.
+    static QSize capsuleSize(const QString &message);
+    static QPoint capsulePosition(const QRect &available, const QSize &size);
+
+private:
+    void dismiss();
+
+    QPointer<QWidget> m_current;
+    // Runs only while a capsule is on screen: nothing ticks while the program sits idle.
+    QTimer m_dismissal;
+};

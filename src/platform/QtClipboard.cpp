@@ -1,0 +1,19 @@
+#include "platform/QtClipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+bool QtClipboard::setText(const QString &text)
+{
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return false;
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    clipboard->setText(text, QClipboard::Clipboard);
+    // Owning the selection means other programs will receive our text. Platforms that keep
+    // the clipboard inside the process never claim ownership; there our own data is the proof.
+    if (clipboard->ownsClipboard())
+        return true;
+    const QMimeData *data = clipboard->mimeData(QClipboard::Clipboard);
+    return data && data->hasText() && data->text() == text;
+}

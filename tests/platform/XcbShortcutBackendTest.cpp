@@ -34,6 +34,20 @@ void key(const QString &chord)
     xdotool({QStringLiteral("key"), QStringLiteral("--clearmodifiers"), chord});
 }
 
+// A failed test must not leave a lock on for the next one.
+void turnLocksOff()
+{
+    QProcess xset;
+    xset.start(QStringLiteral("xset"), {QStringLiteral("q")});
+    xset.waitForFinished(10000);
+    const QString state = QString::fromLatin1(xset.readAllStandardOutput()).simplified();
+    for (const char *lock : {"Caps Lock", "Num Lock"}) {
+        if (state.contains(QLatin1String(lock) + QStringLiteral(": on")))
+            QProcess::execute(QStringLiteral("xdotool"),
+                {QStringLiteral("key"), QString::fromLatin1(lock).replace(QLatin1Char(' '), QLatin1Char('_'))});
+    }
+}
+
 class XcbShortcuts : public ::testing::Test {
 protected:
     void SetUp() override
@@ -54,6 +68,7 @@ protected:
         qInstallMessageHandler(previousHandler);
         if (manager)
             manager->unregisterAll();
+        turnLocksOff();
         EXPECT_EQ(g_messages, QStringList()) << "nothing is reported";
     }
 

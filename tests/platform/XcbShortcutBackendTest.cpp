@@ -1,0 +1,219 @@
+// Global shortcuts on a real X server (run inside tests/desktop/x11-session.sh): real grabs,
+// real key presses from xdotool through the XTest extension.
+#include "hotkeys/HotkeyManager.h"
+#include "platform/XcbShortcutBackend.h"
+#include "services/PreferenceKeys.h"
+#include "support/TempSettings.h"
+
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace PreferenceKeys;
+
+namespace {
+
+QStringList g_messages;
+
+void collectMessages(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    g_messages << message;
+}
+
+void xdotool(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral("xdotool"), arguments);
+    ASSERT_TRUE(process.waitForFinished(10000));
+    ASSERT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+}
+
+void key(const QString &chord)
+{
+    xdotool({QStringLiteral("key"), QStringLiteral("--clearmodifiers"), chord});
+}
+
+// A failed test must not leave a lock on for the next one.
+void turnLocksOff()
+{
+    QProcess xset;
+    xset.start(QStringLiteral("xset"), {QStringLiteral("q")});
+    xset.waitForFinished(10000);
+    const QString state = QString::fromLatin1(xset.readAllStandardOutput()).simplified();
+    for (const char *lock : {"Caps Lock", "Num Lock"}) {
+        if (state.contains(QLatin1String(lock) + QStringLiteral(": on")))
+            QProcess::execute(QStringLiteral("xdotool"),
+                {QStringLiteral("key"), QString::fromLatin1(lock).replace(QLatin1Char(' '), QLatin1Char('_'))});
+    }
+}
+
+class XcbShortcuts : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (qEnvironmentVariable("QT_QPA_PLATFORM") != QLatin1String("xcb"))
+            GTEST_SKIP() << "needs a real X server (tests/desktop/x11-session.sh)";
+        backend = XcbShortcutBackend::create();
+        ASSERT_NE(backend, nullptr);
+        manager = std::make_unique<HotkeyManager>(*settings.store, *backend);
+        manager->installEventHandler();
+        setShortcut(pickKeyCode, pickModifiers, 8, 655360);    // Alt+Shift+C
+        setShortcut(popoverKeyCode, popoverModifiers, 7, 655360); // Alt+Shift+X
+        g_messages.clear();
+        previousHandler = qInstallMessageHandler(collectMessages);
+    }
+    void TearDown() override
+    {
+        qInstallMessageHandler(previousHandler);
+        if (manager)
+            manager->unregisterAll();
+        turnLocksOff();
+        EXPECT_EQ(g_messages, QStringList()) << "nothing is reported";
+    }
+
+    void setShortcut(const QString &codeKey, const QString &modifiersKey, qint64 code, qint64 modifiers)
+    {
+        settings.store->setInteger(codeKey, code);
+        settings.store->setInteger(modifiersKey, modifiers);
+    }
+
+    // Presses `chord`, then a marker chord on the popover shortcut, and waits for the marker:
+    // X delivers events in order, so by then every effect of `chord` has arrived.
+    void pressThenMarker(const QString &chord, const QString &marker = QStringLiteral("alt+shift+x"))
+    {
+        const int before = popover->count();
+        key(chord);
+        key(marker);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return popover->count() > before; }, 10000)) << "marker never arrived";
+    }
+
+    TempSettings settings;
+    std::unique_ptr<XcbShortcutBackend> backend;
+    std::unique_ptr<HotkeyManager> manager;
+    std::unique_ptr<QSignalSpy> pick;
+    std::unique_ptr<QSignalSpy> popover;
+    QtMessageHandler previousHandler = nullptr;
+
+    void spy()
+    {
+        pick = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::pickHotkeyFired);
+        popover = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::popoverHotkeyFired);
+    }
+};
+
+} // namespace
+
+TEST_F(XcbShortcuts, PickFiresOnceWhateverLockIsOn)
+{
+    manager->reregisterAll();
+    spy();
+    const QStringList locks[] = {{}, {QStringLiteral("Num_Lock")}, {QStringLiteral("Caps_Lock")},
+        {QStringLiteral("Num_Lock"), QStringLiteral("Caps_Lock")}};
+    for (const QStringList &lock : locks) {
+        SCOPED_TRACE(lock.join(QLatin1Char('+')).toStdString());
+        for (const QString &k : lock)
+            xdotool({QStringLiteral("key"), k});
+        pick->clear();
+        pressThenMarker(QStringLiteral("alt+shift+c"));
+        for (const QString &k : lock)
+            xdotool({QStringLiteral("key"), k}); // off again
+        EXPECT_EQ(pick->count(), 1);
+    }
+}
+
+TEST_F(XcbShortcuts, HeldKeyFiresOnceThroughAutoRepeat)
+{
+    manager->reregisterAll();
+    spy();
+    // Repeat after 100 ms at 50 per second, so half a second of holding repeats many times.
+    QProcess::execute(QStringLiteral("xset"), {QStringLiteral("r"), QStringLiteral("rate"), QStringLiteral("100"),
+                                                  QStringLiteral("50")});
+    xdotool({QStringLiteral("keydown"), QStringLiteral("alt+shift+c")});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() > 0; }, 10000));
+    QTest::qWait(600); // the hold itself: auto-repeat needs the key down for a while
+    xdotool({QStringLiteral("keyup"), QStringLiteral("alt+shift+c")});
+    pressThenMarker(QStringLiteral("alt+shift+c"));
+    QProcess::execute(QStringLiteral("xset"), {QStringLiteral("r"), QStringLiteral("rate")});
+    EXPECT_EQ(pick->count(), 2) << "one for the held press, one for the next press";
+}
+
+TEST_F(XcbShortcuts, UnsetPopoverRegistersNothing)
+{
+    setShortcut(popoverKeyCode, popoverModifiers, -1, 655360);
+    manager->reregisterAll();
+    spy();
+    key(QStringLiteral("alt+shift+x"));
+    key(QStringLiteral("alt+shift+c"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() > 0; }, 10000));
+    EXPECT_EQ(popover->count(), 0);
+    EXPECT_EQ(pick->count(), 1);
+}
+
+TEST_F(XcbShortcuts, ChangedShortcutReleasesTheOldCombinationAtOnce)
+{
+    manager->reregisterAll();
+    spy();
+    setShortcut(pickKeyCode, pickModifiers, 8, 262144 | 524288); // Ctrl+Alt+C
+    manager->reregisterAll();
+    pressThenMarker(QStringLiteral("alt+shift+c"));
+    EXPECT_EQ(pick->count(), 0);
+    pressThenMarker(QStringLiteral("ctrl+alt+c"));
+    EXPECT_EQ(pick->count(), 1);
+}
+
+TEST_F(XcbShortcuts, CombinationHeldByAnotherClientLeavesTheOtherShortcutWorking)
+{
+    QProcess helper;
+    helper.start(QStringLiteral(XGRAB_HELPER), {QStringLiteral("c")});
+    ASSERT_TRUE(helper.waitForReadyRead(10000));
+    ASSERT_EQ(helper.readLine().trimmed(), QByteArray("grabbed"));
+
+    manager->reregisterAll();
+    spy();
+    pressThenMarker(QStringLiteral("alt+shift+c"));
+    EXPECT_EQ(pick->count(), 0) << "the other client has it";
+    // With Num Lock on our own grab of the same key still works: only the taken variant failed.
+    xdotool({QStringLiteral("key"), QStringLiteral("Num_Lock")});
+    pressThenMarker(QStringLiteral("alt+shift+c"));
+    xdotool({QStringLiteral("key"), QStringLiteral("Num_Lock")});
+    EXPECT_EQ(pick->count(), 1);
+    helper.closeWriteChannel();
+    EXPECT_TRUE(helper.waitForFinished(10000));
+}
+
+TEST_F(XcbShortcuts, SameCombinationForBothGoesToPick)
+{
+    setShortcut(popoverKeyCode, popoverModifiers, 8, 655360);
+    manager->reregisterAll();
+    spy();
+    key(QStringLiteral("alt+shift+c"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() > 0; }, 10000));
+    EXPECT_EQ(popover->count(), 0);
+
+    // Releasing pick alone must not take the combination from under the popover's record.
+    backend->unregisterShortcut(HotkeyManager::pickId);
+    setShortcut(popoverKeyCode, popoverModifiers, 7, 655360);
+    manager->registerPopoverHotkey();
+    pressThenMarker(QStringLiteral("alt+shift+c"));
+    EXPECT_EQ(pick->count(), 1);
+}
+
+TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)
+{
+    manager->reregisterAll();
+    spy();
+    // Move the keysym c to another key, as a layout switch does.
+    QProcess::execute(QStringLiteral("xmodmap"), {QStringLiteral("-e"), QStringLiteral("keycode 54 = y Y")});
+    QProcess::execute(QStringLiteral("xmodmap"), {QStringLiteral("-e"), QStringLiteral("keycode 29 = c C")});
+    const int before = pick->count();
+    // xdotool types by keysym: "c" now sits on key code 29.
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] {
+            key(QStringLiteral("alt+shift+c"));
+            return QTest::qWaitFor([&] { return pick->count() > before; }, 500);
+        },
+        10000));
+    QProcess::execute(QStringLiteral("xmodmap"), {QStringLiteral("-e"), QStringLiteral("keycode 54 = c C")});
+    QProcess::execute(QStringLiteral("xmodmap"), {QStringLiteral("-e"), QStringLiteral("keycode 29 = y Y")});
+}

@@ -24,6 +24,12 @@ inline constexpr int usage = 2; // the command was given something it does not u
 // vantle format [--format NAME | --all] [--contrast] COLOR...
 int runFormatCommand(const QStringList &args, CommandContext &context);
 
+// vantle pick --print [--format NAME]: picks in this process and prints the colour; exit 1 when
+// nothing was picked. Needs a QGuiApplication.
+int runPickPrintCommand(const QStringList &args, CommandContext &context);
+// vantle pick [...]: dispatches --print; asking the running instance comes with the tray program.
+int runPickCommand(const QStringList &args, CommandContext &context);
+
 // The overall help text and the names of the subcommands.
 QString commandLineHelp();
 bool isSubcommand(const QString &word);

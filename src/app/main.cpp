@@ -22,6 +22,7 @@ struct Command {
 
 const Command commands[] = {
     {"format", runFormatCommand},
+    {"pick", runPickCommand},
 };
 
 bool needsDisplay(const QStringList &args)

@@ -90,19 +90,23 @@ void PortalScreenSampler::pick(Completion completion)
 
 void PortalScreenSampler::follow(const QString &path)
 {
-    stopFollowing();
     m_followedPath = path;
-    m_bus.connect(portalService, path, requestInterface, QStringLiteral("Response"), this,
-                  SLOT(handleResponse(uint, QVariantMap)));
+    if (m_isSubscribed)
+        return;
+    // Every Request's Response from the portal, filtered by path on arrival: a subscription
+    // made only once the reply names another handle would miss a Response sent right after it.
+    m_isSubscribed = m_bus.connect(portalService, QString(), requestInterface, QStringLiteral("Response"), this,
+                                   SLOT(handleResponse(uint, QVariantMap)));
 }
 
 void PortalScreenSampler::stopFollowing()
 {
-    if (m_followedPath.isEmpty())
-        return;
-    m_bus.disconnect(portalService, m_followedPath, requestInterface, QStringLiteral("Response"), this,
-                     SLOT(handleResponse(uint, QVariantMap)));
     m_followedPath.clear();
+    if (!m_isSubscribed)
+        return;
+    m_bus.disconnect(portalService, QString(), requestInterface, QStringLiteral("Response"), this,
+                     SLOT(handleResponse(uint, QVariantMap)));
+    m_isSubscribed = false;
 }
 
 void PortalScreenSampler::handleResponse(uint response, const QVariantMap &results)

@@ -10,9 +10,9 @@
 // The desktop's own colour picker through the XDG desktop portal (Wayland, where no client may
 // read the screen, and any desktop that offers it): org.freedesktop.portal.Screenshot.PickColor.
 //
-// The portal answers through a Request object: we listen on the request path we can predict
-// before calling, because the Response may arrive before the method's reply; when the reply
-// names another path (older portals), we follow that one. Everything is asynchronous: a missing
+// The portal answers through a Request object: we listen before calling and accept the Response
+// of the request path we can predict, because it may arrive before the method's reply; when the
+// reply names another path (older portals), we follow that one instead. Everything is asynchronous: a missing
 // portal or an error ends the pick with nothing, quietly, as a cancel does.
 class PortalScreenSampler : public QObject, public ScreenColorSampler, protected QDBusContext {
     Q_OBJECT
@@ -39,4 +39,5 @@ private:
     bool m_isPicking = false;
     quint64 m_pickNumber = 0;
     QString m_followedPath;
+    bool m_isSubscribed = false;
 };

@@ -25,5 +25,12 @@ test: build
 install: build
 	cmake --install $(BUILD_DIR) --prefix $(PREFIX)
 
+# Release build of the benchmarks, run under private X servers; results in build/bench/results.md.
+bench:
+	@scripts/ensure-deps.sh test
+	cmake -S . -B $(BUILD_DIR)/bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DVANTLE_BUILD_TESTS=OFF -DVANTLE_BUILD_BENCH=ON $(CMAKE_FLAGS)
+	cmake --build $(BUILD_DIR)/bench -j $(JOBS) --target sampler_bench
+	bench/run-bench.sh $(BUILD_DIR)/bench/bin/sampler_bench $(BUILD_DIR)/bench/results.md
+
 clean:
 	rm -rf $(BUILD_DIR)

@@ -23,9 +23,9 @@ struct Command {
 
 const Command commands[] = {
     {"format", runFormatCommand},
-    {"pick", runPickRequest},
     {"toggle", runToggleCommand},
     {"export", runExportCommand},
+    {"pick", runPickCommand},
 };
 
 bool needsDisplay(const QStringList &args)

@@ -1,0 +1,168 @@
+// Measures the X11 sampler as the user meets it, on the X server named by DISPLAY:
+//   - trigger → overlay mapped: from pick() to the overlay's MapNotify, seen on a second X
+//     connection that listens to the root window (event driven, as another client sees it);
+//   - trigger → first frame: from pick() until the loupe's pixels are on the screen;
+//   - loupe redraw per pointer move: a mouse move delivered to the overlay until the new frame
+//     has left for the server and the server has answered a round trip.
+// Prints one Markdown table row per measure: median, minimum, maximum over the runs.
+#include "platform/SamplerOverlay.h"
+#include "platform/X11ScreenSampler.h"
+#include "services/SettingsStore.h"
+#include "services/SettingsViewModel.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPainter>
+#include <QScreen>
+#include <QSocketNotifier>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtGui/qguiapplication_platform.h>
+#include <xcb/xcb.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+namespace {
+
+// Bright, saturated bands of every hue: a desktop where the loupe's dark label stands out.
+class ColourfulScene : public QWidget {
+public:
+    ColourfulScene()
+        : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint)
+    {
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        for (int x = 0; x < width(); x += 8)
+            for (int y = 0; y < height(); y += 64)
+                painter.fillRect(x, y, 8, 64, QColor::fromHsv((x / 8 * 7 + y / 64 * 40) % 360, 150, 255));
+    }
+};
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    const size_t n = values.size();
+    return n % 2 ? values[n / 2] : (values[n / 2 - 1] + values[n / 2]) / 2;
+}
+
+void row(const char *what, const std::vector<double> &ms)
+{
+    std::printf("| %s | %.2f | %.2f | %.2f | %zu |\n", what, median(ms), *std::min_element(ms.begin(), ms.end()),
+                *std::max_element(ms.begin(), ms.end()), ms.size());
+}
+
+bool isDark(xcb_connection_t *connection, xcb_window_t root, QPoint at)
+{
+    xcb_get_image_reply_t *reply = xcb_get_image_reply(
+        connection, xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, root, int16_t(at.x()), int16_t(at.y()), 1, 1, ~0u),
+        nullptr);
+    if (!reply)
+        return false;
+    const uint32_t pixel = *reinterpret_cast<const uint32_t *>(xcb_get_image_data(reply));
+    std::free(reply);
+    return qRed(pixel) < 80 && qGreen(pixel) < 80 && qBlue(pixel) < 80;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    const int runs = argc > 1 ? std::atoi(argv[1]) : 15;
+    auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (!x11) {
+        std::fprintf(stderr, "sampler bench: needs an X server (QT_QPA_PLATFORM=xcb)\n");
+        return 1;
+    }
+    QTemporaryDir dir;
+    SettingsStore store(dir.filePath(QStringLiteral("Vantle.conf")));
+    SettingsViewModel::registerDefaults(store);
+
+    ColourfulScene scene;
+    scene.setGeometry(QGuiApplication::primaryScreen()->geometry());
+    scene.show();
+    if (!QTest::qWaitForWindowExposed(&scene)) {
+        std::fprintf(stderr, "sampler bench: the scene window never appeared\n");
+        return 1;
+    }
+    QTest::qWait(200);
+
+    // The outside observer: its own connection, told of every window mapped on the root.
+    xcb_connection_t *observer = xcb_connect(nullptr, nullptr);
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(observer)).data->root;
+    const uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(observer, root, XCB_CW_EVENT_MASK, &mask);
+    xcb_flush(observer);
+
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const QPoint hotspot = screen.center();
+    xcb_warp_pointer(x11->connection(), XCB_NONE, root, 0, 0, 0, 0, int16_t(hotspot.x()), int16_t(hotspot.y()));
+    xcb_flush(x11->connection());
+
+    X11ScreenSampler sampler(x11->connection(), store);
+    std::vector<double> mapped, firstFrame, redraw;
+    QElapsedTimer clock;
+    for (int run = 0; run < runs + 1; ++run) { // the first run warms caches and is not counted
+        bool done = false;
+        double mapMs = -1;
+        QSocketNotifier notifier(xcb_get_file_descriptor(observer), QSocketNotifier::Read);
+        auto drain = [&] {
+            while (xcb_generic_event_t *event = xcb_poll_for_event(observer)) {
+                if ((event->response_type & ~0x80) == XCB_MAP_NOTIFY && mapMs < 0 && !sampler.overlays().empty()
+                    && reinterpret_cast<xcb_map_notify_event_t *>(event)->window
+                        == xcb_window_t(sampler.overlays().front()->winId()))
+                    mapMs = clock.nsecsElapsed() / 1e6;
+                std::free(event);
+            }
+        };
+        QObject::connect(&notifier, &QSocketNotifier::activated, drain);
+        clock.start();
+        sampler.pick([&](std::optional<SampledColor>) { done = true; });
+        while (mapMs < 0 && clock.elapsed() < 5000) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+            drain();
+        }
+        // The loupe's label, dark on the bright scene, is on the screen: the first frame is there.
+        const int gap = int(18 * QGuiApplication::primaryScreen()->devicePixelRatio());
+        const int d = int(132 * QGuiApplication::primaryScreen()->devicePixelRatio());
+        const QPoint label(hotspot.x() + 1 + gap + d / 2, hotspot.y() + 1 + gap + d + int(8 * QGuiApplication::primaryScreen()->devicePixelRatio()));
+        while (!isDark(observer, root, label) && clock.elapsed() < 5000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+        const double frameMs = clock.nsecsElapsed() / 1e6;
+
+        SamplerOverlay *overlay = sampler.overlays().front();
+        std::vector<double> moves;
+        for (int i = 0; i < 60; ++i) {
+            const QPoint at = screen.center() - screen.topLeft() + QPoint((i * 7) % 200 - 100, (i * 13) % 120 - 60);
+            QElapsedTimer move;
+            move.start();
+            QTest::mouseMove(overlay, at);
+            QCoreApplication::processEvents();
+            xcb_discard_reply(x11->connection(), xcb_get_input_focus(x11->connection()).sequence);
+            free(xcb_get_input_focus_reply(x11->connection(), xcb_get_input_focus(x11->connection()), nullptr));
+            moves.push_back(move.nsecsElapsed() / 1e6);
+        }
+        QTest::keyClick(overlay, Qt::Key_Escape);
+        while (!done)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
+        xcb_warp_pointer(x11->connection(), XCB_NONE, root, 0, 0, 0, 0, int16_t(hotspot.x()), int16_t(hotspot.y()));
+        QTest::qWait(50);
+        if (run == 0)
+            continue;
+        mapped.push_back(mapMs);
+        firstFrame.push_back(frameMs);
+        redraw.push_back(median(moves));
+    }
+    row("trigger → overlay mapped (ms)", mapped);
+    row("trigger → first frame with loupe on screen (ms)", firstFrame);
+    row("loupe redraw per pointer move (ms, median of 60 moves per run)", redraw);
+    xcb_disconnect(observer);
+    return 0;
+}

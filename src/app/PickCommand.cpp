@@ -1,0 +1,63 @@
+#include "app/ColorArgument.h"
+#include "app/CommandLine.h"
+#include "app/RemoteCommands.h"
+#include "platform/ScreenSamplerFactory.h"
+#include "services/SettingsViewModel.h"
+
+#include <QCoreApplication>
+
+// vantle pick --print: the sampler runs in this process, the colour goes to standard output;
+// neither the history nor the clipboard is touched.
+
+int runPickPrintCommand(const QStringList &args, CommandContext &context)
+{
+    std::optional<ColorFormat> format;
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        const OptionWord option = splitOptionWord(args[i]);
+        if (option.name == u"--print") {
+            continue;
+        } else if (option.name == u"--format" || option.name == u"-f") {
+            QString name;
+            if (option.inlineValue)
+                name = *option.inlineValue;
+            else if (i + 1 < args.size())
+                name = args[++i];
+            else {
+                context.err << "vantle pick: --format needs a format name; accepted: " << acceptedFormatsText()
+                            << Qt::endl;
+                return ExitStatus::usage;
+            }
+            format = parseFormatArgument(name);
+            if (!format) {
+                context.err << "vantle pick: unknown format \"" << name << "\"; accepted: " << acceptedFormatsText()
+                            << Qt::endl;
+                return ExitStatus::usage;
+            }
+        } else {
+            context.err << "vantle pick: unknown option \"" << args[i] << "\"" << Qt::endl;
+            return ExitStatus::usage;
+        }
+    }
+
+    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(context.store);
+    int status = ExitStatus::failure;
+    sampler->pick([&](std::optional<SampledColor> color) {
+        if (color) {
+            // Read when the pick ends, as the tray program does, so a change made meanwhile counts.
+            const ColorFormat shown = format.value_or(SettingsViewModel::currentFormat(context.store));
+            context.out << formatColor(color->red, color->green, color->blue, color->alpha, shown) << Qt::endl;
+            status = ExitStatus::ok;
+        }
+        QCoreApplication::exit(status);
+    });
+    QCoreApplication::exec();
+    return status;
+}
+
+int runPickCommand(const QStringList &args, CommandContext &context)
+{
+    for (const QString &word : args)
+        if (splitOptionWord(word).name == u"--print")
+            return runPickPrintCommand(args, context);
+    return runPickRequest(args, context);
+}

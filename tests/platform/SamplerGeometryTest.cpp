@@ -1,0 +1,149 @@
+#include "platform/SamplerGeometry.h"
+
+#include <gtest/gtest.h>
+
+using namespace SamplerGeometry;
+
+// Points in failure messages.
+std::ostream &operator<<(std::ostream &os, const QPoint &p)
+{
+    return os << '(' << p.x() << ", " << p.y() << ')';
+}
+void PrintTo(const QPoint &p, std::ostream *os)
+{
+    *os << p;
+}
+
+namespace {
+
+// Qt hands a mouse position as the device pixel divided by the scale; this is that position.
+QPointF localFromDevice(const ScreenArea &screen, const QPoint &device)
+{
+    return QPointF(device - screen.device.topLeft()) / screen.scale;
+}
+
+} // namespace
+
+TEST(SamplerGeometry, EveryDevicePixelIsReachableAtEachScale)
+{
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        const ScreenArea screen = screenArea(QRect(QPoint(1920, 0), QSize(int(2560 / scale), int(1440 / scale))), scale);
+        for (int x = screen.device.left(); x <= screen.device.left() + 40; ++x)
+            for (const int y : {0, 1, 2, 3, 719, screen.device.bottom()}) {
+                const QPoint device(x, y);
+                ASSERT_EQ(deviceFromLocalLogical(screen, localFromDevice(screen, device)), device)
+                    << "scale " << scale;
+                ASSERT_EQ(deviceFromLocalLogical(screen, logicalFromDevice(screen, device) - screen.logical.topLeft()),
+                          device)
+                    << "scale " << scale;
+            }
+    }
+}
+
+TEST(SamplerGeometry, ScreenAreasKeepTheirOriginAndScaleTheirSize)
+{
+    const ScreenArea half = screenArea(QRect(1920, 0, 2560, 1440), 1.5);
+    EXPECT_EQ(half.device, QRect(1920, 0, 3840, 2160));
+    // Positions inside a logical pixel land on the device pixel under them, never the next one.
+    EXPECT_EQ(deviceFromLocalLogical(half, QPointF(10, 10)), QPoint(1935, 15));
+    EXPECT_EQ(deviceFromLocalLogical(half, QPointF(10.6, 10.6)), QPoint(1935, 15));
+    EXPECT_EQ(deviceFromLocalLogical(half, QPointF(10.7, 10.7)), QPoint(1936, 16));
+    // Positions beyond the edges stay on the screen's last pixel.
+    EXPECT_EQ(deviceFromLocalLogical(half, QPointF(2560, 1440)), QPoint(1920 + 3839, 2159));
+    EXPECT_EQ(deviceFromLocalLogical(half, QPointF(-1, -1)), QPoint(1920, 0));
+}
+
+TEST(SamplerGeometry, ArrowNudgesStopAtEdgesAndCrossOntoNeighbours)
+{
+    // A 1920x1080 screen at scale 1 with a 4K screen at scale 2 to its right.
+    const QList<ScreenArea> screens = {screenArea(QRect(0, 0, 1920, 1080), 1), screenArea(QRect(1920, 0, 1920, 1080), 2)};
+    struct Case {
+        QPoint from;
+        int dx, dy;
+        QPoint expected;
+    } cases[] = {
+        {{100, 100}, 1, 0, {101, 100}},
+        {{100, 100}, 0, -10, {100, 90}},
+        {{5, 5}, -10, -10, {0, 0}}, // a Shift+arrow at the corner stops on the corner pixel
+        {{0, 0}, -1, 0, {0, 0}},
+        {{1919, 500}, 1, 0, {1920, 500}}, // onto the next screen
+        {{1915, 500}, 10, 0, {1925, 500}},
+        {{1919, 1079}, 0, 1, {1919, 1079}}, // below the shorter screen is nowhere
+        {{1919, 1079}, 5, 5, {1924, 1084}}, // the 4K screen is 2160 device pixels tall
+        {{3839 + 1920, 2159}, 1, 1, {3839 + 1920, 2159}},
+    };
+    for (const Case &c : cases)
+        EXPECT_EQ(nudged(screens, c.from, c.dx, c.dy), c.expected) << c.from << " by " << c.dx << "," << c.dy;
+}
+
+TEST(SamplerGeometry, ZoomStepsStayWithinBounds)
+{
+    EXPECT_EQ(zoomedIn(defaultZoom), 16);
+    EXPECT_EQ(zoomedOut(defaultZoom), 10);
+    EXPECT_EQ(zoomedIn(maximumZoom), maximumZoom);
+    EXPECT_EQ(zoomedOut(minimumZoom), minimumZoom);
+    int zoom = defaultZoom;
+    for (int i = 0; i < 50; ++i)
+        zoom = zoomedIn(zoom);
+    EXPECT_EQ(zoom, maximumZoom);
+    for (int i = 0; i < 50; ++i)
+        zoom = zoomedOut(zoom);
+    EXPECT_EQ(zoom, minimumZoom);
+    for (int z = minimumZoom; z <= maximumZoom; ++z) {
+        const int across = loupePixelsAcross(132, z);
+        EXPECT_EQ(across % 2, 1) << z;
+        EXPECT_GE(across * z, 132) << "the lens must be filled at zoom " << z;
+    }
+}
+
+TEST(SamplerGeometry, LoupeFlipsToStayOnScreen)
+{
+    const QRect screen(1920, 0, 1920, 1080);
+    const QSize box(140, 170);
+    const int gap = 18;
+    struct Case {
+        QPoint hotspot;
+        QPoint expectedTopLeft;
+    } cases[] = {
+        {{2500, 500}, {2500 + 1 + gap, 500 + 1 + gap}}, // below right
+        {{3839, 500}, {3839 - gap - 140, 519}}, // right edge: flips left
+        {{2500, 1079}, {2519, 1079 - gap - 170}}, // bottom edge: flips up
+        {{3839, 1079}, {3839 - gap - 140, 1079 - gap - 170}}, // corner: both
+        {{1920, 0}, {1939, 19}}, // top-left corner: stays below right
+        {{3700, 950}, {3700 - gap - 140, 950 - gap - 170}}, // box would just overflow: flips
+        {{3662, 500}, {3662 + 1 + gap, 519}}, // box ends on the last column: no flip
+    };
+    for (const Case &c : cases) {
+        const QRect placed = loupePlacement(screen, c.hotspot, box, gap);
+        EXPECT_EQ(placed.topLeft(), c.expectedTopLeft) << c.hotspot;
+        EXPECT_TRUE(screen.contains(placed)) << c.hotspot;
+        EXPECT_FALSE(placed.contains(c.hotspot)) << "the loupe hides the hotspot at " << c.hotspot;
+    }
+    // A screen too small to flip on still holds the whole loupe.
+    const QRect tiny(0, 0, 200, 200);
+    EXPECT_TRUE(tiny.contains(loupePlacement(tiny, QPoint(100, 100), box, gap)));
+}
+
+TEST(SamplerGeometry, SamplesTheExactFrozenPixel)
+{
+    // A synthetic desktop where every pixel's colour encodes its position.
+    QImage desktop(300, 200, QImage::Format_RGB32);
+    for (int y = 0; y < desktop.height(); ++y)
+        for (int x = 0; x < desktop.width(); ++x)
+            desktop.setPixel(x, y, qRgb(x % 256, y, (x / 256) * 100));
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        const ScreenArea screen = screenArea(QRect(QPoint(0, 0), QSizeF(300 / scale, 200 / scale).toSize()), scale);
+        for (const QPoint device : {QPoint(0, 0), QPoint(299, 199), QPoint(257, 3), QPoint(1, 198), QPoint(150, 101)}) {
+            const QPoint hit = deviceFromLocalLogical(screen, localFromDevice(screen, device));
+            const auto rgb = sampleAt(desktop, QPoint(0, 0), hit);
+            ASSERT_TRUE(rgb);
+            EXPECT_EQ(rgb->red, (device.x() % 256) / 255.0) << scale << device;
+            EXPECT_EQ(rgb->green, device.y() / 255.0) << scale << device;
+            EXPECT_EQ(rgb->blue, (device.x() / 256) * 100 / 255.0) << scale << device;
+        }
+    }
+    EXPECT_FALSE(sampleAt(desktop, QPoint(0, 0), QPoint(300, 0)));
+    EXPECT_FALSE(sampleAt(desktop, QPoint(0, 0), QPoint(-1, 5)));
+    // A part of the desktop that starts elsewhere.
+    EXPECT_EQ(sampleAt(desktop, QPoint(1920, 0), QPoint(1920 + 7, 9))->red, 7 / 255.0);
+}

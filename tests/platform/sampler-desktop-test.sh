@@ -1,0 +1,79 @@
+#!/usr/bin/env bash
+# The X11 sampler on a real X server, driven as a person would: `vantle pick --print` over a
+# window of known colours, real clicks and keys through xdotool.
+set -euo pipefail
+helper="$1"
+vantle="${VANTLE_BIN:?}"
+work=$(mktemp -d)
+pids=()
+cleanup() {
+    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
+    wait 2>/dev/null || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+fail() { echo "FAIL: $*" >&2; exit 1; }
+
+# Left half #3A7BD5, right half #D5603A: x 100..299 and 300..499, y 100..399.
+"$helper" target 100 100 400 300 '#3A7BD5' '#D5603A' "$work/presses" >"$work/target.out" &
+pids+=($!)
+for _ in $(seq 200); do grep -q ready "$work/target.out" 2>/dev/null && break; sleep 0.05; done
+grep -q ready "$work/target.out" || fail "the target window did not appear"
+
+# start_pick FORMAT: starts the sampler and waits until it holds the pointer grab.
+start_pick() {
+    "$vantle" pick --print --format "$1" >"$work/out" 2>"$work/err" &
+    pick_pid=$!
+    "$helper" wait-grab 20 || fail "the sampler never grabbed the pointer: $(cat "$work/err")"
+}
+finish_pick() { # finish_pick EXPECTED_STATUS
+    local status=0
+    wait "$pick_pid" || status=$?
+    [[ $status == "$1" ]] || fail "exit status $status, expected $1; stderr: $(cat "$work/err")"
+}
+
+# A click picks the exact pixel under it and does not reach the window beneath.
+xdotool mousemove 150 200
+start_pick hex
+xdotool click 1
+finish_pick 0
+[[ "$(cat "$work/out")" == "#3A7BD5" ]] || fail "click picked '$(cat "$work/out")', expected #3A7BD5"
+
+# Escape cancels: status 1, nothing printed.
+start_pick hex
+xdotool key Escape
+finish_pick 1
+[[ ! -s "$work/out" ]] || fail "a cancelled pick printed '$(cat "$work/out")'"
+
+# A right click cancels too.
+start_pick hex
+xdotool click 3
+finish_pick 1
+[[ ! -s "$work/out" ]] || fail "a right click printed '$(cat "$work/out")'"
+
+# Arrow keys move one device pixel: from the last blue column, Right then Return picks orange;
+# the real pointer moved with it, so a later pick starts there.
+xdotool mousemove 299 200
+start_pick rgb
+xdotool key Right Return
+finish_pick 0
+[[ "$(cat "$work/out")" == "rgb(213, 96, 58)" ]] || fail "after Right, picked '$(cat "$work/out")'"
+start_pick hexLower
+xdotool key Left space
+finish_pick 0
+[[ "$(cat "$work/out")" == "#3a7bd5" ]] || fail "the pointer did not follow the nudge: '$(cat "$work/out")'"
+
+# Shift+arrow moves ten pixels.
+xdotool mousemove 290 200
+start_pick hex
+xdotool key shift+Right Return
+finish_pick 0
+[[ "$(cat "$work/out")" == "#D5603A" ]] || fail "Shift+Right did not move ten pixels: '$(cat "$work/out")'"
+
+[[ ! -s "$work/presses" ]] || fail "clicks reached the window beneath: $(cat "$work/presses")"
+
+# Without --print, the command explains itself and leaves the screen alone.
+status=0
+"$vantle" pick 2>"$work/err" >/dev/null || status=$?
+[[ $status == 2 ]] && grep -q '^vantle pick: ' "$work/err" || fail "plain 'vantle pick' gave $status"
+echo "sampler desktop test passed"

@@ -17,8 +17,9 @@
 
 namespace {
 
-// The detail screen scrolls inside this height so the popup keeps about the list's size.
-constexpr int maximumContentHeight = 440;
+// Tall enough for the whole screen at the usual font sizes (a scroll bar would take width from
+// the format values), short enough for a 768-pixel screen; larger fonts scroll.
+constexpr int maximumContentHeight = 600;
 constexpr int checkMarkMilliseconds = 150;
 constexpr int resetMilliseconds = 200;
 

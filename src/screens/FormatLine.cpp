@@ -85,6 +85,15 @@ void FormatLine::keyPressEvent(QKeyEvent *event)
     QAbstractButton::keyPressEvent(event);
 }
 
+void FormatLine::focusInEvent(QFocusEvent *event)
+{
+    // A ring only when the user moved there with the keyboard; the popup opening or a click
+    // gives focus too, and a ring there would only look like a stray selection.
+    m_showsFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
+        || event->reason() == Qt::ShortcutFocusReason;
+    QAbstractButton::focusInEvent(event);
+}
+
 void FormatLine::enterEvent(QEnterEvent *event)
 {
     m_isHovered = true;
@@ -104,12 +113,12 @@ void FormatLine::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QPalette pal = palette();
-    if (m_isHovered || isDown() || hasFocus()) {
+    if (m_isHovered || isDown() || (hasFocus() && m_showsFocus)) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(Theme::withAlpha(Theme::text(pal), isDown() ? 0.1 : 0.06));
         painter.drawRect(rect());
     }
-    if (hasFocus()) {
+    if (hasFocus() && m_showsFocus) {
         painter.setPen(QPen(pal.color(QPalette::Highlight), 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);

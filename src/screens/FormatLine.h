@@ -31,6 +31,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
 
@@ -39,6 +40,7 @@ private:
     QString m_value;
     bool m_isCopied = false;
     bool m_isHovered = false;
+    bool m_showsFocus = false; // focus reached by the keyboard, not by the window opening
     qreal m_markProgress = 0; // 0: copy mark, 1: check mark
     QPointer<QVariantAnimation> m_animation;
 };

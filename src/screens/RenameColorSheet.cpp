@@ -53,6 +53,11 @@ RenameColorSheet::RenameColorSheet(const PickedColor &color, std::function<void(
     m_save = new QPushButton(tr("Save"), this);
     m_save->setDefault(true);
     m_save->setAutoDefault(true);
+    // The prominent button: filled with the theme's accent.
+    QPalette prominent = m_save->palette();
+    prominent.setColor(QPalette::Button, prominent.color(QPalette::Highlight));
+    prominent.setColor(QPalette::ButtonText, prominent.color(QPalette::HighlightedText));
+    m_save->setPalette(prominent);
     buttons->addWidget(m_cancel);
     buttons->addWidget(m_save);
     stack->addLayout(buttons);

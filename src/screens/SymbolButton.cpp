@@ -53,6 +53,15 @@ void SymbolButton::keyPressEvent(QKeyEvent *event)
     QAbstractButton::keyPressEvent(event);
 }
 
+void SymbolButton::focusInEvent(QFocusEvent *event)
+{
+    // A ring only when the user moved there with the keyboard; the popup opening or a click
+    // gives focus too, and a ring there would only look like a stray selection.
+    m_showsFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
+        || event->reason() == Qt::ShortcutFocusReason;
+    QAbstractButton::focusInEvent(event);
+}
+
 void SymbolButton::enterEvent(QEnterEvent *event)
 {
     m_isHovered = true;
@@ -90,7 +99,7 @@ void SymbolButton::paintEvent(QPaintEvent *)
         painter.setBrush(Theme::withAlpha(Theme::text(pal), isDown() ? 0.12 : 0.06));
         painter.drawRoundedRect(box, m_style.radius, m_style.radius);
     }
-    if (hasFocus()) {
+    if (hasFocus() && m_showsFocus) {
         painter.setPen(QPen(pal.color(QPalette::Highlight), 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(box.adjusted(1, 1, -1, -1), m_style.radius, m_style.radius);

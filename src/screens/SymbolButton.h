@@ -33,10 +33,12 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
 
 private:
     Style m_style;
     bool m_isHovered = false;
+    bool m_showsFocus = false; // focus reached by the keyboard, not by the window opening
 };

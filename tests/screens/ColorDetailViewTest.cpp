@@ -1,5 +1,6 @@
 #include "screens/ColorDetailView.h"
 #include "screens/ContrastBadge.h"
+#include "screens/ElidedLabel.h"
 #include "screens/FormatLine.h"
 #include "screens/Theme.h"
 
@@ -66,9 +67,10 @@ TEST(ColorDetailView, ShowsTheNineFormatsInDeclaredOrder)
         EXPECT_EQ(line->text(), rawValue(allColorFormats[i]));
         EXPECT_EQ(line->value(), color.formatted(allColorFormats[i]));
         EXPECT_EQ(line->markSymbol(), u"doc.on.doc");
-        if (i > 0) // stacked top to bottom in declaration order
+        if (i > 0) { // stacked top to bottom in declaration order
             EXPECT_GT(line->mapTo(&harness.view, QPoint()).y(),
                       harness.view.line(allColorFormats[i - 1])->mapTo(&harness.view, QPoint()).y());
+        }
     }
 }
 
@@ -183,6 +185,11 @@ TEST(ColorDetailView, ContrastBadgesForWhiteBlackAndGrey)
         EXPECT_EQ(black->level(), QLatin1String(c.blackLevel));
         EXPECT_EQ(black->levelColor(), c.blackColor);
         EXPECT_LT(white->mapTo(&harness.view, QPoint()).y(), black->mapTo(&harness.view, QPoint()).y());
+        // Short texts are never cut off ("vs Wh…"): an elided label carries its text as tooltip.
+        for (const ContrastBadge *badge : {white, black}) {
+            for (const ElidedLabel *label : badge->findChildren<ElidedLabel *>())
+                EXPECT_EQ(label->toolTip(), QString()) << label->text().toStdString();
+        }
     }
 }
 

@@ -1,0 +1,381 @@
+#include "screens/ColorListView.h"
+
+#include "history/ColorListViewModel.h"
+#include "services/PreferenceKeys.h"
+#include "services/SettingsStore.h"
+#include "services/SettingsViewModel.h"
+#include "screens/CapsuleLabel.h"
+#include "screens/ColorDetailView.h"
+#include "screens/ColorRowView.h"
+#include "screens/Divider.h"
+#include "screens/ElidedLabel.h"
+#include "screens/SymbolButton.h"
+#include "screens/Symbols.h"
+#include "screens/Theme.h"
+
+#include <QGraphicsOpacityEffect>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QVariantAnimation>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace {
+
+QLabel *symbolLabel(const QString &symbol, int size, const QColor &color, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setPixmap(Symbols::pixmap(symbol, size, color, parent->devicePixelRatioF()));
+    label->setFixedSize(size, size);
+    return label;
+}
+
+SymbolButton *footerButton(const QString &symbol, int symbolSize, const QString &name, QWidget *parent)
+{
+    SymbolButton::Style style;
+    style.symbol = symbol;
+    style.symbolSize = symbolSize;
+    style.foreground = &Theme::secondaryText;
+    style.radius = 4;
+    const int side = 20;
+    style.padding = QMargins((side - symbolSize) / 2, (side - symbolSize) / 2, (side - symbolSize + 1) / 2,
+                             (side - symbolSize + 1) / 2);
+    auto *button = new SymbolButton(QString(), style, parent);
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    return button;
+}
+
+} // namespace
+
+ColorListView::ColorListView(ColorListViewModel &viewModel, SettingsStore &store,
+                             std::function<void()> onOpenSettings, std::function<void()> onQuit, QWidget *parent)
+    : QWidget(parent)
+    , m_viewModel(viewModel)
+    , m_store(store)
+    , m_onOpenSettings(std::move(onOpenSettings))
+    , m_onQuit(std::move(onQuit))
+{
+    auto *root = new QVBoxLayout(this);
+    root->setContentsMargins(0, 0, 0, 0);
+    root->setSpacing(0);
+    // The view is exactly as tall as its content asks; a popup host follows the size hint.
+    root->setSizeConstraint(QLayout::SetFixedSize);
+
+    m_listScreen = new QWidget(this);
+    m_listScreen->setFixedWidth(viewWidth);
+    auto *list = new QVBoxLayout(m_listScreen);
+    list->setContentsMargins(0, 0, 0, 0);
+    list->setSpacing(0);
+    list->addWidget(buildHeader());
+    list->addWidget(buildPickButton());
+    list->addWidget(new Divider(m_listScreen));
+
+    m_emptyState = buildEmptyState();
+    list->addWidget(m_emptyState);
+    m_scroll = new QScrollArea(m_listScreen);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    list->addWidget(m_scroll);
+
+    list->addWidget(new Divider(m_listScreen));
+    list->addWidget(buildFooter());
+    root->addWidget(m_listScreen);
+
+    connect(&m_viewModel, &ColorListViewModel::colorsChanged, this, &ColorListView::rebuildColors);
+    connect(&m_viewModel, &ColorListViewModel::isPickingChanged, this, &ColorListView::updatePicking);
+    // Rows show the preferred format; follow a change made in the settings window.
+    connect(&m_store, &SettingsStore::changed, this, [this](const QString &key) {
+        if (key == PreferenceKeys::colorFormat)
+            rebuildColors();
+    });
+
+    rebuildColors();
+    updatePicking();
+}
+
+QWidget *ColorListView::buildHeader()
+{
+    auto *header = new QWidget(m_listScreen);
+    auto *row = new QHBoxLayout(header);
+    row->setContentsMargins(14, 10, 14, 10);
+    row->setSpacing(8);
+    row->addWidget(symbolLabel(QStringLiteral("eyedropper"), 13, Theme::orange(palette()), header));
+    auto *title = new QLabel(QStringLiteral("vantle"), header);
+    title->setFont(Theme::font(13, QFont::Bold));
+    row->addWidget(title);
+    row->addStretch(1);
+    m_countBadge = new CapsuleLabel(
+        QStringLiteral("0"), Theme::font(10, QFont::Medium), &Theme::secondaryText,
+        [](const QPalette &palette) { return Theme::withAlpha(Theme::secondaryText(palette), 0.1 / 0.62); },
+        QMargins(7, 3, 7, 3), header);
+    m_countBadge->setObjectName(QStringLiteral("countBadge"));
+    row->addWidget(m_countBadge);
+    return header;
+}
+
+QWidget *ColorListView::buildPickButton()
+{
+    auto *holder = new QWidget(m_listScreen);
+    auto *row = new QHBoxLayout(holder);
+    row->setContentsMargins(10, 0, 10, 8);
+    SymbolButton::Style style;
+    style.symbol = QStringLiteral("eyedropper");
+    style.symbolSize = 14;
+    style.font = Theme::font(13, QFont::DemiBold);
+    style.foreground = [](const QPalette &) { return QColor(Qt::white); };
+    style.fill = &Theme::orange;
+    style.radius = 5;
+    style.padding = QMargins(0, 10, 0, 10);
+    style.spacing = 8;
+    m_pickButton = new SymbolButton(tr("Pick Color"), style, holder);
+    m_pickButton->setObjectName(QStringLiteral("pickButton"));
+    m_pickButton->setAccessibleName(tr("Pick Color"));
+    m_pickButton->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(m_pickButton, &QAbstractButton::clicked, this, [this] { m_viewModel.pickColor(); });
+    row->addWidget(m_pickButton);
+    return holder;
+}
+
+QWidget *ColorListView::buildFooter()
+{
+    auto *footer = new QWidget(m_listScreen);
+    auto *row = new QHBoxLayout(footer);
+    row->setContentsMargins(10, 6, 10, 6);
+
+    auto *settings = footerButton(QStringLiteral("gearshape"), 12, tr("Settings"), footer);
+    settings->setObjectName(QStringLiteral("settingsButton"));
+    connect(settings, &QAbstractButton::clicked, this, [this] {
+        if (m_onOpenSettings)
+            m_onOpenSettings();
+    });
+    row->addWidget(settings);
+
+    auto *exportButton = footerButton(QStringLiteral("square.and.arrow.up"), 12, tr("Export colors"), footer);
+    exportButton->setObjectName(QStringLiteral("exportButton"));
+    m_exportMenu = new QMenu(exportButton);
+    m_exportMenu->setObjectName(QStringLiteral("exportMenu"));
+    const auto exportAction = [this](const QString &text, bool pinnedOnly, bool asJSON) {
+        QAction *action = m_exportMenu->addAction(text);
+        connect(action, &QAction::triggered, this,
+                [this, pinnedOnly, asJSON] { m_viewModel.exportColors(pinnedOnly, asJSON); });
+        return action;
+    };
+    m_exportPinnedText = exportAction(tr("Export Pinned as Text"), true, false);
+    m_exportPinnedJson = exportAction(tr("Export Pinned as JSON"), true, true);
+    m_exportMenu->addSeparator();
+    m_exportAllText = exportAction(tr("Export All as Text"), false, false);
+    m_exportAllJson = exportAction(tr("Export All as JSON"), false, true);
+    connect(exportButton, &QAbstractButton::clicked, this, [this, exportButton] {
+        // popup(), not exec(): the save dialog an entry opens must not run inside a nested loop.
+        m_exportMenu->popup(exportButton->mapToGlobal(QPoint(0, exportButton->height())));
+    });
+    row->addWidget(exportButton);
+    row->addStretch(1);
+
+    auto *quit = footerButton(QStringLiteral("power"), 11, tr("Quit vantle"), footer);
+    quit->setObjectName(QStringLiteral("quitButton"));
+    connect(quit, &QAbstractButton::clicked, this, [this] {
+        if (m_onQuit)
+            m_onQuit();
+    });
+    row->addWidget(quit);
+    return footer;
+}
+
+QWidget *ColorListView::buildEmptyState()
+{
+    auto *empty = new QWidget(m_listScreen);
+    empty->setObjectName(QStringLiteral("emptyState"));
+    auto *stack = new QVBoxLayout(empty);
+    stack->setContentsMargins(16, 36, 16, 36);
+    stack->setSpacing(8);
+    stack->addWidget(symbolLabel(QStringLiteral("eyedropper"), 32, Theme::tertiaryText(palette()), empty), 0,
+                     Qt::AlignHCenter);
+    auto *title = new ElidedLabel(tr("No colors yet"), Theme::font(13), &Theme::secondaryText, empty);
+    title->setAlignment(Qt::AlignCenter);
+    stack->addWidget(title);
+    auto *hint = new ElidedLabel(tr("Click Pick Color to get started"), Theme::font(11), &Theme::tertiaryText, empty);
+    hint->setAlignment(Qt::AlignCenter);
+    stack->addWidget(hint);
+    return empty;
+}
+
+QWidget *ColorListView::buildSectionHeader(const QString &title, const QString &objectName)
+{
+    auto *holder = new QWidget;
+    holder->setObjectName(objectName);
+    auto *layout = new QHBoxLayout(holder);
+    layout->setContentsMargins(16, 8, 16, 4);
+    layout->addWidget(new ElidedLabel(title, Theme::font(10, QFont::DemiBold), &Theme::tertiaryText, holder));
+    return holder;
+}
+
+ColorRowView *ColorListView::buildRow(const PickedColor &color, ColorFormat format)
+{
+    ColorListViewModel &model = m_viewModel;
+    auto *row = new ColorRowView(
+        color, format, [&model, color] { model.copyColor(color); }, [&model, color] { model.togglePin(color); },
+        [&model, color](const QString &name) { model.renameColor(color, name); },
+        [&model, color] { model.deleteColor(color); });
+    connect(row, &ColorRowView::activated, this, [this, color] { openColor(color); });
+    row->installEventFilter(this);
+    return row;
+}
+
+void ColorListView::rebuildColors()
+{
+    const QList<PickedColor> &colors = m_viewModel.colors();
+    const QList<PickedColor> pinned = m_viewModel.pinnedColors();
+    const QList<PickedColor> recent = m_viewModel.recentColors();
+
+    m_countBadge->setText(QString::number(colors.size()));
+    m_exportPinnedText->setEnabled(!pinned.isEmpty());
+    m_exportPinnedJson->setEnabled(!pinned.isEmpty());
+    m_exportAllText->setEnabled(!colors.isEmpty());
+    m_exportAllJson->setEnabled(!colors.isEmpty());
+
+    // Keep keyboard focus on the same colour across the rebuild.
+    std::optional<QUuid> focusedId;
+    for (ColorRowView *row : std::as_const(m_rows)) {
+        if (row->hasFocus())
+            focusedId = row->color().id;
+    }
+
+    // The old rows may be in the middle of handling the event that caused this rebuild (a
+    // context-menu action, a click): hide them now, delete them once that event is done.
+    if (QWidget *old = m_scroll->takeWidget()) {
+        old->hide();
+        old->deleteLater();
+    }
+    m_rows.clear();
+
+    m_emptyState->setVisible(colors.isEmpty());
+    m_scroll->setVisible(!colors.isEmpty());
+    if (colors.isEmpty())
+        return;
+
+    const ColorFormat format = SettingsViewModel::currentFormat(m_store);
+    auto *content = new QWidget;
+    content->setAutoFillBackground(false);
+    auto *stack = new QVBoxLayout(content);
+    stack->setContentsMargins(0, 4, 0, 4);
+    stack->setSpacing(0);
+    const auto addSection = [&](const QString &title, const QString &objectName, const QList<PickedColor> &section) {
+        if (section.isEmpty())
+            return;
+        stack->addWidget(buildSectionHeader(title, objectName));
+        for (const PickedColor &color : section) {
+            ColorRowView *row = buildRow(color, format);
+            stack->addWidget(row);
+            m_rows.append(row);
+        }
+    };
+    addSection(tr("PINNED"), QStringLiteral("pinnedHeader"), pinned);
+    addSection(tr("RECENT"), QStringLiteral("recentHeader"), recent);
+    stack->addStretch(1);
+    m_scroll->setWidget(content);
+    m_scroll->setFixedHeight(qMin(content->sizeHint().height(), maximumListHeight));
+
+    for (ColorRowView *row : std::as_const(m_rows)) {
+        if (focusedId && row->color().id == *focusedId)
+            row->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void ColorListView::updatePicking()
+{
+    const bool isPicking = m_viewModel.isPicking();
+    m_pickButton->setText(isPicking ? tr("Picking…") : tr("Pick Color"));
+    m_pickButton->setEnabled(!isPicking);
+}
+
+void ColorListView::openColor(const PickedColor &color)
+{
+    m_viewModel.copyColor(color);
+    if (m_detail) {
+        m_detail->hide();
+        m_detail->deleteLater();
+    }
+    m_selectedColor = color;
+    m_detail = new ColorDetailView(
+        color, [this](const PickedColor &shown, ColorFormat format) { m_viewModel.copyColor(shown, format); },
+        [this] { closeDetail(); }, this);
+    m_detail->setFixedWidth(viewWidth);
+    m_listScreen->hide();
+    layout()->addWidget(m_detail);
+    m_detail->show();
+    m_detail->setFocus(Qt::OtherFocusReason);
+    fadeIn(m_detail);
+}
+
+void ColorListView::closeDetail()
+{
+    if (!m_detail)
+        return;
+    // Called from the detail screen's own button: delete it once that click is handled.
+    m_detail->hide();
+    m_detail->deleteLater();
+    m_detail = nullptr;
+    const std::optional<PickedColor> closed = std::exchange(m_selectedColor, std::nullopt);
+    m_listScreen->show();
+    fadeIn(m_listScreen);
+    for (ColorRowView *row : std::as_const(m_rows)) {
+        if (closed && row->color().id == closed->id) {
+            row->setFocus(Qt::OtherFocusReason);
+            return;
+        }
+    }
+    m_pickButton->setFocus(Qt::OtherFocusReason);
+}
+
+void ColorListView::fadeIn(QWidget *screen)
+{
+    auto *effect = new QGraphicsOpacityEffect(screen);
+    effect->setOpacity(0.0);
+    screen->setGraphicsEffect(effect); // replaces (and deletes) an effect still fading
+    auto *animation = new QVariantAnimation(screen);
+    animation->setDuration(screenChangeMilliseconds);
+    animation->setStartValue(0.0);
+    animation->setEndValue(1.0);
+    animation->setEasingCurve(QEasingCurve::InOutCubic);
+    const QPointer<QGraphicsOpacityEffect> guard(effect);
+    connect(animation, &QVariantAnimation::valueChanged, screen, [guard](const QVariant &value) {
+        if (guard)
+            guard->setOpacity(value.toReal());
+    });
+    // Drop the effect when done: an idle screen paints directly, with nothing left running.
+    connect(animation, &QAbstractAnimation::finished, screen, [screen, guard] {
+        if (guard && screen->graphicsEffect() == guard)
+            screen->setGraphicsEffect(nullptr);
+    });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void ColorListView::moveRowFocus(ColorRowView *from, int step)
+{
+    const qsizetype index = m_rows.indexOf(from) + step;
+    if (index < 0 || index >= m_rows.size())
+        return;
+    ColorRowView *to = m_rows[index];
+    to->setFocus(Qt::TabFocusReason);
+    m_scroll->ensureWidgetVisible(to, 0, 4);
+}
+
+bool ColorListView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        auto *row = qobject_cast<ColorRowView *>(watched);
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (row && (key == Qt::Key_Up || key == Qt::Key_Down)) {
+            moveRowFocus(row, key == Qt::Key_Down ? 1 : -1);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "model/PickedColor.h"
+
+#include <QList>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+class CapsuleLabel;
+class ColorDetailView;
+class ColorListViewModel;
+class ColorRowView;
+class QAction;
+class QMenu;
+class QScrollArea;
+class SettingsStore;
+class SymbolButton;
+
+// The content of the tray popup, 320 pixels wide: the header with the colour count, "Pick
+// Color", the history in PINNED and RECENT sections, and the footer with settings, export and
+// quit. A click on a row copies the colour and replaces the list with its detail screen;
+// "Back" (or Escape) returns. The view holds no history of its own: it reads the model,
+// rebuilds when the model signals a change, and sends every action to the model.
+//
+// The height follows the content (the colour list scrolls beyond `maximumListHeight`), so a
+// host window should take the view's size hint whenever it changes; the root layout keeps the
+// view itself at that size.
+class ColorListView : public QWidget {
+    Q_OBJECT
+public:
+    static constexpr int viewWidth = 320;
+    static constexpr int maximumListHeight = 420;
+    static constexpr int screenChangeMilliseconds = 200;
+
+    ColorListView(ColorListViewModel &viewModel, SettingsStore &store, std::function<void()> onOpenSettings,
+                  std::function<void()> onQuit, QWidget *parent = nullptr);
+
+    // The colour whose detail screen is shown, as it was when opened; none while the list shows.
+    const std::optional<PickedColor> &selectedColor() const { return m_selectedColor; }
+    // The detail screen while one is shown, else null.
+    ColorDetailView *detailView() const { return m_detail; }
+    // The rows in display order: pinned first, then recent.
+    QList<ColorRowView *> rows() const { return m_rows; }
+    QMenu *exportMenu() const { return m_exportMenu; }
+
+    // What a click on a row does: copy in the preferred format, then open the detail screen.
+    void openColor(const PickedColor &color);
+    // Back to the list, as the detail screen's "Back" does.
+    void closeDetail();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QWidget *buildHeader();
+    QWidget *buildPickButton();
+    QWidget *buildFooter();
+    QWidget *buildEmptyState();
+    QWidget *buildSectionHeader(const QString &title, const QString &objectName);
+    ColorRowView *buildRow(const PickedColor &color, ColorFormat format);
+    void rebuildColors();
+    void updatePicking();
+    void fadeIn(QWidget *screen);
+    void moveRowFocus(ColorRowView *from, int step);
+
+    ColorListViewModel &m_viewModel;
+    SettingsStore &m_store;
+    std::function<void()> m_onOpenSettings;
+    std::function<void()> m_onQuit;
+    std::optional<PickedColor> m_selectedColor;
+
+    QWidget *m_listScreen = nullptr;
+    QPointer<ColorDetailView> m_detail;
+    CapsuleLabel *m_countBadge = nullptr;
+    SymbolButton *m_pickButton = nullptr;
+    QWidget *m_content = nullptr; // empty state or the scrolling list
+    QScrollArea *m_scroll = nullptr;
+    QWidget *m_emptyState = nullptr;
+    QList<ColorRowView *> m_rows;
+    QMenu *m_exportMenu = nullptr;
+    QAction *m_exportPinnedText = nullptr;
+    QAction *m_exportPinnedJson = nullptr;
+    QAction *m_exportAllText = nullptr;
+    QAction *m_exportAllJson = nullptr;
+};

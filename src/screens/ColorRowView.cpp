@@ -1,0 +1,198 @@
+#include "screens/ColorRowView.h"
+
+#include "screens/ColorSwatch.h"
+#include "screens/ElidedLabel.h"
+#include "screens/RenameColorSheet.h"
+#include "screens/Symbols.h"
+#include "screens/Theme.h"
+
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPainter>
+#include <QVBoxLayout>
+
+ColorRowView::ColorRowView(const PickedColor &color, ColorFormat format, std::function<void()> onCopy,
+                           std::function<void()> onPin, std::function<void(const QString &)> onRename,
+                           std::function<void()> onDelete, QWidget *parent)
+    : QWidget(parent)
+    , m_color(color)
+    , m_format(format)
+    , m_onCopy(std::move(onCopy))
+    , m_onPin(std::move(onPin))
+    , m_onRename(std::move(onRename))
+    , m_onDelete(std::move(onDelete))
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(12, 4, 12, 4);
+    row->setSpacing(8);
+    row->addWidget(new ColorSwatch(color.red, color.green, color.blue, 24, this), 0, Qt::AlignVCenter);
+
+    auto *texts = new QVBoxLayout;
+    texts->setSpacing(2);
+    texts->setContentsMargins(0, 0, 0, 0);
+    if (color.hasName()) {
+        auto *name = new ElidedLabel(*color.name, Theme::font(11, QFont::Medium), &Theme::text, this);
+        name->setObjectName(QStringLiteral("nameLabel"));
+        texts->addWidget(name);
+    }
+    auto *value = new ElidedLabel(color.formatted(format), Theme::monospacedFont(13), &Theme::text, this);
+    value->setObjectName(QStringLiteral("valueLabel"));
+    texts->addWidget(value);
+    row->addLayout(texts, 1);
+
+    if (color.isPinned) {
+        auto *pin = new QLabel(this);
+        pin->setObjectName(QStringLiteral("pinMark"));
+        pin->setPixmap(Symbols::pixmap(QStringLiteral("pin.fill"), 9, Theme::secondaryText(palette()),
+                                       devicePixelRatioF()));
+        pin->setFixedSize(9, 9);
+        row->addWidget(pin, 0, Qt::AlignVCenter);
+    }
+
+    QString accessible = color.formatted(format);
+    if (color.hasName())
+        accessible = *color.name + QStringLiteral(", ") + accessible;
+    if (color.isPinned)
+        accessible += QStringLiteral(", ") + tr("pinned");
+    setAccessibleName(accessible);
+}
+
+QString ColorRowView::valueText() const
+{
+    return m_color.formatted(m_format);
+}
+
+QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
+{
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    // Each action carries its own copy of the callback: the list may rebuild (and delete this
+    // row) as a result of the action.
+    connect(menu->addAction(tr("Copy")), &QAction::triggered, menu, [onCopy = m_onCopy] {
+        if (onCopy)
+            onCopy();
+    });
+    connect(menu->addAction(m_color.isPinned ? tr("Unpin") : tr("Pin")), &QAction::triggered, menu,
+            [onPin = m_onPin] {
+                if (onPin)
+                    onPin();
+            });
+    connect(menu->addAction(tr("Rename…")), &QAction::triggered, this, [this] { openRenameSheet(); });
+    menu->addSeparator();
+    QAction *remove = menu->addAction(tr("Delete"));
+    remove->setObjectName(QStringLiteral("deleteAction"));
+    connect(remove, &QAction::triggered, menu, [onDelete = m_onDelete] {
+        if (onDelete)
+            onDelete();
+    });
+    // Not exec(): a nested event loop would run the whole program inside this call.
+    menu->popup(globalPosition);
+    return menu;
+}
+
+RenameColorSheet *ColorRowView::openRenameSheet()
+{
+    if (m_renameSheet)
+        return m_renameSheet;
+    // The sheet belongs to the popup, not the row: a rebuilt list must not take it away.
+    m_renameSheet = new RenameColorSheet(m_color, m_onRename, window());
+    m_renameSheet->open();
+    return m_renameSheet;
+}
+
+void ColorRowView::paintEvent(QPaintEvent *)
+{
+    if (!m_isHovered && !hasFocus() && !m_isPressed)
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF box = QRectF(rect());
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Theme::withAlpha(Theme::text(palette()), m_isPressed ? 0.1 : 0.06));
+    painter.drawRoundedRect(box, 8, 8);
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 1.5));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(box.adjusted(0.75, 0.75, -0.75, -0.75), 8, 8);
+    }
+}
+
+void ColorRowView::enterEvent(QEnterEvent *event)
+{
+    m_isHovered = true;
+    update();
+    QWidget::enterEvent(event);
+}
+
+void ColorRowView::leaveEvent(QEvent *event)
+{
+    m_isHovered = false;
+    m_isPressed = false;
+    update();
+    QWidget::leaveEvent(event);
+}
+
+void ColorRowView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    m_isPressed = true;
+    update();
+    event->accept();
+}
+
+void ColorRowView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton || !m_isPressed) {
+        QWidget::mouseReleaseEvent(event);
+        return;
+    }
+    m_isPressed = false;
+    update();
+    event->accept();
+    if (rect().contains(event->position().toPoint()))
+        Q_EMIT activated(); // may rebuild the list: nothing touches the row after this
+}
+
+void ColorRowView::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        event->accept();
+        Q_EMIT activated();
+        return;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void ColorRowView::contextMenuEvent(QContextMenuEvent *event)
+{
+    const QPoint at = event->reason() == QContextMenuEvent::Mouse ? event->globalPos()
+                                                                  : mapToGlobal(QPoint(24, height() / 2));
+    showContextMenu(at);
+    event->accept();
+}
+
+void ColorRowView::focusInEvent(QFocusEvent *event)
+{
+    update();
+    QWidget::focusInEvent(event);
+}
+
+void ColorRowView::focusOutEvent(QFocusEvent *event)
+{
+    update();
+    QWidget::focusOutEvent(event);
+}

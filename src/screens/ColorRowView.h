@@ -1,0 +1,58 @@
+#pragma once
+
+#include "model/PickedColor.h"
+
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+class QMenu;
+class RenameColorSheet;
+
+// One row of the colour list: swatch, optional name over the value in the list's format, and
+// a pin mark for pinned colours. The row highlights under the pointer and offers "Copy",
+// "Pin"/"Unpin", "Rename…" and "Delete" in its context menu; every action is a callback, the
+// row changes nothing itself. A plain click (or Return) only emits `activated`: the list
+// decides what that means.
+class ColorRowView : public QWidget {
+    Q_OBJECT
+public:
+    ColorRowView(const PickedColor &color, ColorFormat format, std::function<void()> onCopy,
+                 std::function<void()> onPin, std::function<void(const QString &)> onRename,
+                 std::function<void()> onDelete, QWidget *parent = nullptr);
+
+    const PickedColor &color() const { return m_color; }
+    bool isHovered() const { return m_isHovered; }
+    bool isRenaming() const { return !m_renameSheet.isNull(); }
+    QString valueText() const;
+
+    // The context menu, shown at a global position; it deletes itself when closed.
+    QMenu *showContextMenu(const QPoint &globalPosition);
+    // The rename sheet over the row's window, the field holding the current name.
+    RenameColorSheet *openRenameSheet();
+
+Q_SIGNALS:
+    void activated();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    PickedColor m_color;
+    ColorFormat m_format;
+    std::function<void()> m_onCopy;
+    std::function<void()> m_onPin;
+    std::function<void(const QString &)> m_onRename;
+    std::function<void()> m_onDelete;
+    bool m_isHovered = false;
+    bool m_isPressed = false;
+    QPointer<RenameColorSheet> m_renameSheet;
+};

@@ -1,0 +1,396 @@
+#include "history/ColorListViewModel.h"
+#include "screens/ColorDetailView.h"
+#include "screens/ColorListView.h"
+#include "screens/ColorRowView.h"
+#include "screens/ElidedLabel.h"
+#include "screens/RenameColorSheet.h"
+#include "services/PreferenceKeys.h"
+#include "support/HistoryFakes.h"
+#include "support/TempSettings.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+PickedColor makeColor(double r, double g, double b, bool pinned = false,
+                      std::optional<QString> name = std::nullopt)
+{
+    PickedColor color = PickedColor::fromSample(r, g, b, 1.0);
+    color.isPinned = pinned;
+    color.name = std::move(name);
+    return color;
+}
+
+class ColorListViewTest : public ::testing::Test {
+public: // the case tables below reach in from lambdas
+    void build(const QList<PickedColor> &colors, const QString &format = QStringLiteral("Hex"))
+    {
+        settings.store->setString(PreferenceKeys::colorFormat, format);
+        settings.store->setData(PreferenceKeys::colorHistory, *encodeColorHistory(colors));
+        model = std::make_unique<ColorListViewModel>(*settings.store, sampler, clipboard, confirmation, dialogs);
+        view = std::make_unique<ColorListView>(
+            *model, *settings.store, [this] { ++settingsOpened; }, [this] { ++quits; });
+        view->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(view.get()));
+    }
+
+    template <typename T = QWidget>
+    T *child(const char *name) const
+    {
+        return view->findChild<T *>(QLatin1String(name));
+    }
+
+    bool shown(const char *name) const
+    {
+        const QWidget *widget = child(name);
+        return widget && widget->isVisibleTo(view.get());
+    }
+
+    ColorRowView *rowFor(const QUuid &id) const
+    {
+        for (ColorRowView *row : view->rows()) {
+            if (row->color().id == id)
+                return row;
+        }
+        return nullptr;
+    }
+
+    // A real right click, through the window, as the desktop delivers it.
+    QMenu *openContextMenu(ColorRowView *row)
+    {
+        QTest::mouseClick(view->windowHandle(), Qt::RightButton, {}, row->mapTo(view.get(), QPoint(40, 10)));
+        QMenu *menu = nullptr;
+        [&] { QTRY_VERIFY((menu = qobject_cast<QMenu *>(QApplication::activePopupWidget()))); }();
+        return menu;
+    }
+
+    static void clickAction(QMenu *menu, const QString &text)
+    {
+        for (QAction *action : menu->actions()) {
+            if (action->text() == text) {
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+                return;
+            }
+        }
+        ADD_FAILURE() << "no menu item " << text.toStdString();
+    }
+
+    std::optional<PickedColor> stored(const QUuid &id) const
+    {
+        for (const PickedColor &color : model->colors()) {
+            if (color.id == id)
+                return color;
+        }
+        return std::nullopt;
+    }
+
+    TempSettings settings;
+    FakeScreenColorSampler sampler;
+    FakeClipboard clipboard;
+    FakeCopyConfirmation confirmation;
+    FakeExportDialogs dialogs;
+    std::unique_ptr<ColorListViewModel> model;
+    std::unique_ptr<ColorListView> view;
+    int settingsOpened = 0;
+    int quits = 0;
+};
+
+} // namespace
+
+TEST_F(ColorListViewTest, IsThreeHundredTwentyPixelsWideAndListScrollsWithinItsLimit)
+{
+    QList<PickedColor> many;
+    for (int i = 0; i < 40; ++i)
+        many.append(makeColor(i / 40.0, 0.5, 0.5));
+    build(many);
+    EXPECT_EQ(view->width(), 320);
+    EXPECT_LE(view->height(), ColorListView::maximumListHeight + 200);
+    EXPECT_EQ(view->rows().size(), 40);
+}
+
+TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
+{
+    const struct {
+        const char *what;
+        QList<PickedColor> colors;
+        bool pinned, recent, empty;
+    } cases[] = {
+        {"empty", {}, false, false, true},
+        {"all pinned", {makeColor(1, 0, 0, true), makeColor(0, 1, 0, true)}, true, false, false},
+        {"none pinned", {makeColor(1, 0, 0), makeColor(0, 1, 0), makeColor(0, 0, 1)}, false, true, false},
+        {"mixed", {makeColor(1, 0, 0), makeColor(0, 1, 0, true), makeColor(0, 0, 1)}, true, true, false},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        build(c.colors);
+        EXPECT_EQ(shown("pinnedHeader"), c.pinned);
+        EXPECT_EQ(shown("recentHeader"), c.recent);
+        EXPECT_EQ(shown("emptyState"), c.empty);
+        // Every colour counts, pinned or not.
+        EXPECT_EQ(view->findChild<QWidget *>(QStringLiteral("countBadge"))->accessibleName(),
+                  QString::number(c.colors.size()));
+        EXPECT_EQ(view->rows().size(), c.colors.size());
+        // Pinned rows come first, each section in history order.
+        QList<QUuid> expected;
+        for (const PickedColor &color : model->pinnedColors())
+            expected.append(color.id);
+        for (const PickedColor &color : model->recentColors())
+            expected.append(color.id);
+        QList<QUuid> actual;
+        for (const ColorRowView *row : view->rows())
+            actual.append(row->color().id);
+        EXPECT_EQ(actual, expected);
+
+        const QList<QAction *> actions = view->exportMenu()->actions();
+        ASSERT_EQ(actions.size(), 5);
+        EXPECT_EQ(actions[0]->text(), u"Export Pinned as Text");
+        EXPECT_EQ(actions[1]->text(), u"Export Pinned as JSON");
+        EXPECT_TRUE(actions[2]->isSeparator());
+        EXPECT_EQ(actions[3]->text(), u"Export All as Text");
+        EXPECT_EQ(actions[4]->text(), u"Export All as JSON");
+        EXPECT_EQ(actions[0]->isEnabled(), c.pinned);
+        EXPECT_EQ(actions[1]->isEnabled(), c.pinned);
+        EXPECT_EQ(actions[3]->isEnabled(), !c.empty);
+        EXPECT_EQ(actions[4]->isEnabled(), !c.empty);
+    }
+}
+
+TEST_F(ColorListViewTest, ClickOnRowCopiesInPreferredFormatAndOpensDetail)
+{
+    const PickedColor first = makeColor(1.0, 0.42, 0.21);
+    const PickedColor second = makeColor(0.2, 0.4, 0.8, false, QStringLiteral("Sky"));
+    build({first, second}, QStringLiteral("RGB"));
+    ASSERT_EQ(rowFor(second.id)->valueText(), second.formatted(ColorFormat::rgb));
+
+    QTest::mouseClick(rowFor(second.id), Qt::LeftButton);
+    EXPECT_EQ(clipboard.texts, QStringList{second.formatted(ColorFormat::rgb)});
+    EXPECT_EQ(confirmation.messages.size(), 1);
+    ASSERT_NE(view->detailView(), nullptr);
+    EXPECT_EQ(view->detailView()->color(), second);
+    EXPECT_TRUE(view->detailView()->isVisible());
+    EXPECT_FALSE(child("pickButton")->isVisible());
+
+    // A copy of one format on the detail screen goes through the model too.
+    view->detailView()->copy(ColorFormat::hsl);
+    EXPECT_EQ(clipboard.current(), second.formatted(ColorFormat::hsl));
+
+    QTest::mouseClick(view->detailView()->findChild<QAbstractButton *>(QStringLiteral("backButton")),
+                      Qt::LeftButton);
+    EXPECT_EQ(view->detailView(), nullptr);
+    EXPECT_EQ(view->selectedColor(), std::nullopt);
+    EXPECT_TRUE(child("pickButton")->isVisible());
+    EXPECT_EQ(model->colors().size(), 2); // looking changes nothing
+}
+
+TEST_F(ColorListViewTest, DetailKeepsTheColourAsOpened)
+{
+    const PickedColor color = makeColor(0.3, 0.6, 0.9);
+    build({color});
+    QTest::mouseClick(view->rows().first(), Qt::LeftButton);
+    model->renameColor(color, QStringLiteral("Later"));
+    model->togglePin(color);
+    ASSERT_NE(view->detailView(), nullptr);
+    EXPECT_EQ(view->detailView()->color(), color);
+    // The list behind it is fresh when the user comes back.
+    QTest::keyClick(view->detailView(), Qt::Key_Escape);
+    EXPECT_TRUE(shown("pinnedHeader"));
+    EXPECT_EQ(view->rows().first()->color().name, QStringLiteral("Later"));
+}
+
+TEST_F(ColorListViewTest, KeyboardWalksRowsOpensAndBacksOut)
+{
+    const QList<PickedColor> colors = {makeColor(1, 0, 0, true), makeColor(0, 1, 0), makeColor(0, 0, 1)};
+    build(colors);
+    const QList<ColorRowView *> rows = view->rows();
+    rows[0]->setFocus();
+    QTest::keyClick(rows[0], Qt::Key_Down);
+    QTest::keyClick(rows[1], Qt::Key_Down);
+    ASSERT_TRUE(rows[2]->hasFocus());
+    QTest::keyClick(rows[2], Qt::Key_Down); // stays on the last row
+    QTest::keyClick(rows[2], Qt::Key_Up);
+    ASSERT_TRUE(rows[1]->hasFocus());
+
+    QTest::keyClick(rows[1], Qt::Key_Return);
+    ASSERT_NE(view->detailView(), nullptr);
+    EXPECT_EQ(view->detailView()->color().id, colors[1].id);
+    EXPECT_EQ(clipboard.texts, QStringList{colors[1].formatted(ColorFormat::hex)});
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(view->detailView(), nullptr);
+    EXPECT_TRUE(rowFor(colors[1].id)->hasFocus());
+}
+
+TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
+{
+    const struct {
+        const char *item;
+        bool pinned;
+        std::function<void(ColorListViewTest &, const PickedColor &)> check;
+    } cases[] = {
+        {"Copy", false,
+         [](ColorListViewTest &t, const PickedColor &c) {
+             EXPECT_EQ(t.clipboard.texts, QStringList{c.formatted(ColorFormat::hsl)});
+             EXPECT_EQ(t.view->detailView(), nullptr); // copying from the menu stays on the list
+         }},
+        {"Pin", false, [](ColorListViewTest &t, const PickedColor &c) { EXPECT_TRUE(t.stored(c.id)->isPinned); }},
+        {"Unpin", true, [](ColorListViewTest &t, const PickedColor &c) { EXPECT_FALSE(t.stored(c.id)->isPinned); }},
+        {"Delete", false,
+         [](ColorListViewTest &t, const PickedColor &c) {
+             EXPECT_FALSE(t.stored(c.id));
+             EXPECT_EQ(t.view->rows().size(), 1);
+         }},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.item);
+        const PickedColor color = makeColor(0.9, 0.1, 0.5, c.pinned);
+        build({color, makeColor(0.1, 0.1, 0.1)}, QStringLiteral("HSL"));
+        QMenu *menu = openContextMenu(rowFor(color.id));
+        ASSERT_NE(menu, nullptr);
+        QStringList texts;
+        for (const QAction *action : menu->actions())
+            texts.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+        EXPECT_EQ(texts, (QStringList{QStringLiteral("Copy"), c.pinned ? QStringLiteral("Unpin") : QStringLiteral("Pin"),
+                                      QStringLiteral("Rename…"), QStringLiteral("-"), QStringLiteral("Delete")}));
+        clickAction(menu, QLatin1String(c.item));
+        c.check(*this, color);
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+        clipboard.texts.clear();
+    }
+}
+
+TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
+{
+    enum class Close { saveButton, returnKey, cancelButton, escapeKey };
+    const struct {
+        const char *what;
+        std::optional<QString> name;
+        QString typed; // replaces the field's text
+        Close close;
+        std::optional<QString> expected;
+    } cases[] = {
+        {"new name by Return", std::nullopt, QStringLiteral("Sky"), Close::returnKey, QStringLiteral("Sky")},
+        {"new name by Save", QStringLiteral("Old"), QStringLiteral(" Brand orange "), Close::saveButton,
+         QStringLiteral(" Brand orange ")},
+        {"empty clears", QStringLiteral("Old"), QString(), Close::saveButton, std::nullopt},
+        {"blanks are kept", QStringLiteral("Old"), QStringLiteral("   "), Close::returnKey, QStringLiteral("   ")},
+        {"Cancel keeps", QStringLiteral("Old"), QStringLiteral("New"), Close::cancelButton, QStringLiteral("Old")},
+        {"Escape keeps", std::nullopt, QStringLiteral("New"), Close::escapeKey, std::nullopt},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        const PickedColor color = makeColor(1.0, 0.42, 0.21, false, c.name);
+        build({color}, QStringLiteral("CSS rgba"));
+        clickAction(openContextMenu(view->rows().first()), QStringLiteral("Rename…"));
+        RenameColorSheet *sheet = nullptr;
+        QTRY_VERIFY((sheet = view->findChild<RenameColorSheet *>()) && sheet->isVisible());
+        EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
+        EXPECT_EQ(sheet->nameField()->text(), c.name.value_or(QString()));
+        EXPECT_EQ(sheet->nameField()->placeholderText(), u"Color name (optional)");
+        EXPECT_EQ(sheet->nameField()->width(), 240);
+        EXPECT_EQ(sheet->cancelButton()->text(), u"Cancel");
+        EXPECT_EQ(sheet->saveButton()->text(), u"Save");
+
+        QLineEdit *field = sheet->nameField();
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClick(field, Qt::Key_Backspace);
+        QTest::keyClicks(field, c.typed);
+        const QPointer<RenameColorSheet> guard(sheet);
+        switch (c.close) {
+        case Close::saveButton:
+            QTest::mouseClick(sheet->saveButton(), Qt::LeftButton);
+            break;
+        case Close::returnKey:
+            QTest::keyClick(field, Qt::Key_Return);
+            break;
+        case Close::cancelButton:
+            QTest::mouseClick(sheet->cancelButton(), Qt::LeftButton);
+            break;
+        case Close::escapeKey:
+            QTest::keyClick(field, Qt::Key_Escape);
+            break;
+        }
+        QTRY_VERIFY(!guard);
+        EXPECT_EQ(stored(color.id)->name, c.expected);
+    }
+}
+
+TEST_F(ColorListViewTest, RenameSheetShowsUpperCaseHexWhateverTheFormat)
+{
+    const PickedColor color = makeColor(1.0, 0.42, 0.21);
+    build({color}, QStringLiteral("Hex (lowercase)"));
+    RenameColorSheet *sheet = view->rows().first()->openRenameSheet();
+    EXPECT_EQ(view->rows().first()->valueText(), u"#ff6b36");
+    const auto *hex = sheet->findChild<ElidedLabel *>(QStringLiteral("hexLabel"));
+    ASSERT_NE(hex, nullptr);
+    EXPECT_EQ(hex->text(), u"#FF6B36");
+    sheet->reject();
+}
+
+TEST_F(ColorListViewTest, PickButtonReadsPickingAndRefusesWhileAPickRuns)
+{
+    build({});
+    auto *pick = child<QAbstractButton>("pickButton");
+    EXPECT_EQ(pick->text(), u"Pick Color");
+    EXPECT_EQ(pick->accessibleName(), u"Pick Color");
+    QTest::mouseClick(pick, Qt::LeftButton);
+    ASSERT_TRUE(sampler.isOpen());
+    EXPECT_EQ(pick->text(), u"Picking…");
+    EXPECT_FALSE(pick->isEnabled());
+    QTest::mouseClick(pick, Qt::LeftButton);
+    EXPECT_EQ(sampler.pickCount, 1);
+
+    sampler.finish(0.2, 0.4, 0.8);
+    EXPECT_EQ(pick->text(), u"Pick Color");
+    EXPECT_TRUE(pick->isEnabled());
+    EXPECT_FALSE(shown("emptyState"));
+    ASSERT_EQ(view->rows().size(), 1);
+    EXPECT_TRUE(shown("recentHeader"));
+    EXPECT_EQ(child("countBadge")->accessibleName(), u"1");
+}
+
+TEST_F(ColorListViewTest, FooterButtonsAndExportEntries)
+{
+    build({makeColor(1, 0, 0, true), makeColor(0, 1, 0)});
+    const struct {
+        const char *name, *accessible;
+    } buttons[] = {{"settingsButton", "Settings"}, {"exportButton", "Export colors"}, {"quitButton", "Quit vantle"}};
+    for (const auto &b : buttons) {
+        auto *button = child<QAbstractButton>(b.name);
+        ASSERT_NE(button, nullptr) << b.name;
+        EXPECT_EQ(button->accessibleName(), QLatin1String(b.accessible));
+        EXPECT_EQ(button->toolTip(), QLatin1String(b.accessible));
+        EXPECT_EQ(button->cursor().shape(), Qt::PointingHandCursor);
+    }
+    QTest::mouseClick(child<QAbstractButton>("settingsButton"), Qt::LeftButton);
+    EXPECT_EQ(settingsOpened, 1);
+    QTest::mouseClick(child<QAbstractButton>("quitButton"), Qt::LeftButton);
+    EXPECT_EQ(quits, 1);
+
+    const struct {
+        const char *item;
+        bool asJSON;
+        const char *proposed;
+    } entries[] = {
+        {"Export Pinned as Text", false, "pinned-colors.txt"},
+        {"Export Pinned as JSON", true, "pinned-colors.json"},
+        {"Export All as Text", false, "colors.txt"},
+        {"Export All as JSON", true, "colors.json"},
+    };
+    for (const auto &e : entries) {
+        SCOPED_TRACE(e.item);
+        QTest::mouseClick(child<QAbstractButton>("exportButton"), Qt::LeftButton);
+        QTRY_VERIFY(view->exportMenu()->isVisible());
+        clickAction(view->exportMenu(), QLatin1String(e.item));
+        ASSERT_FALSE(dialogs.saveRequests.isEmpty());
+        EXPECT_EQ(dialogs.saveRequests.last().asJSON, e.asJSON);
+        EXPECT_EQ(dialogs.saveRequests.last().proposedName, QLatin1String(e.proposed));
+        QTRY_VERIFY(!view->exportMenu()->isVisible());
+    }
+    EXPECT_EQ(dialogs.saveRequests.size(), 4);
+}

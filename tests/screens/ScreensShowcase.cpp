@@ -1,0 +1,125 @@
+// Shows one screen of the popup on a real X display in a light or dark theme and captures the
+// screen with ImageMagick's `import`, for looking at the screens as a person sees them.
+//
+//   screens_showcase --theme light|dark --screen empty|list|detail|rename --output shot.png
+//
+// Prints "view <width>x<height>" of the colour list view so the calling script can check it.
+#include "history/ColorListViewModel.h"
+#include "screens/ColorDetailView.h"
+#include "screens/ColorListView.h"
+#include "screens/ColorRowView.h"
+#include "services/PreferenceKeys.h"
+#include "services/SettingsStore.h"
+#include "support/HistoryFakes.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QProcess>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <cstdio>
+
+namespace {
+
+QPalette darkPalette()
+{
+    QPalette p;
+    const QColor window(0x2A, 0x2A, 0x2C);
+    const QColor text(0xEC, 0xEC, 0xEE);
+    p.setColor(QPalette::Window, window);
+    p.setColor(QPalette::WindowText, text);
+    p.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x20));
+    p.setColor(QPalette::AlternateBase, QColor(0x32, 0x32, 0x34));
+    p.setColor(QPalette::Text, text);
+    p.setColor(QPalette::Button, QColor(0x3A, 0x3A, 0x3C));
+    p.setColor(QPalette::ButtonText, text);
+    p.setColor(QPalette::Highlight, QColor(0x3D, 0x7E, 0xF0));
+    p.setColor(QPalette::HighlightedText, Qt::white);
+    p.setColor(QPalette::ToolTipBase, window);
+    p.setColor(QPalette::ToolTipText, text);
+    p.setColor(QPalette::PlaceholderText, QColor(0x8A, 0x8A, 0x8E));
+    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x7A, 0x7A, 0x7E));
+    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x7A, 0x7A, 0x7E));
+    p.setColor(QPalette::Disabled, QPalette::Text, QColor(0x7A, 0x7A, 0x7E));
+    return p;
+}
+
+PickedColor sample(double r, double g, double b, bool pinned = false, const char *name = nullptr)
+{
+    PickedColor color = PickedColor::fromSample(r, g, b, 1.0);
+    color.isPinned = pinned;
+    if (name)
+        color.name = QString::fromUtf8(name);
+    return color;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QCommandLineParser parser;
+    parser.addOption({QStringLiteral("theme"), QStringLiteral("light or dark"), QStringLiteral("theme")});
+    parser.addOption({QStringLiteral("screen"), QStringLiteral("empty, list, detail or rename"), QStringLiteral("screen")});
+    parser.addOption({QStringLiteral("output"), QStringLiteral("PNG file"), QStringLiteral("file")});
+    parser.process(app);
+
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(parser.value(QStringLiteral("theme")) == u"dark" ? darkPalette()
+                                                                                : QApplication::style()->standardPalette());
+
+    QTemporaryDir dir;
+    SettingsStore store(dir.filePath(QStringLiteral("Vantle.conf")));
+    const QString screen = parser.value(QStringLiteral("screen"));
+    QList<PickedColor> colors;
+    if (screen != u"empty") {
+        colors = {
+            sample(0.2, 0.4, 0.8),
+            sample(1.0, 0.42, 0.21, true, "Brand orange"),
+            sample(1.0, 1.0, 1.0),
+            sample(0.13, 0.55, 0.13, true),
+            sample(0.07, 0.07, 0.09),
+            sample(0.93, 0.82, 0.24, true, "Highlighter yellow with a rather long name"),
+            sample(0.55, 0.27, 0.68),
+            sample(0.5, 0.5, 0.5),
+        };
+    }
+    store.setData(PreferenceKeys::colorHistory, *encodeColorHistory(colors));
+
+    FakeScreenColorSampler sampler;
+    FakeClipboard clipboard;
+    FakeCopyConfirmation confirmation;
+    FakeExportDialogs dialogs;
+    ColorListViewModel model(store, sampler, clipboard, confirmation, dialogs);
+    ColorListView view(model, store, [] {}, [] {});
+    view.setWindowTitle(QStringLiteral("vantle"));
+    view.move(40, 40);
+    view.show();
+
+    QTimer::singleShot(300, &view, [&] {
+        if (screen == u"detail") {
+            view.openColor(colors.at(1));
+            view.detailView()->copy(ColorFormat::rgb);
+        } else if (screen == u"rename") {
+            view.rows().first()->openRenameSheet();
+        }
+    });
+    // Past the 0.2 s screen change and the 0.15 s check mark, well before its 1.5 s reset.
+    QTimer::singleShot(1100, &view, [&] {
+        std::printf("view %dx%d\n", view.width(), view.height());
+        std::fflush(stdout);
+        const QRect frame = view.frameGeometry().adjusted(-20, -20, 80, 40);
+        const QString crop = QStringLiteral("%1x%2+%3+%4")
+                                 .arg(frame.width())
+                                 .arg(frame.height())
+                                 .arg(qMax(0, frame.x()))
+                                 .arg(qMax(0, frame.y()));
+        const int status = QProcess::execute(
+            QStringLiteral("import"), {QStringLiteral("-window"), QStringLiteral("root"), QStringLiteral("-crop"), crop,
+                                       parser.value(QStringLiteral("output"))});
+        app.exit(status);
+    });
+    return app.exec();
+}

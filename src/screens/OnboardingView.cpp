@@ -162,7 +162,16 @@ QParallelAnimationGroup *OnboardingView::makeEntrance(const QList<Timing> &timin
     auto *group = new QParallelAnimationGroup(this);
     for (const Timing &timing : timings) {
         auto *sequence = new QSequentialAnimationGroup(group);
-        sequence->addPause(timing.delayMs);
+        // The wait is an ordinary animation rather than a QPauseAnimation: while only pauses
+        // run, Qt leaves the animation clock for a wall-clock timer, and the choreography must
+        // follow one clock (the one a test drives, too).
+        if (timing.delayMs > 0) {
+            auto *wait = new QVariantAnimation(sequence);
+            wait->setStartValue(0.0);
+            wait->setEndValue(0.0);
+            wait->setDuration(timing.delayMs);
+            sequence->addAnimation(wait);
+        }
         auto *animation = new QVariantAnimation(sequence);
         animation->setStartValue(0.0);
         animation->setEndValue(1.0);
@@ -237,9 +246,16 @@ void OnboardingView::getStarted()
     m_currentScreen = 1;
     m_confirmation = makeEntrance(confirmationEntrance());
     // The welcome screen's pulse stops once it has slid away (the screen change comes first).
+    // Stopped from the event loop: stopping one animation while Qt advances the others makes
+    // it skip the rest of the confirmation's steps.
     connect(m_confirmation->animationAt(0), &QAbstractAnimation::finished, this, [this] {
-        if (m_welcome)
-            m_welcome->stop();
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (m_welcome)
+                    m_welcome->stop();
+            },
+            Qt::QueuedConnection);
     });
     m_confirmation->start();
     update();

@@ -25,5 +25,9 @@ test: build
 install: build
 	cmake --install $(BUILD_DIR) --prefix $(PREFIX)
 
+# The Debian package, written to $(BUILD_DIR)/vantle_<version>_<arch>.deb.
+package: build
+	cmake --build $(BUILD_DIR) --target package
+
 clean:
 	rm -rf $(BUILD_DIR)

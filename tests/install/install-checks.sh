@@ -69,6 +69,14 @@ check_layout() {
     grep -q "<id>$app_id</id>" "$metainfo" || fail "the metainfo file's id is not $app_id"
     grep -q '<launchable type="desktop-id">vantle.desktop</launchable>' "$metainfo" || fail "metainfo launchable is not vantle.desktop"
     grep -q '<binary>vantle</binary>' "$metainfo" || fail "metainfo does not provide the binary vantle"
+    # The home page is listed only when the build was given one.
+    local website
+    website=$(sed -n 's/^VANTLE_WEBSITE_URL:STRING=//p' "$build/CMakeCache.txt")
+    if [[ -z $website ]]; then
+        ! grep -q '<url' "$metainfo" || fail "metainfo lists an address although none was configured"
+    else
+        grep -q '<url type="homepage">' "$metainfo" || fail "metainfo lacks the configured home page"
+    fi
     local version
     version=$("$prefix/bin/vantle" --version | awk '{print $2}')
     grep -q "<release version=\"$version\"" "$metainfo" || fail "metainfo has no release for version $version"

@@ -1,5 +1,6 @@
 #include "BuildInfo.h"
 #include "app/CommandLine.h"
+#include "app/RemoteCommands.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
@@ -22,6 +23,8 @@ struct Command {
 
 const Command commands[] = {
     {"format", runFormatCommand},
+    {"pick", runPickRequest},
+    {"toggle", runToggleCommand},
 };
 
 bool needsDisplay(const QStringList &args)

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+class QLocalServer;
+
+// Makes Vantle a single instance per user session and takes requests from other processes
+// (`vantle pick`, `vantle toggle`, a second `vantle` start).
+//
+// On the session bus it owns the well-known name io.github.vantle.Vantle (claimed atomically,
+// so of two instances started at once exactly one wins) and serves Pick and TogglePopover.
+// Without a session bus it listens on a local socket in $XDG_RUNTIME_DIR, readable by this
+// user only; a socket left behind by a crashed instance is removed, a live one respected.
+// Requests arrive as signals on the main thread.
+class InstanceServer : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "io.github.vantle.Vantle")
+public:
+    // The server when this process is the first Vantle of the session; null when another one
+    // already runs.
+    static std::unique_ptr<InstanceServer> claim();
+    ~InstanceServer() override;
+
+    // Path of the fallback socket for this user.
+    static QString socketPath();
+
+public Q_SLOTS:
+    Q_SCRIPTABLE void Pick();
+    Q_SCRIPTABLE void TogglePopover();
+
+Q_SIGNALS:
+    void pickRequested();
+    void togglePopoverRequested();
+
+private:
+    InstanceServer() = default;
+    void serveLocalSocket(std::unique_ptr<QLocalServer> server);
+    void handleRequest(const QByteArray &request);
+
+    std::unique_ptr<QLocalServer> m_localServer;
+    bool m_ownsBusName = false;
+};
+
+// Sends a request ("Pick" or "TogglePopover") to the running Vantle. False, with a message for
+// the user in `error`, when none runs or it does not answer.
+bool sendInstanceRequest(const QString &method, QString *error);

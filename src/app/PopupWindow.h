@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+// The window under the tray icon that hosts the colour list. Frameless; it closes when the user
+// clicks elsewhere or presses Escape, and takes keyboard focus when it opens.
+//
+// Where the desktop has no system tray, the same window is an ordinary small window instead
+// (`setStandalone(true)`), which the user can move and close; Vantle keeps running.
+class PopupWindow : public QWidget {
+    Q_OBJECT
+public:
+    explicit PopupWindow(QWidget *parent = nullptr);
+
+    // Replaces the hosted content (the previous one is deleted).
+    void setContent(QWidget *content);
+    QWidget *content() const { return m_content; }
+
+    void setStandalone(bool standalone);
+    bool isStandalone() const { return m_standalone; }
+
+    // Shows the window below `anchor` (the tray icon's screen rectangle), or near the pointer
+    // when the anchor is unknown, kept inside the available area of that screen.
+    void popUp(const QRect &anchor);
+
+    // True for a short moment after the popup closed because of a click outside it: the click
+    // on the tray icon that closed it must not open it again at once.
+    bool justClosedByOutsideClick() const;
+
+    // Where the window goes for an anchor, pure geometry for a screen's available area.
+    static QPoint placement(const QRect &anchor, const QPoint &pointer, const QSize &size, const QRect &available);
+
+Q_SIGNALS:
+    void closed();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    bool event(QEvent *event) override;
+
+private:
+    QPointer<QWidget> m_content;
+    bool m_standalone = false;
+    qint64 m_closedAtMs = 0;
+};

@@ -1,0 +1,31 @@
+#include "app/CommandLine.h"
+#include "app/InstanceServer.h"
+
+namespace {
+
+int sendRequest(const char *command, const QString &method, const QStringList &args, CommandContext &context)
+{
+    if (!args.isEmpty()) {
+        context.err << "vantle " << command << ": unexpected argument \"" << args.first() << "\"\n";
+        return ExitStatus::usage;
+    }
+    QString error;
+    if (!sendInstanceRequest(method, &error)) {
+        context.err << "vantle " << command << ": " << error
+                    << " Start it with `vantle` (or from your applications menu) first.\n";
+        return ExitStatus::failure;
+    }
+    return ExitStatus::ok;
+}
+
+} // namespace
+
+int runPickRequest(const QStringList &args, CommandContext &context)
+{
+    return sendRequest("pick", QStringLiteral("Pick"), args, context);
+}
+
+int runToggleCommand(const QStringList &args, CommandContext &context)
+{
+    return sendRequest("toggle", QStringLiteral("TogglePopover"), args, context);
+}

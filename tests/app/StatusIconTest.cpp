@@ -1,0 +1,51 @@
+#include "app/StatusIcon.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// The symbol's painted pixels: every opaque-ish pixel inside the 18 × 18 square.
+int symbolPixels(const QImage &image, QRgb *sample)
+{
+    int count = 0;
+    for (int y = 0; y < 18; ++y)
+        for (int x = 0; x < 18; ++x)
+            if (qAlpha(image.pixel(x, y)) > 200) {
+                ++count;
+                *sample = image.pixel(x, y);
+            }
+    return count;
+}
+
+} // namespace
+
+TEST(StatusIcon, DotCanvasInLightAndDark)
+{
+    for (bool dark : {false, true}) {
+        const QImage image = StatusIcon::iconWithDot(dark, QColor::fromRgbF(1.0, 0.42, 0.21, 0.2));
+        ASSERT_EQ(image.size(), QSize(30, 18));
+        // The dot: opaque picked colour at its centre (26, 9), whatever the stored alpha.
+        EXPECT_EQ(image.pixelColor(26, 9), QColor(255, 107, 54)) << dark;
+        // Vertically centred: rows 5...12 hold the dot, rows 0-3 and 14-17 above and below do not.
+        EXPECT_GT(qAlpha(image.pixel(26, 5)), 0);
+        EXPECT_EQ(qAlpha(image.pixel(26, 3)), 0);
+        EXPECT_EQ(qAlpha(image.pixel(26, 14)), 0);
+        // The 4-point gap between symbol and dot stays empty.
+        for (int y = 0; y < 18; ++y)
+            EXPECT_EQ(qAlpha(image.pixel(19, y)), 0) << y;
+        // The symbol takes the tint: white on dark panels, black on light ones.
+        QRgb sample = 0;
+        EXPECT_GT(symbolPixels(image, &sample), 20) << "the eyedropper is drawn";
+        EXPECT_EQ(QColor(sample).lightness(), dark ? 255 : 0);
+    }
+}
+
+TEST(StatusIcon, PlainIconIsTheTintedSymbolAlone)
+{
+    const QImage light = StatusIcon::plainIcon(false, 2.0);
+    EXPECT_EQ(light.size(), QSize(36, 36)) << "device pixels at scale 2";
+    EXPECT_EQ(light.deviceIndependentSize(), QSizeF(18, 18));
+    QRgb sample = 0;
+    EXPECT_GT(symbolPixels(StatusIcon::plainIcon(true), &sample), 20);
+    EXPECT_EQ(QColor(sample).lightness(), 255);
+}

@@ -122,6 +122,7 @@ check_manual() {
         for sub in $(subcommands); do
             grep -Eq "^       $sub( |$)" <<<"$commands" || fail "the manual page does not describe \"$sub\""
             sed -n '/^EXAMPLES/,$p' "$work/page.txt" | grep -q "vantle $sub" || fail "the manual page has no example of \"$sub\""
+            "$prefix/bin/vantle" --help | grep -Eq "^ +vantle $sub( |$)" || fail "vantle --help has no example of \"$sub\""
         done
     fi
     [[ -n $(subcommands) ]] || fail "vantle --help lists no commands"

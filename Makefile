@@ -32,5 +32,9 @@ bench:
 	cmake --build $(BUILD_DIR)/bench -j $(JOBS) --target sampler_bench
 	bench/run-bench.sh $(BUILD_DIR)/bench/bin/sampler_bench $(BUILD_DIR)/bench/results.md
 
+# The Debian package, written to $(BUILD_DIR)/vantle_<version>_<arch>.deb.
+package: build
+	cmake --build $(BUILD_DIR) --target package
+
 clean:
 	rm -rf $(BUILD_DIR)

@@ -1,0 +1,241 @@
+#!/usr/bin/env bash
+# install-checks.sh CHECK BUILD_DIR: checks what `cmake --install` and `make package` deliver.
+# Each check installs into its own temporary prefix. Exit status 77 means "skipped": a tool the
+# check needs is not installed.
+set -euo pipefail
+
+check=$1
+build=$(cd "$2" && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+failures=0
+fail() { echo "FAIL: $*" >&2; failures=$((failures + 1)); }
+skip() { echo "SKIP: $*" >&2; exit 77; }
+need() { command -v "$1" >/dev/null 2>&1 || skip "$1 is not installed (package $2)"; }
+
+install_into() {
+    prefix=$work/prefix
+    cmake --install "$build" --prefix "$prefix" >"$work/install.log" || { cat "$work/install.log" >&2; exit 1; }
+    app_id=$(sed -n 's/^VANTLE_APP_ID:STRING=//p' "$build/CMakeCache.txt")
+    desktop=$prefix/share/applications/vantle.desktop
+    metainfo=$prefix/share/metainfo/$app_id.metainfo.xml
+    manual=$prefix/share/man/man1/vantle.1.gz
+    completion=$prefix/share/bash-completion/completions/vantle
+}
+
+# The subcommands as the program itself lists them in its help.
+subcommands() {
+    "$prefix/bin/vantle" --help | sed -n '/^Commands:/,/^$/p' | sed -n 's/^  \([a-z][a-z-]*\)\b.*/\1/p'
+}
+
+# PNG width and height from the IHDR chunk.
+png_size() {
+    local w h
+    w=$(od -An -tu1 -j16 -N4 "$1" | awk '{print $1*16777216 + $2*65536 + $3*256 + $4}')
+    h=$(od -An -tu1 -j20 -N4 "$1" | awk '{print $1*16777216 + $2*65536 + $3*256 + $4}')
+    echo "${w}x${h}"
+}
+
+desktop_value() { sed -n "/^\[Desktop Entry\]/,/^\[/s/^$1=//p" "$desktop"; }
+
+check_layout() {
+    install_into
+    [[ -n $app_id ]] || fail "VANTLE_APP_ID is empty in the build's cache"
+    local f
+    for f in bin/vantle share/applications/vantle.desktop share/metainfo/$app_id.metainfo.xml \
+        share/man/man1/vantle.1.gz share/bash-completion/completions/vantle \
+        share/icons/hicolor/scalable/apps/vantle.svg share/icons/hicolor/scalable/apps/vantle-symbolic.svg; do
+        [[ -s $prefix/$f ]] || fail "$f is not installed"
+    done
+    [[ -x $prefix/bin/vantle ]] || fail "bin/vantle is not executable"
+    local size png
+    for size in 16 24 32 48 64 128 256 512; do
+        png=$prefix/share/icons/hicolor/${size}x${size}/apps/vantle.png
+        if [[ ! -s $png ]]; then
+            fail "no ${size}x${size} icon"
+        elif [[ $(png_size "$png") != "${size}x${size}" ]]; then
+            fail "the ${size}x${size} icon measures $(png_size "$png")"
+        fi
+    done
+    # The desktop entry starts the installed program and names an installed icon.
+    local exec icon
+    exec=$(desktop_value Exec)
+    icon=$(desktop_value Icon)
+    [[ -x $prefix/bin/${exec%% *} ]] || fail "the desktop entry runs \"$exec\", which is not in bin/"
+    [[ -e $prefix/share/icons/hicolor/scalable/apps/$icon.svg ]] || fail "the desktop entry's icon \"$icon\" is not installed"
+    grep -q '^Exec=vantle pick$' "$desktop" || fail "the desktop entry has no \"vantle pick\" action"
+    # The metadata points at this desktop entry and this program.
+    grep -q "<id>$app_id</id>" "$metainfo" || fail "the metainfo file's id is not $app_id"
+    grep -q '<launchable type="desktop-id">vantle.desktop</launchable>' "$metainfo" || fail "metainfo launchable is not vantle.desktop"
+    grep -q '<binary>vantle</binary>' "$metainfo" || fail "metainfo does not provide the binary vantle"
+    # The home page is listed only when the build was given one.
+    local website
+    website=$(sed -n 's/^VANTLE_WEBSITE_URL:STRING=//p' "$build/CMakeCache.txt")
+    if [[ -z $website ]]; then
+        ! grep -q '<url' "$metainfo" || fail "metainfo lists an address although none was configured"
+    else
+        grep -q '<url type="homepage">' "$metainfo" || fail "metainfo lacks the configured home page"
+    fi
+    local version
+    version=$("$prefix/bin/vantle" --version | awk '{print $2}')
+    grep -q "<release version=\"$version\"" "$metainfo" || fail "metainfo has no release for version $version"
+    # The installed program runs from its prefix.
+    [[ $("$prefix/bin/vantle" format --format hex 1,0,0) == "#FF0000" ]] || fail "the installed program does not format colours"
+}
+
+check_desktop_entry() {
+    need desktop-file-validate desktop-file-utils
+    install_into
+    local out
+    out=$(desktop-file-validate "$desktop" 2>&1) || fail "desktop-file-validate rejects the entry"
+    # Hints are advice; errors and warnings are defects.
+    if grep -E 'error|warning' <<<"$out"; then fail "desktop-file-validate complains"; fi
+}
+
+check_metainfo() {
+    need appstreamcli appstream
+    install_into
+    appstreamcli validate --no-net --pedantic "$metainfo" || fail "appstreamcli rejects $app_id.metainfo.xml"
+}
+
+check_manual() {
+    install_into
+    local page=$work/vantle.1
+    gzip -dc "$manual" >"$page"
+    if command -v groff >/dev/null 2>&1; then
+        local warnings
+        warnings=$(groff -ww -man -z "$page" 2>&1)
+        [[ -z $warnings ]] || fail "groff warns: $warnings"
+    elif command -v man >/dev/null 2>&1; then
+        :
+    else
+        skip "neither groff (groff-base) nor man (man-db) is installed"
+    fi
+    if command -v man >/dev/null 2>&1; then
+        local warnings
+        warnings=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -l "$manual" 2>&1 >"$work/page.txt")
+        [[ -z $warnings ]] || fail "man warns: $warnings"
+        # Every subcommand the help lists has its own entry under COMMANDS and an example.
+        local sub commands
+        commands=$(sed -n '/^COMMANDS/,/^[A-Z]/p' "$work/page.txt")
+        for sub in $(subcommands); do
+            grep -Eq "^       $sub( |$)" <<<"$commands" || fail "the manual page does not describe \"$sub\""
+            sed -n '/^EXAMPLES/,$p' "$work/page.txt" | grep -q "vantle $sub" || fail "the manual page has no example of \"$sub\""
+            "$prefix/bin/vantle" --help | grep -Eq "^ +vantle $sub( |$)" || fail "vantle --help has no example of \"$sub\""
+        done
+    fi
+    [[ -n $(subcommands) ]] || fail "vantle --help lists no commands"
+}
+
+# complete WORDS...: the completions bash offers for the last word.
+complete_words() {
+    bash -c '
+        source /usr/share/bash-completion/bash_completion
+        source "$1"; shift
+        COMP_WORDS=("$@"); COMP_CWORD=$(($# - 1))
+        COMP_LINE="$*"; COMP_POINT=${#COMP_LINE}
+        _vantle vantle "${COMP_WORDS[COMP_CWORD]}" "${COMP_WORDS[COMP_CWORD - 1]}"
+        printf "%s\n" "${COMPREPLY[@]}" | sort' _ "$completion" "$@"
+}
+
+check_completion() {
+    [[ -r /usr/share/bash-completion/bash_completion ]] || skip "bash-completion is not installed"
+    install_into
+    bash -n "$completion" || fail "the completion script does not parse"
+    local offered
+    offered=$(complete_words vantle '' | tr '\n' ' ')
+    local sub
+    for sub in $(subcommands); do
+        grep -qw -- "$sub" <<<"$offered" || fail "completion does not offer the command \"$sub\" (offers: $offered)"
+    done
+    local cases=(
+        # words typed                  | expected completions
+        "vantle fo|format"
+        "vantle format --format hs|hsl hsb"
+        "vantle format --format=hexL|hexLower"
+        "vantle pick --print --format c|css"
+        "vantle format --a|--all"
+        "vantle export --p|--pinned"
+        "vantle pick --|--format --print"
+        "vantle toggle --|"
+    )
+    local c words expected got
+    for c in "${cases[@]}"; do
+        words=${c%%|*}
+        expected=$(tr ' ' '\n' <<<"${c#*|}" | sed '/^$/d' | sort | tr '\n' ' ')
+        # shellcheck disable=SC2086
+        got=$(complete_words $words | sed '/^$/d' | tr '\n' ' ')
+        [[ $got == "$expected" ]] || fail "completing \"$words\": expected \"$expected\", got \"$got\""
+    done
+    # Every format name the program accepts is offered.
+    local accepted
+    accepted=$("$prefix/bin/vantle" format --help | sed -n 's/^Formats: //p' | grep -o '" ([a-zA-Z]*)' | tr -d '"() ')
+    offered=$(complete_words vantle format --format '' | tr '\n' ' ')
+    for sub in $accepted; do
+        grep -qw -- "$sub" <<<"$offered" || fail "completion does not offer the format \"$sub\""
+    done
+}
+
+check_package() {
+    need cpack cmake
+    need dpkg-deb dpkg
+    need dpkg-shlibdeps dpkg-dev
+    cpack --config "$build/CPackConfig.cmake" -B "$work/out" >"$work/cpack.log" 2>&1 || { cat "$work/cpack.log" >&2; exit 1; }
+    local deb
+    deb=$(ls "$work"/out/vantle_*.deb)
+    [[ $(basename "$deb") == vantle_$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")_$(dpkg --print-architecture).deb ]] ||
+        fail "unexpected package file name $(basename "$deb")"
+    local field
+    for field in Package Section Maintainer Depends Recommends Description; do
+        [[ -n $(dpkg-deb -f "$deb" "$field") ]] || fail "the package has no $field field"
+    done
+    [[ $(dpkg-deb -f "$deb" Package) == vantle ]] || fail "the package is not called vantle"
+    [[ $(dpkg-deb -f "$deb" Section) == graphics ]] || fail "the package is not in section graphics"
+    local depends
+    depends=$(dpkg-deb -f "$deb" Depends)
+    local name
+    for name in qt6-qpa-plugins libqt6svg6; do
+        grep -qw "$name" <<<"$depends" || fail "Depends lacks $name: $depends"
+    done
+    grep -qw xdg-desktop-portal <<<"$(dpkg-deb -f "$deb" Recommends)" || fail "xdg-desktop-portal is not recommended"
+
+    # Unpack and check the program against what the system's own tools say it needs.
+    dpkg-deb -x "$deb" "$work/root"
+    local program=$work/root/usr/bin/vantle
+    [[ -x $program ]] || fail "the package has no usr/bin/vantle"
+    mkdir -p "$work/shlibs/debian"
+    printf 'Source: vantle\n\nPackage: vantle\nArchitecture: any\n' >"$work/shlibs/debian/control"
+    local needed
+    needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" 2>/dev/null | sed -n 's/^shlibs:Depends=//p')
+    [[ -n $needed ]] || fail "dpkg-shlibdeps found no dependencies"
+    local dep declared
+    declared=$(tr ',' '\n' <<<"$depends" | sed 's/^ *//; s/ .*//')
+    while read -r dep; do
+        name=${dep%% *}
+        grep -qxF "$name" <<<"$declared" || fail "Depends lacks $name, which the program needs (dpkg-shlibdeps: $needed)"
+    done < <(tr ',' '\n' <<<"$needed" | sed 's/^ *//; /^$/d')
+    [[ $("$program" --version) == "vantle $(dpkg-deb -f "$deb" Version)" ]] || fail "the packaged program reports another version"
+    for name in usr/share/applications/vantle.desktop usr/share/man/man1/vantle.1.gz usr/share/icons/hicolor/scalable/apps/vantle.svg; do
+        [[ -s $work/root/$name ]] || fail "the package lacks /$name"
+    done
+    # Where the package index is available, every declared dependency must resolve on this system.
+    if [[ -n $(apt-cache policy qt6-qpa-plugins 2>/dev/null | sed -n 's/^ *Candidate: //p' | grep -v none) ]]; then
+        apt-get install --simulate --no-install-recommends "$deb" >"$work/apt.log" 2>&1 ||
+            { cat "$work/apt.log" >&2; fail "apt cannot resolve the package's dependencies"; }
+    else
+        echo "note: no package index, dependency resolution not simulated"
+    fi
+}
+
+case $check in
+    layout) check_layout ;;
+    desktop-entry) check_desktop_entry ;;
+    metainfo) check_metainfo ;;
+    manual) check_manual ;;
+    completion) check_completion ;;
+    package) check_package ;;
+    *) echo "unknown check $check" >&2; exit 2 ;;
+esac
+((failures == 0)) || { echo "$failures check(s) failed" >&2; exit 1; }
+echo "ok: $check"

@@ -57,6 +57,7 @@ public:
     HotkeyManager *hotkeyManager() const { return m_hotkeyManager.get(); }
     QSystemTrayIcon *statusItem() const { return m_statusItem.get(); }
     PopupWindow *popover() const { return m_popover.get(); }
+    OnboardingWindow *onboardingWindow() const { return m_onboardingWindow.get(); }
 
     // How long to wait for a tray host at launch before showing the popup as a window.
     static constexpr int trayHostWaitMs = 10000;

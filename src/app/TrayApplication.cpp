@@ -13,8 +13,46 @@
 #include "services/XdgAutostartService.h"
 
 #include <QApplication>
+#include <QSocketNotifier>
 #include <QTextStream>
 #include <QTimer>
+#include <csignal>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+int quitSignalPipe[2] = {-1, -1};
+
+void writeQuitSignal(int)
+{
+    const char byte = 1;
+    [[maybe_unused]] const ssize_t written = ::write(quitSignalPipe[0], &byte, 1);
+}
+
+// A logout or a Ctrl+C in the terminal ends Vantle as its Quit button would, so the shortcuts
+// are released the normal way. The signal handler only writes a byte; the quit itself runs
+// on the main thread when the event loop reads it.
+void quitOnTerminationSignals(QObject *context)
+{
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, quitSignalPipe) != 0)
+        return;
+    auto *notifier = new QSocketNotifier(quitSignalPipe[1], QSocketNotifier::Read, context);
+    QObject::connect(notifier, &QSocketNotifier::activated, context, [] {
+        char byte;
+        [[maybe_unused]] const ssize_t read = ::read(quitSignalPipe[1], &byte, 1);
+        QCoreApplication::quit();
+    });
+    struct sigaction action = {};
+    action.sa_handler = writeQuitSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGHUP, &action, nullptr);
+}
+
+} // namespace
 
 int runTrayApplication()
 {
@@ -50,6 +88,7 @@ int runTrayApplication()
     QObject::connect(instance.get(), &InstanceServer::togglePopoverRequested, &delegate,
                      &AppDelegate::togglePopover, Qt::QueuedConnection);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
+    quitOnTerminationSignals(&delegate);
 
     // Launching finishes once the event loop runs, as a desktop application's would.
     QTimer::singleShot(0, &delegate, &AppDelegate::applicationDidFinishLaunching);

@@ -128,4 +128,12 @@ wait_for 10 sh -c "! kill -0 $pid" || fail "Vantle did not quit from its menu"
 wait "$pid" || fail "Vantle ended with status $?"
 pid=
 if timeout 20 "$vantle" toggle 2>/dev/null; then fail "vantle toggle still finds a Vantle"; fi
+
+# A logout (SIGTERM) ends Vantle cleanly, as Quit does.
+"$vantle" &
+pid=$!
+wait_for 20 tray_icon || fail "no tray icon at the second start"
+kill -TERM "$pid"
+wait "$pid" || fail "Vantle ended with status $? on SIGTERM"
+pid=
 echo "PASS"

@@ -7,7 +7,9 @@ namespace DownloadFileName {
 
 QString safeFileName(const QUrl &url, const QString &fallback)
 {
-    const QString segment = url.path(QUrl::FullyDecoded).section(QLatin1Char('/'), -1);
+    // Split before decoding, so an encoded "/" stays inside the name (and is replaced below).
+    const QString segment
+        = QUrl::fromPercentEncoding(url.path(QUrl::FullyEncoded).section(QLatin1Char('/'), -1).toLatin1());
     QString name;
     for (const QChar c : segment) {
         const bool plain = c.isLetterOrNumber() || c == QLatin1Char('.') || c == QLatin1Char('-')

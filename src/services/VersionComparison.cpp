@@ -23,6 +23,27 @@ VersionPart splitPart(QStringView text)
     return part;
 }
 
+// "b2" before "b10": runs of digits compare as numbers, the rest as text.
+int compareSuffixes(QStringView a, QStringView b)
+{
+    while (!a.isEmpty() && !b.isEmpty()) {
+        if (a.front().isDigit() && b.front().isDigit()) {
+            const VersionPart l = splitPart(a);
+            const VersionPart r = splitPart(b);
+            if (l.number != r.number)
+                return l.number < r.number ? -1 : 1;
+            a = l.suffix;
+            b = r.suffix;
+            continue;
+        }
+        if (a.front() != b.front())
+            return a.front() < b.front() ? -1 : 1;
+        a = a.mid(1);
+        b = b.mid(1);
+    }
+    return a.isEmpty() == b.isEmpty() ? 0 : (a.isEmpty() ? -1 : 1);
+}
+
 } // namespace
 
 int compareVersions(const QString &a, const QString &b)
@@ -37,8 +58,8 @@ int compareVersions(const QString &a, const QString &b)
             return l.number < r.number ? -1 : 1;
         if (l.suffix.isEmpty() != r.suffix.isEmpty())
             return l.suffix.isEmpty() ? 1 : -1;
-        if (const int c = l.suffix.compare(r.suffix); c != 0)
-            return c < 0 ? -1 : 1;
+        if (const int c = compareSuffixes(l.suffix, r.suffix); c != 0)
+            return c;
     }
     return 0;
 }

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "hotkeys/GlobalShortcutBackend.h"
+
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+// Global shortcuts through the desktop's org.freedesktop.portal.GlobalShortcuts portal (the
+// only way on Wayland). One session is created on the first registration; every change binds
+// the whole current set again, with the stored shortcut as the preferred trigger. The desktop
+// decides the real trigger (it may ask the user), so a press arrives as `Activated` for our
+// session and shortcut id.
+//
+// Every call is asynchronous: the Request's Response signal is subscribed to before the call
+// (the portal may answer before the call returns) and no event loop is nested. Where the portal
+// is missing or refuses, nothing is registered and nothing is reported.
+class PortalShortcutBackend final : public GlobalShortcutBackend {
+    Q_OBJECT
+public:
+    explicit PortalShortcutBackend(const QDBusConnection &bus, QObject *parent = nullptr);
+    ~PortalShortcutBackend() override;
+
+    void registerShortcut(const GlobalShortcut &shortcut) override;
+    void unregisterShortcut(int id) override;
+
+    // The session's handle once the portal created it; empty before and when unavailable.
+    QString sessionHandle() const { return m_sessionHandle; }
+
+private Q_SLOTS:
+    // Slots by name: QtDBus connects signals of remote objects through the meta-object.
+    void onCreateSessionResponse(uint response, const QVariantMap &results);
+    void onBindResponse(uint response, const QVariantMap &results);
+    void onActivated(const QDBusObjectPath &sessionHandle, const QString &shortcutId, qulonglong timestamp,
+        const QVariantMap &options);
+
+private:
+    enum class State { Idle, Creating, Ready, Unavailable };
+
+    QString nextToken();
+    QString requestPath(const QString &token) const;
+    void createSession();
+    void scheduleBind();
+    void bind();
+
+    QDBusConnection m_bus;
+    State m_state = State::Idle;
+    QList<GlobalShortcut> m_shortcuts;
+    QString m_sessionHandle;
+    QString m_pendingRequest; // the CreateSession Request whose Response we wait for
+    QStringList m_bindRequests;
+    bool m_isBindScheduled = false;
+    bool m_isBound = false;
+    int m_tokenCounter = 0;
+};

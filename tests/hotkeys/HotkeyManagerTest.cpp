@@ -1,0 +1,105 @@
+#include "hotkeys/HotkeyManager.h"
+
+#include "FakeShortcutBackend.h"
+#include "services/PreferenceKeys.h"
+#include "support/TempSettings.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace PreferenceKeys;
+
+namespace {
+
+struct Fixture {
+    Fixture()
+        : manager(*settings.store, backend)
+    {
+        setPick(8, 655360);
+        setPopover(7, 655360);
+    }
+    void setPick(qint64 keyCode, qint64 modifiers)
+    {
+        settings.store->setInteger(pickKeyCode, keyCode);
+        settings.store->setInteger(pickModifiers, modifiers);
+    }
+    void setPopover(qint64 keyCode, qint64 modifiers)
+    {
+        settings.store->setInteger(popoverKeyCode, keyCode);
+        settings.store->setInteger(popoverModifiers, modifiers);
+    }
+
+    TempSettings settings;
+    FakeShortcutBackend backend;
+    HotkeyManager manager;
+};
+
+} // namespace
+
+TEST(HotkeyManager, ReregisterReleasesBothThenRegistersPickBeforePopover)
+{
+    Fixture f;
+    f.manager.reregisterAll();
+    f.setPick(9, 262144);
+    f.manager.reregisterAll();
+    EXPECT_EQ(f.backend.calls,
+        QStringList({"register 1 8 655360", "register 2 7 655360", "unregister 1", "unregister 2",
+            "register 1 9 262144", "register 2 7 655360"}));
+    EXPECT_EQ(f.backend.registered.at(0).description, QStringLiteral("Pick a color"));
+    EXPECT_EQ(f.backend.registered.at(1).description, QStringLiteral("Show or hide Vantle"));
+}
+
+TEST(HotkeyManager, UnsetOrUnregistrableShortcutsRegisterNothing)
+{
+    struct Row {
+        qint64 keyCode;
+        qint64 modifiers;
+    };
+    for (const Row row : {Row{-1, 655360}, Row{-7, 0}, Row{4294967296LL, 655360}, Row{7, -1}}) {
+        Fixture f;
+        f.setPopover(row.keyCode, row.modifiers);
+        f.manager.reregisterAll();
+        EXPECT_EQ(f.backend.calls, QStringList({"register 1 8 655360"})) << row.keyCode << " " << row.modifiers;
+    }
+}
+
+TEST(HotkeyManager, OnlyTheFourModifierBitsReachTheBackend)
+{
+    Fixture f;
+    f.setPick(8, 655360 | 65536 | 8388608); // caps lock and function bits
+    f.manager.registerPickHotkey();
+    EXPECT_EQ(f.backend.calls, QStringList({"register 1 8 655360"}));
+}
+
+TEST(HotkeyManager, PressesBecomeSignalsOnlyOnceTheHandlerIsInstalled)
+{
+    Fixture f;
+    QSignalSpy pick(&f.manager, &HotkeyManager::pickHotkeyFired);
+    QSignalSpy popover(&f.manager, &HotkeyManager::popoverHotkeyFired);
+    f.backend.press(1);
+    EXPECT_EQ(pick.count(), 0);
+
+    f.manager.installEventHandler();
+    f.manager.installEventHandler(); // a second install must not double the signals
+    f.backend.press(1);
+    f.backend.press(2);
+    f.backend.press(3);
+    EXPECT_EQ(pick.count(), 1);
+    EXPECT_EQ(popover.count(), 1);
+}
+
+TEST(HotkeyManager, SuspendedManagerHoldsNothingAndResumesFromCurrentPreferences)
+{
+    Fixture f;
+    f.manager.reregisterAll();
+    f.manager.setSuspended(true);
+    EXPECT_TRUE(f.backend.registered.isEmpty());
+    f.manager.reregisterAll(); // a change recorded while suspended
+    EXPECT_TRUE(f.backend.registered.isEmpty());
+
+    f.setPick(3, 1048576);
+    f.manager.setSuspended(false);
+    ASSERT_EQ(f.backend.registered.size(), 2);
+    EXPECT_EQ(f.backend.registered.at(0).keyCode, 3u);
+    EXPECT_EQ(f.backend.registered.at(0).modifiers, 1048576);
+}

@@ -1,0 +1,194 @@
+#include "hotkeys/HotkeyRecorderView.h"
+
+#include "services/PreferenceKeys.h"
+#include "support/TempSettings.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+using namespace PreferenceKeys;
+
+namespace {
+
+// A settings pane with the recorder and a text field that would take any key that leaks.
+struct Pane {
+    Pane()
+    {
+        settings.store->setInteger(pickKeyCode, 7);
+        settings.store->setInteger(pickModifiers, 262144);
+        settings.store->setString(pickKeyChar, QStringLiteral("X"));
+        recorder = new HotkeyRecorderView(QStringLiteral("Pick color"), *settings.store, pickKeyCode, pickModifiers,
+            pickKeyChar, [this] { ++changes; }, &window);
+        recorder->setOnRecordingChanged([this](bool isRecording) { recordingChanges << isRecording; });
+        sibling = new QLineEdit(&window);
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(recorder);
+        layout->addWidget(sibling);
+        window.show();
+        sibling->setFocus();
+    }
+
+    void startRecording()
+    {
+        QTest::mouseClick(recorder->field(), Qt::LeftButton);
+        ASSERT_TRUE(recorder->isRecording());
+    }
+
+    // A press as the X11 platform delivers it: the native scan code is the X key code.
+    void press(int qtKey, Qt::KeyboardModifiers modifiers, quint32 xKeycode, const QString &text)
+    {
+        QKeyEvent event(QEvent::KeyPress, qtKey, modifiers, xKeycode, 0, 0, text);
+        QApplication::sendEvent(sibling, &event);
+    }
+
+    qint64 keyCode() const { return settings.store->integerForKey(pickKeyCode); }
+    qint64 modifiers() const { return settings.store->integerForKey(pickModifiers); }
+    QString keyChar() const { return settings.store->stringForKey(pickKeyChar).value_or(QStringLiteral("?")); }
+    QString fieldText() const { return recorder->field()->text(); }
+
+    TempSettings settings;
+    QWidget window;
+    HotkeyRecorderView *recorder = nullptr;
+    QLineEdit *sibling = nullptr;
+    int changes = 0;
+    QList<bool> recordingChanges;
+};
+
+} // namespace
+
+TEST(HotkeyRecorderView, AcceptedPressesStoreThePhysicalKeyAndTheTextItTypes)
+{
+    struct Row {
+        const char *what;
+        int qtKey;
+        Qt::KeyboardModifiers modifiers;
+        quint32 xKeycode;
+        QString text;
+        qint64 keyCode;
+        qint64 storedModifiers;
+        QString keyChar;
+        QString display;
+        QString tooltip;
+    };
+    const Row rows[] = {
+        {"option-shift-C", Qt::Key_C, Qt::AltModifier | Qt::ShiftModifier, 54, QStringLiteral("C"), 8, 655360,
+            QStringLiteral("C"), QStringLiteral("⌥⇧C"), QStringLiteral("Alt+Shift+C")},
+        {"command-1", Qt::Key_1, Qt::MetaModifier, 10, QStringLiteral("1"), 18, 1048576, QStringLiteral("1"),
+            QStringLiteral("⌘1"), QStringLiteral("Super+1")},
+        {"option-K typing lower case", Qt::Key_K, Qt::AltModifier, 45, QStringLiteral("k"), 40, 524288,
+            QStringLiteral("K"), QStringLiteral("⌥K"), QStringLiteral("Alt+K")},
+        {"control on a French keyboard: the A key types Q", Qt::Key_Q, Qt::ControlModifier, 38,
+            QStringLiteral("\x11"), 0, 262144, QStringLiteral("Q"), QStringLiteral("⌃Q"), QStringLiteral("Ctrl+Q")},
+        {"keypad flag does not leak", Qt::Key_X, Qt::AltModifier | Qt::KeypadModifier, 53, QStringLiteral("x"), 7,
+            524288, QStringLiteral("X"), QStringLiteral("⌥X"), QStringLiteral("Alt+X")},
+        {"a key that types nothing", Qt::Key_F5, Qt::ControlModifier | Qt::AltModifier, 71, QString(), 96,
+            786432, QStringLiteral("F5"), QStringLiteral("⌃⌥F5"), QStringLiteral("Ctrl+Alt+F5")},
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.what);
+        Pane pane;
+        pane.startRecording();
+        pane.press(row.qtKey, row.modifiers, row.xKeycode, row.text);
+        EXPECT_FALSE(pane.recorder->isRecording());
+        EXPECT_EQ(pane.keyCode(), row.keyCode);
+        EXPECT_EQ(pane.modifiers(), row.storedModifiers);
+        EXPECT_EQ(pane.keyChar(), row.keyChar);
+        EXPECT_EQ(pane.changes, 1);
+        EXPECT_EQ(pane.fieldText(), row.display);
+        EXPECT_EQ(pane.recorder->field()->toolTip(), row.tooltip);
+        EXPECT_EQ(pane.sibling->text(), QString()) << "the press was swallowed";
+        EXPECT_EQ(pane.recordingChanges, QList<bool>({true, false}));
+    }
+}
+
+TEST(HotkeyRecorderView, ShortcutTextIsMonospaced)
+{
+    Pane pane;
+    EXPECT_EQ(pane.fieldText(), QStringLiteral("⌃X"));
+    EXPECT_EQ(pane.recorder->field()->font().family(), QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    EXPECT_EQ(pane.recorder->field()->font().pixelSize(), 12);
+}
+
+TEST(HotkeyRecorderView, PressesWithoutControlAltOrSuperAreSwallowedAndIgnored)
+{
+    Pane pane;
+    pane.startRecording();
+    EXPECT_EQ(pane.fieldText(), QStringLiteral("Press shortcut…"));
+    QTest::keyClick(pane.sibling, Qt::Key_A, Qt::ShiftModifier);
+    QTest::keyClick(pane.sibling, Qt::Key_A);
+    pane.press(Qt::Key_A, Qt::NoModifier, 38, QStringLiteral("a"));
+    pane.press(Qt::Key_Alt, Qt::AltModifier, 64, QString()); // Alt on its own is not a key
+    EXPECT_TRUE(pane.recorder->isRecording());
+    EXPECT_EQ(pane.fieldText(), QStringLiteral("Press shortcut…"));
+    EXPECT_EQ(pane.sibling->text(), QString());
+    EXPECT_EQ(pane.keyCode(), 7);
+    EXPECT_EQ(pane.changes, 0);
+
+    // Once recording ends, keys reach the window again.
+    QTest::mouseClick(pane.recorder->field(), Qt::LeftButton);
+    QTest::keyClick(pane.sibling, Qt::Key_A);
+    EXPECT_EQ(pane.sibling->text(), QStringLiteral("a"));
+}
+
+TEST(HotkeyRecorderView, EscapeSecondClickAndHidingStopWithoutAChange)
+{
+    const std::function<void(Pane &)> stops[] = {
+        [](Pane &pane) { QTest::keyClick(pane.sibling, Qt::Key_Escape); },
+        [](Pane &pane) { pane.press(Qt::Key_Escape, Qt::AltModifier, 9, QString()); },
+        [](Pane &pane) { QTest::mouseClick(pane.recorder->field(), Qt::LeftButton); },
+        [](Pane &pane) { pane.window.hide(); },
+    };
+    int index = 0;
+    for (const auto &stop : stops) {
+        SCOPED_TRACE(index++);
+        Pane pane;
+        pane.startRecording();
+        stop(pane);
+        EXPECT_FALSE(pane.recorder->isRecording());
+        EXPECT_EQ(pane.keyCode(), 7);
+        EXPECT_EQ(pane.modifiers(), 262144);
+        EXPECT_EQ(pane.keyChar(), QStringLiteral("X"));
+        EXPECT_EQ(pane.fieldText(), QStringLiteral("⌃X"));
+        EXPECT_EQ(pane.changes, 0);
+        EXPECT_EQ(pane.recordingChanges, QList<bool>({true, false}));
+    }
+}
+
+TEST(HotkeyRecorderView, ClearWritesNoShortcutAndKeepsRecording)
+{
+    Pane pane;
+    EXPECT_TRUE(pane.recorder->clearButton()->isVisible());
+    pane.startRecording();
+    pane.recorder->clearButton()->click();
+    EXPECT_EQ(pane.keyCode(), -1);
+    EXPECT_EQ(pane.modifiers(), 0);
+    EXPECT_EQ(pane.keyChar(), QString());
+    EXPECT_EQ(pane.changes, 1);
+    EXPECT_TRUE(pane.recorder->isRecording());
+
+    QTest::keyClick(pane.sibling, Qt::Key_Escape);
+    EXPECT_EQ(pane.fieldText(), QStringLiteral("None - click to set"));
+    EXPECT_FALSE(pane.recorder->clearButton()->isVisible());
+    EXPECT_EQ(pane.recorder->field()->toolTip(), QString());
+}
+
+TEST(HotkeyRecorderView, StoredCodeWithoutTextShowsNoneButOffersClear)
+{
+    TempSettings settings;
+    settings.store->setInteger(popoverKeyCode, 7);
+    settings.store->setInteger(popoverModifiers, 655360);
+    settings.store->setString(popoverKeyChar, QString());
+    HotkeyRecorderView view(QStringLiteral("Toggle popover"), *settings.store, popoverKeyCode, popoverModifiers,
+        popoverKeyChar, [] {});
+    view.show();
+    EXPECT_EQ(view.field()->text(), QStringLiteral("None - click to set"));
+    EXPECT_TRUE(view.clearButton()->isVisible());
+    EXPECT_GE(view.field()->sizeHint().width(), 130);
+}

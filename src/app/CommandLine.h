@@ -24,6 +24,9 @@ inline constexpr int usage = 2; // the command was given something it does not u
 // vantle format [--format NAME | --all] [--contrast] COLOR...
 int runFormatCommand(const QStringList &args, CommandContext &context);
 
+// vantle export [--pinned] [--json] [-o FILE]
+int runExportCommand(const QStringList &args, CommandContext &context);
+
 // The overall help text and the names of the subcommands.
 QString commandLineHelp();
 bool isSubcommand(const QString &word);

@@ -22,6 +22,7 @@ struct Command {
 
 const Command commands[] = {
     {"format", runFormatCommand},
+    {"export", runExportCommand},
 };
 
 bool needsDisplay(const QStringList &args)

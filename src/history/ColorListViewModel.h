@@ -1,5 +1,6 @@
 #pragma once
 
+#include "history/ScreenColorSampler.h"
 #include "model/PickedColor.h"
 
 #include <QList>
@@ -9,7 +10,6 @@
 class Clipboard;
 class CopyConfirmation;
 class ExportDialogs;
-class ScreenColorSampler;
 class SettingsStore;
 
 // The single owner of the colour history: picks, files, trims, pins, names, deletes, copies,
@@ -21,7 +21,7 @@ public:
     // Collaborators are owned by the caller and outlive the model. Construction loads the
     // stored history.
     ColorListViewModel(SettingsStore &store, ScreenColorSampler &sampler, Clipboard &clipboard,
-                       CopyConfirmation &confirmation, ExportDialogs &exportDialogs, QObject *parent = nullptr);
+        CopyConfirmation &confirmation, ExportDialogs &exportDialogs, QObject *parent = nullptr);
     ~ColorListViewModel() override;
 
     const QList<PickedColor> &colors() const { return m_colors; }
@@ -54,6 +54,10 @@ Q_SIGNALS:
 private:
     void setColors(QList<PickedColor> colors);
     void setIsPicking(bool isPicking);
+    void finishPick(const std::optional<SampledColor> &sample);
+    void copyText(const QString &text);
+    qsizetype indexOf(const QUuid &id) const;
+    void keepUnreadableHistory(const QByteArray &bytes);
 
     SettingsStore &m_store;
     ScreenColorSampler &m_sampler;

@@ -1,0 +1,77 @@
+#include "app/CommandLine.h"
+#include "history/PaletteExport.h"
+#include "model/PickedColor.h"
+#include "services/PreferenceKeys.h"
+#include "services/SettingsStore.h"
+#include "services/SettingsViewModel.h"
+
+int runExportCommand(const QStringList &args, CommandContext &context)
+{
+    bool pinnedOnly = false;
+    bool asJSON = false;
+    std::optional<QString> outputPath;
+
+    auto usageError = [&](const QString &message) {
+        context.err << "vantle export: " << message << Qt::endl;
+        return ExitStatus::usage;
+    };
+
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        const QString &word = args[i];
+        const OptionWord option = splitOptionWord(word);
+        if (word == u"--pinned" || word == u"-p") {
+            pinnedOnly = true;
+        } else if (word == u"--json" || word == u"-j") {
+            asJSON = true;
+        } else if (option.name == u"--output" || option.name == u"-o") {
+            if (option.inlineValue)
+                outputPath = *option.inlineValue;
+            else if (i + 1 < args.size())
+                outputPath = args[++i];
+            else
+                return usageError(QStringLiteral("-o needs a file name"));
+            if (outputPath->isEmpty())
+                return usageError(QStringLiteral("-o needs a file name"));
+        } else if (word == u"--help" || word == u"-h") {
+            context.out
+                << "Usage: vantle export [--pinned] [--json] [-o FILE]\n"
+                << "Prints the stored colour history (with --pinned only the pinned colours), newest\n"
+                << "first, as text in the preferred format or as JSON; -o writes it to FILE.\n";
+            return ExitStatus::ok;
+        } else {
+            return usageError(QStringLiteral("unknown argument \"%1\"").arg(word));
+        }
+    }
+
+    QList<PickedColor> colors;
+    if (const std::optional<QByteArray> stored = context.store.dataForKey(PreferenceKeys::colorHistory)) {
+        std::optional<QList<PickedColor>> decoded = decodeColorHistory(*stored);
+        if (!decoded) {
+            // The tray program starts empty on such a value; here an empty palette would look
+            // like a lost history, so say so.
+            context.err << "vantle export: the stored colour history cannot be read ("
+                        << context.store.filePath() << ")" << Qt::endl;
+            return ExitStatus::failure;
+        }
+        colors = std::move(*decoded);
+    }
+    if (pinnedOnly)
+        colors.removeIf([](const PickedColor &color) { return !color.isPinned; });
+
+    const QByteArray content
+        = asJSON ? exportJSON(colors) : exportText(colors, SettingsViewModel::currentFormat(context.store));
+    if (outputPath) {
+        if (const std::optional<QString> failure = writeExportFile(*outputPath, content)) {
+            context.err << "vantle export: cannot write \"" << *outputPath << "\": " << *failure << Qt::endl;
+            return ExitStatus::failure;
+        }
+        return ExitStatus::ok;
+    }
+    // The file layouts end without a line feed; a terminal prompt should not follow on the
+    // same line.
+    context.out << QString::fromUtf8(content);
+    if (!content.isEmpty())
+        context.out << '\n';
+    context.out.flush();
+    return ExitStatus::ok;
+}

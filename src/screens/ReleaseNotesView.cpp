@@ -1,0 +1,39 @@
+#include "screens/ReleaseNotesView.h"
+
+#include <QDesktopServices>
+#include <QRegularExpression>
+
+ReleaseNotesView::ReleaseNotesView(QWidget *parent)
+    : QTextBrowser(parent)
+{
+    setOpenLinks(false);
+    setOpenExternalLinks(false);
+    setReadOnly(true);
+    connect(this, &QTextBrowser::anchorClicked, this, [](const QUrl &url) {
+        if (url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http"))
+            QDesktopServices::openUrl(url);
+    });
+}
+
+void ReleaseNotesView::setNotes(const QString &notes)
+{
+    if (!Qt::mightBeRichText(notes)) {
+        setPlainText(notes);
+        return;
+    }
+    // Style sheets and inline styles from a feed could hide text or mimic the dialog's own
+    // buttons; the notes take the dialog's look instead.
+    QString html = notes;
+    static const QRegularExpression styleBlocks(QStringLiteral("<style\\b[^>]*>.*?</style\\s*>"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression styleAttributes(QStringLiteral("\\sstyle\\s*=\\s*(\"[^\"]*\"|'[^']*'|[^\\s>]*)"),
+        QRegularExpression::CaseInsensitiveOption);
+    html.remove(styleBlocks);
+    html.remove(styleAttributes);
+    setHtml(html);
+}
+
+QVariant ReleaseNotesView::loadResource(int, const QUrl &)
+{
+    return {};
+}

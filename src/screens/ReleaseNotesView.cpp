@@ -1,6 +1,8 @@
 #include "screens/ReleaseNotesView.h"
 
 #include <QDesktopServices>
+#include <QImage>
+#include <QTextDocument>
 #include <QRegularExpression>
 
 ReleaseNotesView::ReleaseNotesView(QWidget *parent)
@@ -33,7 +35,16 @@ void ReleaseNotesView::setNotes(const QString &notes)
     setHtml(html);
 }
 
-QVariant ReleaseNotesView::loadResource(int, const QUrl &)
+QVariant ReleaseNotesView::loadResource(int type, const QUrl &)
 {
-    return {};
+    // An empty value, not an invalid one: for an invalid answer the document goes on to read
+    // local files itself.
+    switch (type) {
+    case QTextDocument::ImageResource:
+        return QImage();
+    case QTextDocument::StyleSheetResource:
+        return QString();
+    default:
+        return QByteArray();
+    }
 }

@@ -40,8 +40,12 @@ QVariant ReleaseNotesView::loadResource(int type, const QUrl &)
     // An empty value, not an invalid one: for an invalid answer the document goes on to read
     // local files itself.
     switch (type) {
-    case QTextDocument::ImageResource:
-        return QImage();
+    case QTextDocument::ImageResource: {
+        // A transparent dot rather than the broken-picture sign.
+        QImage nothing(1, 1, QImage::Format_ARGB32);
+        nothing.fill(Qt::transparent);
+        return nothing;
+    }
     case QTextDocument::StyleSheetResource:
         return QString();
     default:

@@ -72,7 +72,9 @@ void SettingsTabButton::paintEvent(QPaintEvent *)
     const QRect labelRect(0, padding + symbolFrame + gap, width(), QFontMetrics(painter.font()).height());
     painter.drawText(labelRect, Qt::AlignHCenter | Qt::AlignTop, text());
 
-    if (hasFocus()) {
+    // The ring only after keyboard navigation, so the tab focused at opening does not look
+    // selected as well.
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
         QPen focus(SettingsStyle::accent());
         focus.setWidthF(1.5);
         painter.setPen(selected ? QPen(Qt::white) : focus);

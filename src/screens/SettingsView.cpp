@@ -27,6 +27,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <array>
@@ -187,16 +188,23 @@ QWidget *SettingsView::makeGeneralPage()
 {
     auto *content = new QWidget;
     auto *layout = new QVBoxLayout(content);
-    layout->setContentsMargins(20, 14, 20, 14);
-    layout->setSpacing(10);
+    layout->setContentsMargins(20, 10, 20, 10);
+    layout->setSpacing(6);
 
     const auto section = [layout](const QString &title) {
         auto *box = new QGroupBox(title);
         layout->addWidget(box);
         return box;
     };
+    // Compact sections, so the whole page fits the window without scrolling.
+    const auto compact = [](QLayout *inner) {
+        inner->setContentsMargins(10, 6, 10, 6);
+        return inner;
+    };
     const auto formFor = [](QGroupBox *box) {
         auto *form = new QFormLayout(box);
+        form->setContentsMargins(10, 6, 10, 6);
+        form->setVerticalSpacing(6);
         form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
         form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         form->setRowWrapPolicy(QFormLayout::DontWrapRows);
@@ -224,7 +232,13 @@ QWidget *SettingsView::makeGeneralPage()
     m_popoverRecorder = new HotkeyRecorderView(tr("Toggle popover"), m_store, PreferenceKeys::popoverKeyCode,
         PreferenceKeys::popoverModifiers, PreferenceKeys::popoverKeyChar, reregister);
     m_popoverRecorder->setOnRecordingChanged(suspend);
-    auto *shortcuts = new QVBoxLayout(section(tr("Keyboard Shortcuts")));
+    // The clear button keeps its place while hidden, so both fields end at the same edge.
+    for (HotkeyRecorderView *recorder : { m_pickRecorder, m_popoverRecorder }) {
+        QSizePolicy policy = recorder->clearButton()->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        recorder->clearButton()->setSizePolicy(policy);
+    }
+    auto *shortcuts = compact(new QVBoxLayout(section(tr("Keyboard Shortcuts"))));
     shortcuts->addWidget(m_pickRecorder);
     shortcuts->addWidget(m_popoverRecorder);
 
@@ -232,7 +246,7 @@ QWidget *SettingsView::makeGeneralPage()
     m_colorDotToggle = new QCheckBox(tr("Show colored dot for last picked color"));
     connect(m_colorDotToggle, &QCheckBox::clicked, this,
         [this](bool on) { m_store.setBool(PreferenceKeys::showColorDot, on); });
-    (new QVBoxLayout(section(tr("Menu Bar"))))->addWidget(m_colorDotToggle);
+    compact(new QVBoxLayout(section(tr("Menu Bar"))))->addWidget(m_colorDotToggle);
 
     // General: the preference is written first, then the login item follows; a refused change
     // rewrites the preference to the real state, and the toggle follows the store.
@@ -241,7 +255,7 @@ QWidget *SettingsView::makeGeneralPage()
         m_store.setBool(PreferenceKeys::launchAtLogin, on);
         LaunchAtLogin::applyLaunchAtLogin(m_store, m_loginItems, on);
     });
-    (new QVBoxLayout(section(tr("General"))))->addWidget(m_launchAtLoginToggle);
+    compact(new QVBoxLayout(section(tr("General"))))->addWidget(m_launchAtLoginToggle);
 
     // Data
     m_historyLimitPicker = new QComboBox;

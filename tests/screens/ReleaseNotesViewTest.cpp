@@ -40,7 +40,7 @@ TEST(ReleaseNotesView, NotesAreShownWithoutTheirStylesOrResources)
         EXPECT_TRUE(view.toPlainText().contains(row.plainText)) << view.toPlainText().toStdString();
         EXPECT_FALSE(view.toHtml().contains(QStringLiteral("font-size:1px")));
         const QVariant loaded = view.document()->resource(QTextDocument::ImageResource, pictureUrl);
-        EXPECT_TRUE(loaded.value<QImage>().isNull());
+        EXPECT_LE(loaded.value<QImage>().width(), 1) << "the 8-pixel local picture was read";
         EXPECT_TRUE(loaded.value<QByteArray>().isEmpty());
     }
 }

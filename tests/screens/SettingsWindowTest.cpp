@@ -22,6 +22,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
+#include <QTcpServer>
 #include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
@@ -69,11 +70,11 @@ UpdateBundle offlineBundle()
 // Everything the settings window is handed by the application shell, with test stand-ins for the
 // desktop facilities.
 struct Shell {
-    Shell()
+    explicit Shell(UpdateBundle bundle = offlineBundle())
     {
         SettingsViewModel::registerDefaults(store());
         model = std::make_unique<ColorListViewModel>(store(), sampler, clipboard, confirmation, exportDialogs);
-        updater = std::make_unique<UpdaterController>(store(), network, updateUi, offlineBundle());
+        updater = std::make_unique<UpdaterController>(store(), network, updateUi, bundle);
         window = std::make_unique<SettingsWindow>(store(), hotkeys, loginItems, *updater, model.get());
     }
     SettingsStore &store() { return *settings.store; }
@@ -292,8 +293,6 @@ TEST(SettingsView, UpdateControlsFollowTheController)
     Shell shell;
     SettingsView *view = shell.open();
     view->setSelectedTab(SettingsView::aboutTab);
-    EXPECT_EQ(view->checkForUpdatesButton()->isEnabled(), shell.updater->canCheckForUpdates());
-
     ASSERT_TRUE(view->automaticDownloadToggle()->isChecked());
     clickBox(view->automaticDownloadToggle());
     EXPECT_FALSE(shell.updater->automaticallyDownloadsUpdates());
@@ -301,10 +300,28 @@ TEST(SettingsView, UpdateControlsFollowTheController)
     EXPECT_FALSE(shell.store().boolForKey(automaticallyUpdate));
 
     // No feed in this build: the check ends in the up-to-date box at once.
-    if (view->checkForUpdatesButton()->isEnabled()) {
-        QTest::mouseClick(view->checkForUpdatesButton(), Qt::LeftButton);
-        EXPECT_EQ(shell.updateUi.upToDateCount, 1);
-    }
+    ASSERT_TRUE(view->checkForUpdatesButton()->isEnabled());
+    QTest::mouseClick(view->checkForUpdatesButton(), Qt::LeftButton);
+    EXPECT_EQ(shell.updateUi.upToDateCount, 1);
+}
+
+TEST(SettingsView, CheckForUpdatesIsDisabledWhileACheckRuns)
+{
+    // A feed server that takes the connection and never answers keeps the check running.
+    QTcpServer silentFeed;
+    ASSERT_TRUE(silentFeed.listen(QHostAddress::LocalHost));
+    UpdateBundle bundle = offlineBundle();
+    bundle.feedUrl = QStringLiteral("http://127.0.0.1:%1/appcast.xml").arg(silentFeed.serverPort());
+    Shell shell(bundle);
+    SettingsView *view = shell.open();
+    view->setSelectedTab(SettingsView::aboutTab);
+    QPushButton *check = view->checkForUpdatesButton();
+    ASSERT_TRUE(check->isEnabled());
+
+    QTest::mouseClick(check, Qt::LeftButton);
+    EXPECT_FALSE(shell.updater->canCheckForUpdates());
+    EXPECT_FALSE(check->isEnabled());
+    EXPECT_EQ(shell.updateUi.upToDateCount, 0);
 }
 
 TEST(SettingsWindow, ReusedWhileVisibleAndRebuiltOnGeneralAfterClosing)

@@ -51,13 +51,14 @@ DialogUpdateInterface::~DialogUpdateInterface()
 QString DialogUpdateInterface::updateName(const AppcastItem &update) const
 {
     const QString name = m_applicationName.isEmpty() ? QStringLiteral("Vantle") : m_applicationName;
-    return QStringLiteral("%1 %2").arg(name, update.displayVersion.isEmpty() ? update.version : update.displayVersion);
+    return QStringLiteral("%1 %2").arg(
+        name, update.displayVersion.isEmpty() ? update.version : update.displayVersion);
 }
 
 void DialogUpdateInterface::showUpToDate(const QString &name, const QString &version)
 {
-    QMessageBox box(QMessageBox::Information, QObject::tr("Software Update"), QObject::tr("You're up to date!"),
-        QMessageBox::NoButton, m_dialogParent);
+    QMessageBox box(QMessageBox::Information, QObject::tr("Software Update"),
+        QObject::tr("You're up to date!"), QMessageBox::NoButton, m_dialogParent);
     box.setInformativeText(QObject::tr("%1 %2 is the latest version.").arg(name, version));
     box.addButton(QObject::tr("OK"), QMessageBox::AcceptRole);
     box.exec();
@@ -77,8 +78,8 @@ UpdateUserInterface::Choice DialogUpdateInterface::askAboutUpdate(
     layout->setSpacing(16);
 
     auto *symbol = new QLabel;
-    symbol->setPixmap(
-        Symbols::pixmap(QStringLiteral("eyedropper"), 48, SettingsStyle::accent(), dialog.devicePixelRatioF()));
+    symbol->setPixmap(Symbols::pixmap(
+        QStringLiteral("eyedropper"), 48, SettingsStyle::accent(), dialog.devicePixelRatioF()));
     symbol->setFixedSize(48, 48);
     layout->addWidget(symbol, 0, Qt::AlignTop);
 
@@ -88,8 +89,9 @@ UpdateUserInterface::Choice DialogUpdateInterface::askAboutUpdate(
     QLabel *heading = wrappedLabel(QObject::tr("A new version of %1 is available!").arg(name));
     heading->setFont(SettingsStyle::withPixelSize(heading->font(), 15, true));
     column->addWidget(heading);
-    column->addWidget(wrappedLabel(QObject::tr("%1 %2 is now available — you have %3. Would you like to download it now?")
-                                       .arg(name, offered, currentVersion)));
+    column->addWidget(
+        wrappedLabel(QObject::tr("%1 %2 is now available — you have %3. Would you like to download it now?")
+                         .arg(name, offered, currentVersion)));
 
     if (!update.releaseNotes.trimmed().isEmpty()) {
         QLabel *notesHeading = wrappedLabel(QObject::tr("Release Notes:"));
@@ -149,21 +151,22 @@ UpdateUserInterface::Choice DialogUpdateInterface::askAboutUpdate(
 void DialogUpdateInterface::downloadStarted(const AppcastItem &update, std::function<void()> onCancel)
 {
     downloadEnded();
-    m_progress = new QProgressDialog(QObject::tr("Downloading %1…").arg(updateName(update)), QObject::tr("Cancel"),
-        0, 0, m_dialogParent);
+    m_progress = new QProgressDialog(
+        QObject::tr("Downloading %1…").arg(updateName(update)), QObject::tr("Cancel"), 0, 0, m_dialogParent);
     m_progress->setWindowTitle(QObject::tr("Software Update"));
     m_progress->setAutoClose(false);
     m_progress->setAutoReset(false);
     m_progress->setMinimumDuration(0);
     m_progress->setMinimumWidth(360);
     m_progress->setWindowModality(Qt::NonModal);
-    QObject::connect(m_progress, &QProgressDialog::canceled, m_progress, [this, onCancel = std::move(onCancel)] {
-        // The updater answers with downloadEnded(), which closes the dialog.
-        if (m_progress)
-            m_progress->disconnect();
-        if (onCancel)
-            onCancel();
-    });
+    QObject::connect(
+        m_progress, &QProgressDialog::canceled, m_progress, [this, onCancel = std::move(onCancel)] {
+            // The updater answers with downloadEnded(), which closes the dialog.
+            if (m_progress)
+                m_progress->disconnect();
+            if (onCancel)
+                onCancel();
+        });
     m_progress->show();
 }
 
@@ -200,7 +203,8 @@ void DialogUpdateInterface::showDownloadFailed(const QString &message)
     box.exec();
 }
 
-void DialogUpdateInterface::showDownloadReady(const AppcastItem &update, const QString &filePath, bool automatic)
+void DialogUpdateInterface::showDownloadReady(
+    const AppcastItem &update, const QString &filePath, bool automatic)
 {
     // Not modal: an update fetched in the background must not block whatever the user is doing.
     auto *box = new QMessageBox(QMessageBox::Information, QObject::tr("Software Update"),
@@ -208,8 +212,9 @@ void DialogUpdateInterface::showDownloadReady(const AppcastItem &update, const Q
                   : QObject::tr("%1 has been downloaded.").arg(updateName(update)),
         QMessageBox::NoButton, m_dialogParent);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(QObject::tr("The file is saved as %1. Install it the way you installed this version.")
-                                .arg(QDir::toNativeSeparators(filePath)));
+    box->setInformativeText(
+        QObject::tr("The file is saved as %1. Install it the way you installed this version.")
+            .arg(QDir::toNativeSeparators(filePath)));
     QPushButton *show = box->addButton(QObject::tr("Show in Folder"), QMessageBox::AcceptRole);
     box->addButton(QObject::tr("Close"), QMessageBox::RejectRole);
     box->setDefaultButton(show);
@@ -235,9 +240,10 @@ void DialogUpdateInterface::showInFileManager(const QString &filePath)
     // Asynchronous: a file manager started by activation may take its time, and the program
     // must not wait for it.
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(call));
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, [folder](QDBusPendingCallWatcher *done) {
-        if (done->isError())
-            QDesktopServices::openUrl(folder);
-        done->deleteLater();
-    });
+    QObject::connect(
+        watcher, &QDBusPendingCallWatcher::finished, watcher, [folder](QDBusPendingCallWatcher *done) {
+            if (done->isError())
+                QDesktopServices::openUrl(folder);
+            done->deleteLater();
+        });
 }

@@ -20,7 +20,8 @@ public:
     DialogUpdateInterface &operator=(const DialogUpdateInterface &) = delete;
 
     void showUpToDate(const QString &name, const QString &version) override;
-    Choice askAboutUpdate(const AppcastItem &update, const QString &name, const QString &currentVersion) override;
+    Choice askAboutUpdate(
+        const AppcastItem &update, const QString &name, const QString &currentVersion) override;
     void downloadStarted(const AppcastItem &update, std::function<void()> onCancel) override;
     void downloadProgressed(qint64 received, qint64 total) override;
     void downloadEnded() override;

@@ -2,8 +2,8 @@
 
 #include <QDesktopServices>
 #include <QImage>
-#include <QTextDocument>
 #include <QRegularExpression>
+#include <QTextDocument>
 
 ReleaseNotesView::ReleaseNotesView(QWidget *parent)
     : QTextBrowser(parent)
@@ -28,7 +28,8 @@ void ReleaseNotesView::setNotes(const QString &notes)
     QString html = notes;
     static const QRegularExpression styleBlocks(QStringLiteral("<style\\b[^>]*>.*?</style\\s*>"),
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-    static const QRegularExpression styleAttributes(QStringLiteral("\\sstyle\\s*=\\s*(\"[^\"]*\"|'[^']*'|[^\\s>]*)"),
+    static const QRegularExpression styleAttributes(
+        QStringLiteral("\\sstyle\\s*=\\s*(\"[^\"]*\"|'[^']*'|[^\\s>]*)"),
         QRegularExpression::CaseInsensitiveOption);
     html.remove(styleBlocks);
     html.remove(styleAttributes);

@@ -37,7 +37,8 @@ SettingsTabButton::SettingsTabButton(const QString &label, const QString &symbol
 QSize SettingsTabButton::sizeHint() const
 {
     const QFontMetrics metrics(labelFont(font()));
-    return { metrics.horizontalAdvance(text()) + 2 * padding, padding + symbolFrame + gap + metrics.height() + padding };
+    return { metrics.horizontalAdvance(text()) + 2 * padding,
+        padding + symbolFrame + gap + metrics.height() + padding };
 }
 
 QSize SettingsTabButton::minimumSizeHint() const
@@ -63,8 +64,8 @@ void SettingsTabButton::paintEvent(QPaintEvent *)
     }
     const QColor ink = selected ? QColor(Qt::white) : SettingsStyle::secondary(palette());
 
-    const QRectF symbolRect((width() - symbolSize) / 2.0, padding + (symbolFrame - symbolSize) / 2.0, symbolSize,
-        symbolSize);
+    const QRectF symbolRect(
+        (width() - symbolSize) / 2.0, padding + (symbolFrame - symbolSize) / 2.0, symbolSize, symbolSize);
     Symbols::paint(painter, symbolRect, m_symbol, ink);
 
     painter.setFont(labelFont(font()));

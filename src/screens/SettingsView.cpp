@@ -50,7 +50,8 @@ QList<MakerApplication> makerApplications()
     const QString list = QString::fromUtf8(BuildInfo::makerApps);
     for (const QString &entry : list.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
         const QStringList parts = entry.split(QLatin1Char('|'));
-        MakerApplication application { parts.value(0).trimmed(), parts.value(1).trimmed(), parts.value(2).trimmed() };
+        MakerApplication application { parts.value(0).trimmed(), parts.value(1).trimmed(),
+            parts.value(2).trimmed() };
         if (!application.name.isEmpty())
             applications.append(application);
     }
@@ -80,8 +81,8 @@ QLabel *linkLabel(const QString &text, const QUrl &url, int pixelSize, QWidget *
     auto *label = new QLabel(parent);
     label->setTextFormat(Qt::RichText);
     label->setText(QStringLiteral("<a href=\"%1\" style=\"color:%2; text-decoration:none;\">%3</a>")
-                       .arg(url.toString(QUrl::FullyEncoded).toHtmlEscaped(),
-                           SettingsStyle::accent().name(), text.toHtmlEscaped()));
+                       .arg(url.toString(QUrl::FullyEncoded).toHtmlEscaped(), SettingsStyle::accent().name(),
+                           text.toHtmlEscaped()));
     label->setFont(SettingsStyle::withPixelSize(label->font(), pixelSize));
     label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     label->setCursor(Qt::PointingHandCursor);
@@ -295,7 +296,8 @@ QWidget *SettingsView::makeAboutPage()
     const auto add = [layout](QWidget *widget) { layout->addWidget(widget, 0, Qt::AlignHCenter); };
 
     auto *symbol = new QLabel;
-    symbol->setPixmap(Symbols::pixmap(QStringLiteral("eyedropper"), 48, SettingsStyle::accent(), devicePixelRatioF()));
+    symbol->setPixmap(
+        Symbols::pixmap(QStringLiteral("eyedropper"), 48, SettingsStyle::accent(), devicePixelRatioF()));
     symbol->setFixedSize(48, 48);
     add(symbol);
     add(textLabel(tr("vantle"), 20, true));
@@ -313,7 +315,8 @@ QWidget *SettingsView::makeAboutPage()
     updatesLayout->setSpacing(8);
     m_checkForUpdatesButton = new QPushButton(tr("Check for Updates…"));
     m_checkForUpdatesButton->setEnabled(m_updaterController.canCheckForUpdates());
-    connect(m_checkForUpdatesButton, &QPushButton::clicked, this, [this] { m_updaterController.checkForUpdates(); });
+    connect(m_checkForUpdatesButton, &QPushButton::clicked, this,
+        [this] { m_updaterController.checkForUpdates(); });
     connect(&m_updaterController, &UpdaterController::canCheckForUpdatesChanged, m_checkForUpdatesButton,
         &QWidget::setEnabled);
     m_automaticDownloadToggle = new QCheckBox(tr("Automatically download updates"));
@@ -342,7 +345,8 @@ QWidget *SettingsView::makeAboutPage()
     makerLayout->setSpacing(4);
     const QString makerUrl = QString::fromUtf8(BuildInfo::makerUrl);
     if (!makerUrl.isEmpty())
-        makerLayout->addWidget(linkLabel(tr("%1 Website").arg(makerName), QUrl(makerUrl), 12), 0, Qt::AlignHCenter);
+        makerLayout->addWidget(
+            linkLabel(tr("%1 Website").arg(makerName), QUrl(makerUrl), 12), 0, Qt::AlignHCenter);
     const QString support = QString::fromUtf8(BuildInfo::supportEmail);
     if (!support.isEmpty()) {
         makerLayout->addWidget(
@@ -388,15 +392,16 @@ QWidget *SettingsView::makeMorePage()
     }
     if (applications.isEmpty()) {
         layout->addStretch(1);
-        QLabel *none = secondaryLabel(tr("No other %1 applications are listed in this build.").arg(makerName), 13);
+        QLabel *none
+            = secondaryLabel(tr("No other %1 applications are listed in this build.").arg(makerName), 13);
         none->setWordWrap(true);
         none->setAlignment(Qt::AlignHCenter);
         layout->addWidget(none);
     }
     const QString makerUrl = QString::fromUtf8(BuildInfo::makerUrl);
     if (!makerUrl.isEmpty())
-        layout->addWidget(linkLabel(tr("All %1 applications").arg(makerName), QUrl(makerUrl), 13), 0,
-            Qt::AlignHCenter);
+        layout->addWidget(
+            linkLabel(tr("All %1 applications").arg(makerName), QUrl(makerUrl), 13), 0, Qt::AlignHCenter);
     layout->addStretch(1);
 
     QScrollArea *area = scrolling(content);
@@ -415,8 +420,8 @@ void SettingsView::showStoredValue(const QString &key)
 {
     if (key == PreferenceKeys::colorFormat) {
         const ColorFormat format = SettingsViewModel::currentFormat(m_store);
-        m_formatPicker->setCurrentIndex(int(std::find(allColorFormats.begin(), allColorFormats.end(), format)
-            - allColorFormats.begin()));
+        m_formatPicker->setCurrentIndex(
+            int(std::find(allColorFormats.begin(), allColorFormats.end(), format) - allColorFormats.begin()));
     } else if (key == PreferenceKeys::showColorDot) {
         m_colorDotToggle->setChecked(m_store.boolForKey(key));
     } else if (key == PreferenceKeys::launchAtLogin) {

@@ -12,8 +12,8 @@ namespace {
 constexpr QSize contentSize(450, 520);
 }
 
-SettingsWindow::SettingsWindow(SettingsStore &store, HotkeyManager &hotkeyManager, LoginItemService &loginItems,
-    UpdaterController &updaterController, ColorListViewModel *viewModel)
+SettingsWindow::SettingsWindow(SettingsStore &store, HotkeyManager &hotkeyManager,
+    LoginItemService &loginItems, UpdaterController &updaterController, ColorListViewModel *viewModel)
     : m_store(store)
     , m_hotkeyManager(hotkeyManager)
     , m_loginItems(loginItems)
@@ -33,8 +33,10 @@ void SettingsWindow::open()
     }
 
     // A closed window is only hidden; it is replaced here, so the new one starts afresh.
-    m_view = std::make_unique<SettingsView>(m_store, m_hotkeyManager, m_loginItems, m_updaterController, m_viewModel);
-    m_view->setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
+    m_view = std::make_unique<SettingsView>(
+        m_store, m_hotkeyManager, m_loginItems, m_updaterController, m_viewModel);
+    m_view->setWindowFlags(
+        Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     m_view->setWindowTitle(QObject::tr("Vantle Settings"));
     m_view->setFixedSize(contentSize);
 
@@ -43,7 +45,8 @@ void SettingsWindow::open()
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     if (screen)
-        m_view->setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, contentSize, screen->availableGeometry()));
+        m_view->setGeometry(
+            QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, contentSize, screen->availableGeometry()));
 
     m_view->show();
     m_view->raise();

@@ -1,48 +1,14 @@
 #include "screens/DialogUpdateInterface.h"
 
+#include "ModalAnswer.h"
 #include "services/Appcast.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QMessageBox>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
-#include <QTest>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 namespace {
-
-// Answers the next modal dialog by a button's text (or Escape) and keeps every text it showed.
-struct DialogAnswer {
-    explicit DialogAnswer(QString answer)
-    {
-        timer.setInterval(5);
-        QObject::connect(&timer, &QTimer::timeout, [this, answer] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            if (!dialog)
-                return;
-            timer.stop();
-            if (auto *box = qobject_cast<QMessageBox *>(dialog))
-                texts << box->text() << box->informativeText();
-            for (QLabel *label : dialog->findChildren<QLabel *>())
-                texts << label->text();
-            if (answer == QLatin1String("Escape")) {
-                QTest::keyClick(dialog, Qt::Key_Escape);
-                return;
-            }
-            for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
-                if (button->text() == answer)
-                    QTest::mouseClick(button, Qt::LeftButton);
-            }
-        });
-        timer.start();
-    }
-
-    QTimer timer;
-    QStringList texts;
-};
 
 AppcastItem release()
 {
@@ -79,20 +45,11 @@ TEST(DialogUpdateInterface, UpdateOfferReturnsTheButtonThePersonChose)
     for (const auto &row : rows) {
         SCOPED_TRACE(row.answer);
         DialogUpdateInterface ui;
-        DialogAnswer answer { QString::fromLatin1(row.answer) };
+        ModalAnswer answer { QString::fromLatin1(row.answer) };
         EXPECT_EQ(ui.askAboutUpdate(release(), QStringLiteral("Vantle"), QStringLiteral("1.0")), row.choice);
         EXPECT_TRUE(answer.texts.join(u'\n').contains(QStringLiteral("Vantle 1.4 is now available")))
             << answer.texts.join(u'\n').toStdString();
     }
-}
-
-TEST(DialogUpdateInterface, UpToDateNamesTheRunningVersion)
-{
-    DialogUpdateInterface ui;
-    DialogAnswer answer { QStringLiteral("OK") };
-    ui.showUpToDate(QStringLiteral("Vantle"), QStringLiteral("1.4"));
-    EXPECT_TRUE(answer.texts.contains(QStringLiteral("You're up to date!")));
-    EXPECT_TRUE(answer.texts.contains(QStringLiteral("Vantle 1.4 is the latest version.")));
 }
 
 TEST(DialogUpdateInterface, ProgressOfLargeDownloadsAndCancel)

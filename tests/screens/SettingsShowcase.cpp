@@ -79,8 +79,10 @@ int main(int argc, char **argv)
     update.title = QStringLiteral("Vantle 1.4");
     update.releaseNotes = QStringLiteral(
         "<h3>What's new</h3><ul><li>Pick colours on every monitor, also at fractional scaling.</li>"
-        "<li>Export the palette as JSON.</li><li>Fixed: the history limit could forget pinned colours.</li></ul>"
-        "<p style=\"font-size:1px\">hidden text from a hostile feed</p><img src=\"https://example.com/track.png\">");
+        "<li>Export the palette as JSON.</li><li>Fixed: the history limit could forget pinned "
+        "colours.</li></ul>"
+        "<p style=\"font-size:1px\">hidden text from a hostile feed</p><img "
+        "src=\"https://example.com/track.png\">");
 
     if (what == QLatin1String("update")) {
         QTimer::singleShot(0, [&] {
@@ -91,12 +93,13 @@ int main(int argc, char **argv)
         updateInterface.downloadStarted(update, [] {});
         updateInterface.downloadProgressed(3'400'000, 9'100'000);
     } else if (what == QLatin1String("ready")) {
-        updateInterface.showDownloadReady(update, QStringLiteral("/home/user/Downloads/Vantle-1.4.tar.gz"), false);
+        updateInterface.showDownloadReady(
+            update, QStringLiteral("/home/user/Downloads/Vantle-1.4.tar.gz"), false);
     } else {
         window.open();
         window.view()->setSelectedTab(what == QLatin1String("about") ? SettingsView::aboutTab
-                : what == QLatin1String("more")                    ? SettingsView::moreTab
-                                                                   : SettingsView::generalTab);
+                : what == QLatin1String("more")                      ? SettingsView::moreTab
+                                                                     : SettingsView::generalTab);
     }
     return app.exec();
 }

@@ -51,13 +51,14 @@ TEST(ShowInFileManager, FileManagerOnTheBusSelectsTheFile)
         GTEST_SKIP() << "no session bus (runs under tests/desktop/x11-session.sh)";
     CaughtUrls caught;
     FakeFileManager fileManager;
-    ASSERT_TRUE(bus.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &fileManager,
-        QDBusConnection::ExportAllSlots));
+    ASSERT_TRUE(bus.registerObject(
+        QStringLiteral("/org/freedesktop/FileManager1"), &fileManager, QDBusConnection::ExportAllSlots));
     ASSERT_TRUE(bus.registerService(QStringLiteral("org.freedesktop.FileManager1")));
 
     DialogUpdateInterface::showInFileManager(downloadedFile);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !fileManager.shown.isEmpty(); }, 10000));
-    EXPECT_EQ(fileManager.shown, QStringList { QStringLiteral("file:///tmp/vantle%20downloads/Vantle-1.4.tar.gz") });
+    EXPECT_EQ(fileManager.shown,
+        QStringList { QStringLiteral("file:///tmp/vantle%20downloads/Vantle-1.4.tar.gz") });
     EXPECT_TRUE(caught.catcher.urls.isEmpty());
 
     bus.unregisterService(QStringLiteral("org.freedesktop.FileManager1"));
@@ -69,7 +70,8 @@ TEST(ShowInFileManager, WithoutAFileManagerTheFolderOpens)
     CaughtUrls caught;
     DialogUpdateInterface::showInFileManager(downloadedFile);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !caught.catcher.urls.isEmpty(); }, 10000));
-    EXPECT_EQ(caught.catcher.urls, QList<QUrl> { QUrl::fromLocalFile(QStringLiteral("/tmp/vantle downloads")) });
+    EXPECT_EQ(
+        caught.catcher.urls, QList<QUrl> { QUrl::fromLocalFile(QStringLiteral("/tmp/vantle downloads")) });
 }
 
 #include "ShowInFileManagerTest.moc"

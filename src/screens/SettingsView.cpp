@@ -18,6 +18,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
+#include <QEvent>
 #include <QFormLayout>
 #include <QFrame>
 #include <QGroupBox>
@@ -66,13 +67,32 @@ QLabel *textLabel(const QString &text, int pixelSize, bool bold = false, QWidget
     return label;
 }
 
+// Secondary text and dividers are tinted from the window's text colour; the tone is kept as a
+// property so a change between light and dark tints them again (SettingsView::applyTones).
+const char toneProperty[] = "vantleTone";
+
+void applyTone(QWidget *widget, const QPalette &window)
+{
+    const QString tone = widget->property(toneProperty).toString();
+    if (tone.isEmpty())
+        return;
+    QColor color = window.color(QPalette::WindowText);
+    color.setAlphaF(tone == QLatin1String("divider") ? 0.15 : SettingsStyle::secondary(window).alphaF());
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::WindowText, color);
+    widget->setPalette(palette);
+}
+
+template<typename Widget> Widget *secondary(Widget *widget)
+{
+    widget->setProperty(toneProperty, QStringLiteral("secondary"));
+    applyTone(widget, widget->palette());
+    return widget;
+}
+
 QLabel *secondaryLabel(const QString &text, int pixelSize, QWidget *parent = nullptr)
 {
-    QLabel *label = textLabel(text, pixelSize, false, parent);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, SettingsStyle::secondary(palette));
-    label->setPalette(palette);
-    return label;
+    return secondary(textLabel(text, pixelSize, false, parent));
 }
 
 // A link in the accent colour that opens `url` with the desktop's handler (browser, mail).
@@ -96,11 +116,8 @@ QFrame *divider(int width = -1)
     auto *line = new QFrame;
     line->setFrameShape(QFrame::HLine);
     line->setFrameShadow(QFrame::Plain);
-    QPalette palette = line->palette();
-    QColor color = palette.color(QPalette::WindowText);
-    color.setAlphaF(0.15);
-    palette.setColor(QPalette::WindowText, color);
-    line->setPalette(palette);
+    line->setProperty(toneProperty, QStringLiteral("divider"));
+    applyTone(line, line->palette());
     if (width > 0)
         line->setFixedWidth(width);
     return line;
@@ -321,9 +338,7 @@ QWidget *SettingsView::makeAboutPage()
         &QWidget::setEnabled);
     m_automaticDownloadToggle = new QCheckBox(tr("Automatically download updates"));
     m_automaticDownloadToggle->setFont(SettingsStyle::withPixelSize(m_automaticDownloadToggle->font(), 13));
-    QPalette secondary = m_automaticDownloadToggle->palette();
-    secondary.setColor(QPalette::WindowText, SettingsStyle::secondary(secondary));
-    m_automaticDownloadToggle->setPalette(secondary);
+    secondary(m_automaticDownloadToggle);
     m_automaticDownloadToggle->setChecked(m_updaterController.automaticallyDownloadsUpdates());
     connect(m_automaticDownloadToggle, &QCheckBox::clicked, this,
         [this](bool on) { m_updaterController.setAutomaticallyDownloadsUpdates(on); });
@@ -414,6 +429,17 @@ void SettingsView::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     // The login item wins here: the toggle shows whether the program really starts at login.
     LaunchAtLogin::refreshLaunchAtLogin(m_store, m_loginItems);
+}
+
+void SettingsView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    // The desktop switched between light and dark: the tinted texts follow.
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
+        const QPalette window = palette();
+        for (QWidget *widget : findChildren<QWidget *>())
+            applyTone(widget, window);
+    }
 }
 
 void SettingsView::showStoredValue(const QString &key)

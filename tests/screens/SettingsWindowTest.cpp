@@ -19,6 +19,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QNetworkAccessManager>
 #include <QPointer>
@@ -266,6 +267,29 @@ TEST(SettingsView, CheckForUpdatesIsDisabledWhileACheckRuns)
     EXPECT_FALSE(shell.updater->canCheckForUpdates());
     EXPECT_FALSE(check->isEnabled());
     EXPECT_EQ(shell.updateUi.upToDateCount, 0);
+}
+
+TEST(SettingsView, SecondaryTextFollowsASwitchToDark)
+{
+    Shell shell;
+    SettingsView *view = shell.open();
+    QLabel *caption = nullptr;
+    for (QLabel *label : view->findChildren<QLabel *>()) {
+        if (label->text() == QLatin1String("Pinned colors will be preserved."))
+            caption = label;
+    }
+    ASSERT_NE(caption, nullptr);
+    const QPalette light = QApplication::palette();
+    QPalette dark = light;
+    dark.setColor(QPalette::Window, QColor(0x20, 0x20, 0x20));
+    dark.setColor(QPalette::WindowText, QColor(0xF0, 0xF0, 0xF0));
+    QApplication::setPalette(dark);
+    QCoreApplication::sendPostedEvents();
+    const QColor tint = caption->palette().color(QPalette::WindowText);
+    QApplication::setPalette(light);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_GT(tint.lightness(), 200) << "still tinted for the light window";
+    EXPECT_LT(tint.alphaF(), 1.0) << "no longer secondary";
 }
 
 TEST(SettingsWindow, ReusedWhileVisibleAndRebuiltOnGeneralAfterClosing)

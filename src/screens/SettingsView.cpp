@@ -163,7 +163,11 @@ SettingsView::SettingsView(SettingsStore &store, HotkeyManager &hotkeyManager, L
     setSelectedTab(generalTab);
 }
 
-SettingsView::~SettingsView() = default;
+SettingsView::~SettingsView()
+{
+    // A window torn down while a recorder listens must not leave the global shortcuts released.
+    m_hotkeyManager.setSuspended(false);
+}
 
 void SettingsView::setSelectedTab(int tab)
 {

@@ -248,6 +248,12 @@ TEST(SettingsView, RecordedShortcutIsRegisteredWithTheDesktop)
     QTest::mouseClick(view->pickRecorder()->clearButton(), Qt::LeftButton);
     ASSERT_EQ(shell.backend.registered.size(), 1);
     EXPECT_EQ(shell.backend.registered.first().id, HotkeyManager::popoverId);
+
+    // The window going away in the middle of recording gives the shortcuts back.
+    QTest::mouseClick(view->popoverRecorder()->field(), Qt::LeftButton);
+    ASSERT_TRUE(shell.backend.registered.isEmpty());
+    shell.window.reset();
+    EXPECT_EQ(shell.backend.registered.size(), 1);
 }
 
 TEST(SettingsView, CheckForUpdatesIsDisabledWhileACheckRuns)

@@ -68,7 +68,7 @@ QLabel *textLabel(const QString &text, int pixelSize, bool bold = false, QWidget
 }
 
 // Secondary text and dividers are tinted from the window's text colour; the tone is kept as a
-// property so a change between light and dark tints them again (SettingsView::applyTones).
+// property so a switch between light and dark tints them again (SettingsView::changeEvent).
 const char toneProperty[] = "vantleTone";
 
 void applyTone(QWidget *widget, const QPalette &window)

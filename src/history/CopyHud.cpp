@@ -1,5 +1,7 @@
 #include "history/CopyHud.h"
 
+#include "platform/WindowCompositing.h"
+
 #include <QApplication>
 #include <QCursor>
 #include <QFontMetricsF>
@@ -9,7 +11,6 @@
 #include <QScreen>
 #include <QWidget>
 #include <cmath>
-#include <xcb/xcb.h>
 
 namespace {
 
@@ -28,31 +29,6 @@ QFont capsuleFont()
     return font;
 }
 
-// Translucent windows need a compositing manager on X11; without one, whatever the capsule
-// leaves clear shows as black. Wayland always composites.
-bool canShowTranslucentWindows()
-{
-    // Other platforms (the offscreen one among them) may still answer for X11 with no
-    // connection of their own.
-    auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    xcb_connection_t *connection = x11 ? x11->connection() : nullptr;
-    if (QGuiApplication::platformName() != u"xcb" || !connection)
-        return true;
-    // The compositor of screen 0 owns this selection (EWMH); Xinerama and RandR setups have
-    // one X screen.
-    static const char name[] = "_NET_WM_CM_S0";
-    xcb_intern_atom_reply_t *atom
-        = xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 1, sizeof name - 1, name), nullptr);
-    if (!atom)
-        return false;
-    xcb_get_selection_owner_reply_t *owner
-        = xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom), nullptr);
-    const bool owned = owner && owner->owner != XCB_NONE;
-    free(owner);
-    free(atom);
-    return owned;
-}
-
 // The capsule: black at 0.78 over the whole window with a soft shadow (black 0.3, 2 px down,
 // 12 px blur). The capsule fills the window, so the shadow shows only inside the corners that
 // the rounded ends leave free, as a darker rim below the curve.
@@ -68,7 +44,7 @@ public:
         setFocusPolicy(Qt::NoFocus);
         setFont(capsuleFont());
         setFixedSize(CopyHud::capsuleSize(message));
-        if (!canShowTranslucentWindows()) {
+        if (!desktopShowsTranslucentWindows()) {
             // Cut the window to the capsule so the ends are round rather than black corners
             // (without the shadow, which would lie outside the cut).
             QPainterPath capsule;

@@ -34,7 +34,6 @@ const QColor mutedText(0x8B, 0x94, 0x9E);
 const QColor accent(0xFF, 0x6B, 0x35);
 const QColor success(0x34, 0xC7, 0x59);
 
-constexpr qreal cornerRadius = 20;
 constexpr qreal bulletInset = 60;
 constexpr qreal bulletSymbolFrame = 24;
 constexpr qreal rowSpacing = 14;

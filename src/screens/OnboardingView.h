@@ -21,6 +21,9 @@ class SettingsStore;
 class OnboardingView : public QWidget {
     Q_OBJECT
 public:
+    // The rounded frame the view paints; the window is cut to it where nothing composites.
+    static constexpr qreal cornerRadius = 20;
+
     // Everything that enters or keeps moving; each has a moment it fires and a 0-to-1 progress.
     enum class Step {
         Appeared,

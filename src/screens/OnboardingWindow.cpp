@@ -1,9 +1,11 @@
 #include "screens/OnboardingWindow.h"
 
+#include "platform/WindowCompositing.h"
 #include "screens/OnboardingView.h"
 
 #include <QCloseEvent>
 #include <QMouseEvent>
+#include <QPainterPath>
 #include <QScreen>
 #include <QToolButton>
 #include <QWindow>
@@ -18,7 +20,6 @@ OnboardingWindow::OnboardingWindow(SettingsStore &store, std::function<void()> o
     setWindowTitle(tr("Welcome to vantle"));
     setFixedSize(520, 420);
     m_view->move(0, 0);
-
     m_closeButton->setObjectName(QStringLiteral("onboardingClose"));
     m_closeButton->setAccessibleName(tr("Close"));
     m_closeButton->setText(QStringLiteral("\u00D7"));
@@ -40,6 +41,13 @@ void OnboardingWindow::present()
         move(available.center() - QPoint(width() / 2, height() / 2));
     }
     show();
+    if (!desktopShowsTranslucentWindows()) {
+        // No compositor: cut the window to the view's rounded frame so the corners show the
+        // desktop rather than black.
+        QPainterPath frame;
+        frame.addRoundedRect(QRectF(rect()), OnboardingView::cornerRadius, OnboardingView::cornerRadius);
+        setMask(QRegion(frame.toFillPolygon().toPolygon()));
+    }
     raise();
     activateWindow();
 }

@@ -75,7 +75,7 @@ echo "sentinel" | xclip -selection clipboard
 pid=$!
 wait_for 20 tray_icon || fail "no tray icon appeared"
 # The first run greets with the welcome window.
-wait_for 20 sh -c "xdotool search --onlyvisible --pid $pid | grep -q ." || fail "no welcome window"
+wait_for 20 xdotool search --onlyvisible --name '^Welcome to vantle$' || fail "no welcome window"
 shot start
 
 # Second start: asks the first to toggle its popup and ends; still one Vantle.

@@ -118,3 +118,12 @@ TEST(WaylandClipboardChoice, TheProgramCopiesThroughDataControl)
     EXPECT_TRUE(dynamic_cast<QtClipboard *>(makeClipboard().get()));
     qunsetenv("VANTLE_CLIPBOARD");
 }
+
+TEST_F(WaylandClipboard, QClipboardWithoutFocusNeverClaimsACopy)
+{
+    // Qt reports owning the selection even when the compositor dropped it for want of focus.
+    ASSERT_TRUE(clipboard->setText(QStringLiteral("before")));
+    QtClipboard qt;
+    EXPECT_FALSE(qt.setText(QStringLiteral("#FF8000")));
+    EXPECT_EQ(paste(), "before");
+}

@@ -1,6 +1,7 @@
 #include "BuildInfo.h"
 #include "app/CommandLine.h"
 #include "app/RemoteCommands.h"
+#include "app/TrayApplication.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
@@ -77,7 +78,8 @@ int main(int argc, char **argv)
         QTextStream(stderr) << "vantle: unknown command \"" << args.first() << "\"\n\n" << commandLineHelp();
         return ExitStatus::usage;
     }
-    // The tray program arrives with the application shell; until then, the help.
+    if (args.isEmpty())
+        return runTrayApplication();
     out << commandLineHelp();
     return ExitStatus::ok;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/PickedColor.h"
+#include "screens/ColorDetailView.h"
 
 #include <QList>
 #include <QPointer>
@@ -9,7 +10,7 @@
 #include <optional>
 
 class CapsuleLabel;
-class ColorDetailView;
+
 class ColorListViewModel;
 class ColorRowView;
 class QAction;

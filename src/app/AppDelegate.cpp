@@ -1,0 +1,222 @@
+#include "app/AppDelegate.h"
+
+#include "app/PopupWindow.h"
+#include "app/StatusIcon.h"
+#include "app/TrayHost.h"
+#include "history/ColorListViewModel.h"
+#include "hotkeys/HotkeyManager.h"
+#include "platform/AppearanceMonitor.h"
+#include "screens/ColorListView.h"
+#include "screens/OnboardingWindow.h"
+#include "services/DiskImageCleanup.h"
+#include "services/LaunchAtLogin.h"
+#include "services/PreferenceKeys.h"
+#include "services/ProcessCommandRunner.h"
+#include "services/SettingsStore.h"
+#include "services/SettingsViewModel.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QPixmap>
+#include <QSystemTrayIcon>
+
+using namespace PreferenceKeys;
+
+AppDelegate::AppDelegate(Facilities facilities, QObject *parent)
+    : QObject(parent)
+    , m_facilities(facilities)
+{
+}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    SettingsStore &store = m_facilities.store;
+
+    // 1. Defaults first: everything after reads them.
+    SettingsViewModel::registerDefaults(store);
+
+    // 2. The models. The history loads in its construction.
+    m_viewModel = std::make_unique<ColorListViewModel>(store, m_facilities.sampler, m_facilities.clipboard,
+                                                       m_facilities.confirmation, m_facilities.exportDialogs);
+    m_viewModel->onColorPicked = [self = QPointer<AppDelegate>(this)](const PickedColor &) {
+        if (self)
+            self->updateStatusItemIcon();
+    };
+    m_hotkeyManager = std::make_unique<HotkeyManager>(store, m_facilities.shortcuts);
+
+    // 3. The tray icon, once a tray host exists (Vantle may start at login before the panel).
+    m_trayHost = new TrayHost(this);
+    connect(m_trayHost, &TrayHost::available, this, &AppDelegate::createStatusItem);
+    connect(m_trayHost, &TrayHost::unavailable, this, &AppDelegate::useStandaloneWindow);
+    m_trayHost->waitForHost(trayHostWaitMs);
+
+    // 4. The popup and its content.
+    m_popover = std::make_unique<PopupWindow>();
+    refreshPopoverContent();
+
+    // 5. Shortcuts: each reaction runs just after its signal, on the main thread.
+    m_hotkeyManager->installEventHandler();
+    m_hotkeyManager->reregisterAll();
+    connect(m_hotkeyManager.get(), &HotkeyManager::pickHotkeyFired, this, &AppDelegate::pickColor, Qt::QueuedConnection);
+    connect(m_hotkeyManager.get(), &HotkeyManager::popoverHotkeyFired, this, &AppDelegate::togglePopover,
+            Qt::QueuedConnection);
+
+    // 6. Launch at login follows the preference.
+    LaunchAtLogin::syncLaunchAtLogin(store, m_facilities.loginItems);
+
+    // 7. Default shortcuts where none was ever set.
+    applyDefaultShortcuts();
+
+    // 8, 9. Redraw the tray icon after any settings change (the history is one) and after a
+    // change of the desktop's light or dark appearance.
+    connect(&store, &SettingsStore::changed, this, &AppDelegate::updateStatusItemIcon, Qt::QueuedConnection);
+    connect(&m_facilities.appearance, &AppearanceMonitor::appearanceChanged, this, &AppDelegate::updateStatusItemIcon,
+            Qt::QueuedConnection);
+
+    // 10. The welcome window on a first run.
+    if (!store.boolForKey(onboardingShown)) {
+        m_onboardingWindow = std::make_unique<OnboardingWindow>(store, [this] { completeOnboarding(); });
+        m_onboardingWindow->present();
+    }
+
+    // 11. Eject and trash the installation image, if Vantle was just installed from one.
+    DiskImageCleanup(DiskImageCleanup::currentEnvironment(), std::make_shared<ProcessCommandRunner>()).start();
+}
+
+void AppDelegate::applicationWillTerminate()
+{
+    if (m_hotkeyManager)
+        m_hotkeyManager->unregisterAll();
+}
+
+void AppDelegate::applyDefaultShortcuts()
+{
+    SettingsStore &store = m_facilities.store;
+    constexpr qint64 optionShift = 655360; // option (Alt) 524288 + shift 131072
+    if (store.integerForKey(pickKeyCode) == -1) {
+        store.setInteger(pickKeyCode, 8); // C
+        store.setInteger(pickModifiers, optionShift);
+        store.setString(pickKeyChar, QStringLiteral("C"));
+    }
+    if (store.integerForKey(popoverKeyCode) == -1) {
+        store.setInteger(popoverKeyCode, 7); // X
+        store.setInteger(popoverModifiers, optionShift);
+        store.setString(popoverKeyChar, QStringLiteral("X"));
+    }
+    m_hotkeyManager->reregisterAll();
+}
+
+void AppDelegate::createStatusItem()
+{
+    if (m_statusItem)
+        return;
+    m_statusItem = std::make_unique<QSystemTrayIcon>();
+    m_statusItem->setIcon(QIcon(QPixmap::fromImage(StatusIcon::plainIcon(m_facilities.appearance.isDark(), 2.0))));
+    m_statusItem->setToolTip(QStringLiteral("Vantle"));
+    // Desktops that show only a menu for a tray icon (and a secondary click elsewhere) get
+    // the three things one does from the tray.
+    m_statusMenu = std::make_unique<QMenu>();
+    m_statusMenu->addAction(tr("Pick Color"), this, &AppDelegate::pickColor);
+    m_statusMenu->addAction(tr("Settings…"), this, &AppDelegate::openSettings);
+    m_statusMenu->addSeparator();
+    m_statusMenu->addAction(tr("Quit Vantle"), qApp, &QCoreApplication::quit);
+    m_statusItem->setContextMenu(m_statusMenu.get());
+    connect(m_statusItem.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger)
+            togglePopover();
+    });
+    m_statusItem->show();
+    if (m_popover && m_popover->isStandalone()) {
+        // The tray appeared after we gave up waiting: move into it.
+        m_popover->hide();
+        m_popover->setStandalone(false);
+    }
+}
+
+void AppDelegate::useStandaloneWindow()
+{
+    // No tray on this desktop: the popup becomes a small ordinary window, shown now; closing it
+    // keeps Vantle running, and `vantle toggle` or the popup shortcut brings it back.
+    m_popover->setStandalone(true);
+    refreshPopoverContent();
+    m_popover->popUp(QRect());
+}
+
+bool AppDelegate::isStandalone() const
+{
+    return m_popover && m_popover->isStandalone();
+}
+
+void AppDelegate::updateStatusItemIcon()
+{
+    if (!m_statusItem)
+        return;
+    const bool dark = m_facilities.appearance.isDark();
+    const QList<PickedColor> &colors = m_viewModel->colors();
+    QImage image;
+    if (!m_facilities.store.boolForKey(showColorDot) || colors.isEmpty()) {
+        image = StatusIcon::plainIcon(dark, 2.0);
+    } else {
+        const PickedColor &newest = colors.first();
+        image = StatusIcon::iconWithDot(dark, QColor::fromRgbF(newest.red, newest.green, newest.blue), 2.0);
+    }
+    m_statusItem->setIcon(QIcon(QPixmap::fromImage(image)));
+    Q_EMIT statusItemIconChanged();
+}
+
+void AppDelegate::refreshPopoverContent()
+{
+    QPointer<AppDelegate> self(this);
+    auto *view = new ColorListView(
+        *m_viewModel, m_facilities.store,
+        [self] {
+            if (self)
+                self->openSettings();
+        },
+        [self] {
+            if (self)
+                qApp->quit();
+        });
+    m_popover->setContent(view);
+}
+
+void AppDelegate::togglePopover()
+{
+    if (!m_popover || (!m_statusItem && !isStandalone()))
+        return; // still waiting for the tray
+    if (m_popover->isVisible()) {
+        refreshPopoverContent();
+        m_popover->close();
+        return;
+    }
+    if (!isStandalone() && m_popover->justClosedByOutsideClick())
+        return; // this very click on the tray icon closed it
+    refreshPopoverContent();
+    m_popover->popUp(m_statusItem ? m_statusItem->geometry() : QRect());
+}
+
+void AppDelegate::pickColor()
+{
+    if (!m_viewModel)
+        return; // a request that came in before launching finished
+    if (m_popover && m_popover->isVisible() && !isStandalone())
+        m_popover->close(); // out of the way of the loupe
+    m_viewModel->pickColor();
+}
+
+void AppDelegate::completeOnboarding()
+{
+    m_facilities.store.setBool(onboardingShown, true);
+    if (m_onboardingWindow) {
+        m_onboardingWindow->close();
+        m_onboardingWindow.release()->deleteLater(); // we may be inside its button's signal
+    }
+}
+
+void AppDelegate::openSettings()
+{
+    if (m_popover && m_popover->isVisible() && !isStandalone())
+        m_popover->close();
+}

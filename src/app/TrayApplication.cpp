@@ -1,0 +1,96 @@
+#include "app/TrayApplication.h"
+
+#include "app/AppDelegate.h"
+#include "app/InstanceServer.h"
+#include "history/CopyHud.h"
+#include "history/FileExportDialogs.h"
+#include "hotkeys/GlobalShortcutBackend.h"
+#include "platform/AppearanceMonitor.h"
+#include "platform/GlobalShortcutBackendChooser.h"
+#include "platform/QtClipboard.h"
+#include "platform/ScreenSamplerFactory.h"
+#include "services/SettingsStore.h"
+#include "services/XdgAutostartService.h"
+
+#include <QApplication>
+#include <QSocketNotifier>
+#include <QTextStream>
+#include <QTimer>
+#include <csignal>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+int quitSignalPipe[2] = {-1, -1};
+
+void writeQuitSignal(int)
+{
+    const char byte = 1;
+    [[maybe_unused]] const ssize_t written = ::write(quitSignalPipe[0], &byte, 1);
+}
+
+// A logout or a Ctrl+C in the terminal ends Vantle as its Quit button would, so the shortcuts
+// are released the normal way. The signal handler only writes a byte; the quit itself runs
+// on the main thread when the event loop reads it.
+void quitOnTerminationSignals(QObject *context)
+{
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, quitSignalPipe) != 0)
+        return;
+    auto *notifier = new QSocketNotifier(quitSignalPipe[1], QSocketNotifier::Read, context);
+    QObject::connect(notifier, &QSocketNotifier::activated, context, [] {
+        char byte;
+        [[maybe_unused]] const ssize_t read = ::read(quitSignalPipe[1], &byte, 1);
+        QCoreApplication::quit();
+    });
+    struct sigaction action = {};
+    action.sa_handler = writeQuitSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGINT, &action, nullptr);
+    sigaction(SIGHUP, &action, nullptr);
+}
+
+} // namespace
+
+int runTrayApplication()
+{
+    std::unique_ptr<InstanceServer> instance = InstanceServer::claim();
+    if (!instance) {
+        // Vantle already runs in this session: a second start brings its popup up.
+        QString error;
+        if (sendInstanceRequest(QStringLiteral("TogglePopover"), &error))
+            return 0;
+        QTextStream(stderr) << "vantle: " << error << Qt::endl;
+        return 1;
+    }
+
+    // Vantle lives in the tray: closing its last window (the welcome, the settings, the popup
+    // shown as a window) never ends it.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    // The facilities, each chosen once for this session, then the delegate that uses them.
+    SettingsStore store(SettingsStore::standardFilePath());
+    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(store);
+    QtClipboard clipboard;
+    CopyHud confirmation;
+    FileExportDialogs exportDialogs;
+    std::unique_ptr<GlobalShortcutBackend> shortcuts = createGlobalShortcutBackend();
+    XdgAutostartService loginItems(XdgAutostartService::standardEntryPath(),
+                                   XdgAutostartService::runningProgramPath());
+    AppearanceMonitor appearance;
+
+    AppDelegate delegate({store, *sampler, clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
+                          appearance});
+    QObject::connect(instance.get(), &InstanceServer::pickRequested, &delegate, &AppDelegate::pickColor,
+                     Qt::QueuedConnection);
+    QObject::connect(instance.get(), &InstanceServer::togglePopoverRequested, &delegate,
+                     &AppDelegate::togglePopover, Qt::QueuedConnection);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
+    quitOnTerminationSignals(&delegate);
+
+    // Launching finishes once the event loop runs, as a desktop application's would.
+    QTimer::singleShot(0, &delegate, &AppDelegate::applicationDidFinishLaunching);
+    return QApplication::exec();
+}

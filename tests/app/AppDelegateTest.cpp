@@ -1,0 +1,123 @@
+// The launch sequence and the reactions of the tray program, with the desktop's facilities
+// played by fakes (offscreen: no tray host, so the delegate stays in its waiting state).
+#include "app/AppDelegate.h"
+#include "app/PopupWindow.h"
+#include "history/ColorListViewModel.h"
+#include "platform/AppearanceMonitor.h"
+#include "screens/OnboardingWindow.h"
+#include "services/PreferenceKeys.h"
+#include "services/XdgAutostartService.h"
+#include "support/HistoryFakes.h"
+#include "support/TempSettings.h"
+#include "../hotkeys/FakeShortcutBackend.h"
+
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace PreferenceKeys;
+
+namespace {
+
+class AppDelegateTest : public ::testing::Test {
+protected:
+    void launch()
+    {
+        delegate = std::make_unique<AppDelegate>(AppDelegate::Facilities {
+            *settings.store, sampler, clipboard, confirmation, exportDialogs, shortcuts, loginItems, appearance });
+        delegate->applicationDidFinishLaunching();
+    }
+    QStringList registrations() const { return shortcuts.calls.filter(QStringLiteral("register")); }
+
+    TempSettings settings;
+    FakeScreenColorSampler sampler;
+    FakeClipboard clipboard;
+    FakeCopyConfirmation confirmation;
+    FakeExportDialogs exportDialogs;
+    FakeShortcutBackend shortcuts;
+    XdgAutostartService loginItems { settings.dir.filePath(QStringLiteral("autostart/vantle.desktop")),
+                                     QStringLiteral("/usr/bin/vantle") };
+    AppearanceMonitor appearance;
+    std::unique_ptr<AppDelegate> delegate;
+};
+
+TEST_F(AppDelegateTest, FirstLaunchSeedsBothShortcutsAndGreets)
+{
+    launch();
+    EXPECT_EQ(settings.store->integerForKey(pickKeyCode), 8);
+    EXPECT_EQ(settings.store->integerForKey(pickModifiers), 655360);
+    EXPECT_EQ(settings.store->stringForKey(pickKeyChar), QStringLiteral("C"));
+    EXPECT_EQ(settings.store->integerForKey(popoverKeyCode), 7);
+    EXPECT_EQ(settings.store->integerForKey(popoverModifiers), 655360);
+    EXPECT_EQ(settings.store->stringForKey(popoverKeyChar), QStringLiteral("X"));
+    // The seeded shortcuts are live at once, not at the next launch.
+    ASSERT_EQ(shortcuts.registered.size(), 2);
+    ASSERT_NE(delegate->onboardingWindow(), nullptr);
+    EXPECT_TRUE(delegate->onboardingWindow()->isVisible());
+    // Launch at login is on by default, so the first launch writes the autostart entry.
+    EXPECT_TRUE(QFile::exists(settings.dir.filePath(QStringLiteral("autostart/vantle.desktop"))));
+}
+
+TEST_F(AppDelegateTest, OnlyAnUnsetShortcutIsSeeded)
+{
+    // -2 is a shortcut the user turned off; -1 one never set; 42 a shortcut of their own.
+    struct Case {
+        qint64 stored;
+        qint64 expected;
+        int registered;
+    };
+    for (const Case &c : { Case { -2, -2, 1 }, Case { -1, 8, 2 }, Case { 42, 42, 2 } }) {
+        SCOPED_TRACE(c.stored);
+        settings.store->setInteger(pickKeyCode, c.stored);
+        settings.store->setInteger(pickModifiers, 4096);
+        shortcuts.calls.clear();
+        shortcuts.registered.clear();
+        launch();
+        EXPECT_EQ(settings.store->integerForKey(pickKeyCode), c.expected);
+        EXPECT_EQ(settings.store->integerForKey(pickModifiers), c.stored == -1 ? 655360 : 4096);
+        EXPECT_EQ(shortcuts.registered.size(), c.registered);
+        delegate.reset();
+    }
+}
+
+TEST_F(AppDelegateTest, LaunchReadsTheStoredHistoryAndWelcomesOnlyOnce)
+{
+    settings.store->setBool(onboardingShown, true);
+    launch();
+    EXPECT_EQ(delegate->onboardingWindow(), nullptr);
+    delegate->pickColor();
+    sampler.finish(1.0, 0.42, 0.21);
+    EXPECT_EQ(clipboard.current(), QStringLiteral("#FF6B36"));
+    delegate.reset();
+
+    launch(); // the next run finds the colour picked in the last one
+    ASSERT_EQ(delegate->viewModel()->colors().size(), 1);
+    EXPECT_EQ(delegate->viewModel()->colors().first().formatted(ColorFormat::hex), QStringLiteral("#FF6B36"));
+}
+
+TEST_F(AppDelegateTest, ShortcutsFireTheirReactionsAfterTheSignalAndQuitReleasesThem)
+{
+    launch();
+    const int pickId = shortcuts.registered.first().id;
+    shortcuts.press(pickId);
+    EXPECT_EQ(sampler.pickCount, 0); // not inside the shortcut's signal
+    QTRY_COMPARE(sampler.pickCount, 1);
+    shortcuts.press(pickId); // a second trigger during the pick is ignored
+    QTest::qWait(20);
+    EXPECT_EQ(sampler.pickCount, 1);
+    sampler.cancel();
+
+    delegate->applicationWillTerminate();
+    EXPECT_TRUE(shortcuts.registered.isEmpty());
+}
+
+TEST_F(AppDelegateTest, CompletingTheWelcomeRecordsItAndClosesTheWindow)
+{
+    launch();
+    QPointer<OnboardingWindow> window = delegate->onboardingWindow();
+    delegate->completeOnboarding();
+    EXPECT_TRUE(settings.store->boolForKey(onboardingShown));
+    EXPECT_EQ(delegate->onboardingWindow(), nullptr);
+    QTRY_VERIFY(window.isNull());
+}
+
+} // namespace

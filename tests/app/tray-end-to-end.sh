@@ -1,0 +1,139 @@
+#!/usr/bin/env bash
+# Vantle as a person meets it, inside the private X desktop of tests/desktop/x11-session.sh
+# (openbox, trayer, private session bus): start, tray icon, pick by shortcut onto the
+# clipboard, the dot in the tray, the popup from the tray and from `vantle toggle`,
+# `vantle pick`, a second start, and quitting.
+#   VANTLE_BIN=... x11-session.sh tray-end-to-end.sh [SHOT_DIR]
+set -euo pipefail
+
+vantle=${VANTLE_BIN:?}
+shots=${1:-}
+for tool in xdotool xclip xwininfo import convert; do
+    command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }
+done
+
+home=$(mktemp -d)
+export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_RUNTIME_DIR=$home/run
+mkdir -p "$XDG_CONFIG_HOME/Vantle" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+# Fresh settings but for the dot in the tray, which this test looks at.
+printf '[General]\nshowColorDot=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
+
+pid=
+cleanup() {
+    [[ -n $pid ]] && kill "$pid" 2>/dev/null || true
+    rm -rf "$home"
+}
+trap cleanup EXIT
+
+fail() { echo "FAIL: $*" >&2; exit 1; }
+wait_for() { # wait_for SECONDS COMMAND...
+    local deadline=$((SECONDS + $1)); shift
+    until "$@" >/dev/null 2>&1; do
+        ((SECONDS < deadline)) || return 1
+        sleep 0.05
+    done
+}
+shot() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/$1.png" || true; }
+
+# "id width height x y" for each mapped window of Vantle's.
+windows() {
+    local id
+    for id in $(xdotool search --onlyvisible --pid "$pid" 2>/dev/null); do
+        xwininfo -id "$id" | awk -v id="$id" '
+            /Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4}
+            /Width:/ {w=$2} /Height:/ {h=$2} END {print id, w, h, x, y}'
+    done
+}
+popup_shown() { windows | awk '$2 == 320 {found=1} END {exit !found}'; }
+popup_hidden() { ! popup_shown; }
+# Vantle processes on this test's display (other tests may run their own).
+vantles_here() {
+    local p n=0
+    for p in $(pgrep -x vantle); do
+        grep -qxz "DISPLAY=$DISPLAY" "/proc/$p/environ" 2>/dev/null && n=$((n + 1))
+    done
+    echo "$n"
+}
+clipboard_is() { [[ $(xclip -o -selection clipboard 2>/dev/null) == "$1" ]]; }
+# The tray icon: the window trayer embedded for us.
+tray_icon() {
+    local tray
+    for tray in $(xdotool search --class trayer); do
+        xwininfo -tree -id "$tray" | awk '/\("vantle" "Vantle"\)/ {print $1; exit}'
+    done | head -n1 | grep .
+}
+icon_shows() { # icon_shows HEX: the tray icon has pixels of that colour
+    local pixels # read whole first: grep -q would end import early, a failure under pipefail
+    pixels=$(import -window "$(tray_icon)" -depth 8 txt:- 2>/dev/null) && grep -qi "#$1" <<<"$pixels"
+}
+
+# A desktop in one colour to pick from.
+xsetroot -solid '#FF6B36'
+echo "sentinel" | xclip -selection clipboard
+
+"$vantle" &
+pid=$!
+wait_for 20 tray_icon || fail "no tray icon appeared"
+# The first run greets with the welcome window.
+wait_for 20 sh -c "xdotool search --onlyvisible --pid $pid | grep -q ." || fail "no welcome window"
+shot start
+
+# Second start: asks the first to toggle its popup and ends; still one Vantle.
+timeout 20 "$vantle" || fail "a second start failed"
+wait_for 10 popup_shown || fail "a second start did not bring the popup up"
+[[ $(vantles_here) == 1 ]] || fail "$(vantles_here) Vantles run"
+timeout 20 "$vantle" toggle || fail "vantle toggle failed"
+wait_for 10 popup_hidden || fail "vantle toggle did not close the popup"
+
+# The shortcut, then a click on the desktop: the loupe takes the click, the text the clipboard.
+xdotool key --clearmodifiers alt+shift+c
+sleep 1 # the loupe maps and grabs the pointer
+xdotool mousemove 100 700 click 1
+wait_for 10 clipboard_is '#FF6B36' || fail "clipboard holds \"$(xclip -o -selection clipboard)\", not #FF6B36"
+shot after-pick
+[[ $("$vantle" export) == *"#FF6B36"* ]] || fail "the history does not hold the colour: $("$vantle" export)"
+if ! wait_for 10 icon_shows FF6B36; then
+    [[ -n $shots ]] && import -window "$(tray_icon)" "$shots/tray-icon.png"
+    shot no-dot
+    fail "the tray icon ($(tray_icon)) shows no dot in the picked colour"
+fi
+
+# A click on the tray icon opens the popup; a second one closes it.
+read -r icon_w icon_h icon_x icon_y < <(xwininfo -id "$(tray_icon)" | awk '
+    /Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4} /Width:/ {w=$2} /Height:/ {h=$2}
+    END {print w, h, x, y}')
+xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
+wait_for 10 popup_shown || fail "a click on the tray icon did not open the popup"
+shot popup
+xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
+wait_for 10 popup_hidden || fail "a second click on the tray icon did not close the popup"
+
+# `vantle pick` from another process starts the loupe; Escape cancels and changes nothing.
+echo "sentinel" | xclip -selection clipboard
+timeout 20 "$vantle" pick || fail "vantle pick failed"
+sleep 1
+xdotool key Escape
+sleep 0.5
+clipboard_is sentinel || fail "a cancelled pick changed the clipboard"
+timeout 20 "$vantle" pick
+sleep 1
+xdotool mousemove 200 600 click 1
+wait_for 10 clipboard_is '#FF6B36' || fail "vantle pick did not copy the colour"
+
+# Quitting from the tray's menu ends Vantle and frees its name and shortcuts.
+xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 3
+sleep 1
+xdotool key Up Return
+wait_for 10 sh -c "! kill -0 $pid" || fail "Vantle did not quit from its menu"
+wait "$pid" || fail "Vantle ended with status $?"
+pid=
+if timeout 20 "$vantle" toggle 2>/dev/null; then fail "vantle toggle still finds a Vantle"; fi
+
+# A logout (SIGTERM) ends Vantle cleanly, as Quit does.
+"$vantle" &
+pid=$!
+wait_for 20 tray_icon || fail "no tray icon at the second start"
+kill -TERM "$pid"
+wait "$pid" || fail "Vantle ended with status $? on SIGTERM"
+pid=
+echo "PASS"

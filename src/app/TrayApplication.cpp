@@ -7,7 +7,7 @@
 #include "hotkeys/GlobalShortcutBackend.h"
 #include "platform/AppearanceMonitor.h"
 #include "platform/GlobalShortcutBackendChooser.h"
-#include "platform/QtClipboard.h"
+#include "platform/ClipboardFactory.h"
 #include "platform/ScreenSamplerFactory.h"
 #include "services/SettingsStore.h"
 #include "services/XdgAutostartService.h"
@@ -73,7 +73,7 @@ int runTrayApplication()
     // The facilities, each chosen once for this session, then the delegate that uses them.
     SettingsStore store(SettingsStore::standardFilePath());
     std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(store);
-    QtClipboard clipboard;
+    std::unique_ptr<Clipboard> clipboard = makeClipboard();
     CopyHud confirmation;
     FileExportDialogs exportDialogs;
     std::unique_ptr<GlobalShortcutBackend> shortcuts = createGlobalShortcutBackend();
@@ -81,7 +81,7 @@ int runTrayApplication()
                                    XdgAutostartService::runningProgramPath());
     AppearanceMonitor appearance;
 
-    AppDelegate delegate({store, *sampler, clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
+    AppDelegate delegate({store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
                           appearance});
     QObject::connect(instance.get(), &InstanceServer::pickRequested, &delegate, &AppDelegate::pickColor,
                      Qt::QueuedConnection);

@@ -10,8 +10,8 @@ namespace {
 Q_LOGGING_CATEGORY(lcClipboard, "vantle.clipboard")
 }
 
-ClipboardBackend chooseClipboardBackend(const QString &override, const QString &platformName,
-                                        const QString &sessionType, bool hasWaylandDisplay)
+ClipboardBackend chooseClipboardBackend(
+    const QString &override, const QString &platformName, const QString &sessionType, bool hasWaylandDisplay)
 {
     const QString forced = override.trimmed().toLower();
     if (forced == u"qt")
@@ -30,8 +30,8 @@ ClipboardBackend chooseClipboardBackend(const QString &override, const QString &
 
 std::unique_ptr<Clipboard> makeClipboard()
 {
-    const bool hasWaylandDisplay = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-        || !qEnvironmentVariableIsEmpty("WAYLAND_SOCKET");
+    const bool hasWaylandDisplay
+        = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_SOCKET");
     const ClipboardBackend backend = chooseClipboardBackend(qEnvironmentVariable("VANTLE_CLIPBOARD"),
         QGuiApplication::platformName(), qEnvironmentVariable("XDG_SESSION_TYPE"), hasWaylandDisplay);
     if (backend == ClipboardBackend::dataControl) {

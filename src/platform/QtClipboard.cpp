@@ -12,7 +12,8 @@ bool QtClipboard::setText(const QString &text)
     // a recent input event on a focused surface of ours, and drops it silently otherwise, while
     // Qt still reports owning it (measured on sway 1.7; mutter behaves the same). Without focus
     // the copy cannot happen: say so rather than claim it.
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")) && !QGuiApplication::focusWindow())
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))
+        && !QGuiApplication::focusWindow())
         return false;
     QClipboard *clipboard = QGuiApplication::clipboard();
     clipboard->setText(text, QClipboard::Clipboard);

@@ -52,12 +52,12 @@ struct DataControlInterfaces {
 
 namespace {
 
-const DataControlInterfaces extInterfaces{&ext_data_control_manager_v1_interface,
+const DataControlInterfaces extInterfaces { &ext_data_control_manager_v1_interface,
     &ext_data_control_device_v1_interface, &ext_data_control_source_v1_interface,
-    &ext_data_control_offer_v1_interface};
-const DataControlInterfaces wlrInterfaces{&zwlr_data_control_manager_v1_interface,
+    &ext_data_control_offer_v1_interface };
+const DataControlInterfaces wlrInterfaces { &zwlr_data_control_manager_v1_interface,
     &zwlr_data_control_device_v1_interface, &zwlr_data_control_source_v1_interface,
-    &zwlr_data_control_offer_v1_interface};
+    &zwlr_data_control_offer_v1_interface };
 
 uint32_t versionOf(wl_proxy *proxy)
 {
@@ -112,11 +112,13 @@ struct WaylandEvents {
     {
         static_cast<WaylandDataControlClipboard *>(data)->onGlobal(name, interface, version);
     }
-    static void globalRemove(void *, wl_registry *, uint32_t) {}
+    static void globalRemove(void *, wl_registry *, uint32_t) { }
 
-    static int source(const void *clipboard, void *proxy, uint32_t opcode, const wl_message *, wl_argument *args)
+    static int source(
+        const void *clipboard, void *proxy, uint32_t opcode, const wl_message *, wl_argument *args)
     {
-        auto *self = const_cast<WaylandDataControlClipboard *>(static_cast<const WaylandDataControlClipboard *>(clipboard));
+        auto *self = const_cast<WaylandDataControlClipboard *>(
+            static_cast<const WaylandDataControlClipboard *>(clipboard));
         if (opcode == Opcode::sourceSend)
             self->onSend(static_cast<wl_proxy *>(proxy), args[0].s, args[1].h);
         else if (opcode == Opcode::sourceCancelled)
@@ -126,21 +128,23 @@ struct WaylandEvents {
 
     static int device(const void *clipboard, void *, uint32_t opcode, const wl_message *, wl_argument *args)
     {
-        auto *self = const_cast<WaylandDataControlClipboard *>(static_cast<const WaylandDataControlClipboard *>(clipboard));
-        self->onDeviceEvent(opcode, opcode == Opcode::deviceFinished ? nullptr : reinterpret_cast<wl_proxy *>(args[0].o));
+        auto *self = const_cast<WaylandDataControlClipboard *>(
+            static_cast<const WaylandDataControlClipboard *>(clipboard));
+        self->onDeviceEvent(
+            opcode, opcode == Opcode::deviceFinished ? nullptr : reinterpret_cast<wl_proxy *>(args[0].o));
         return 0;
     }
 
     // Offers of other clients' data: we never read them, only destroy them (see onDeviceEvent).
     static int offer(const void *, void *, uint32_t, const wl_message *, wl_argument *) { return 0; }
 
-    static constexpr wl_registry_listener registryListener{&global, &globalRemove};
+    static constexpr wl_registry_listener registryListener { &global, &globalRemove };
 };
 
 const QStringList &WaylandDataControlClipboard::textMimeTypes()
 {
-    static const QStringList types{QStringLiteral("text/plain;charset=utf-8"), QStringLiteral("text/plain"),
-        QStringLiteral("UTF8_STRING"), QStringLiteral("TEXT"), QStringLiteral("STRING")};
+    static const QStringList types { QStringLiteral("text/plain;charset=utf-8"), QStringLiteral("text/plain"),
+        QStringLiteral("UTF8_STRING"), QStringLiteral("TEXT"), QStringLiteral("STRING") };
     return types;
 }
 
@@ -159,7 +163,7 @@ WaylandDataControlClipboard::WaylandDataControlClipboard(wl_display *display)
     : m_display(display)
 {
     // A reader closing its end mid-transfer must cost an EPIPE, not the program.
-    struct sigaction current {};
+    struct sigaction current { };
     if (sigaction(SIGPIPE, nullptr, &current) == 0 && current.sa_handler == SIG_DFL)
         std::signal(SIGPIPE, SIG_IGN);
 }
@@ -194,7 +198,7 @@ void WaylandDataControlClipboard::onGlobal(uint32_t name, const char *interface,
         m_seat = static_cast<wl_proxy *>(wl_registry_bind(m_registry, name, &wl_seat_interface, 1));
         return;
     }
-    for (const DataControlInterfaces *candidate : {&extInterfaces, &wlrInterfaces}) {
+    for (const DataControlInterfaces *candidate : { &extInterfaces, &wlrInterfaces }) {
         if (std::strcmp(interface, candidate->manager->name) != 0)
             continue;
         // The standard protocol wins over the wlroots one when a compositor offers both.
@@ -215,8 +219,8 @@ bool WaylandDataControlClipboard::bindGlobals()
     if (wl_display_roundtrip(m_display) < 0 || !m_seat || !m_manager)
         return false;
 
-    m_device = wl_proxy_marshal_flags(m_manager, Opcode::managerGetDevice, m_interfaces->device,
-        versionOf(m_manager), 0, nullptr, m_seat);
+    m_device = wl_proxy_marshal_flags(
+        m_manager, Opcode::managerGetDevice, m_interfaces->device, versionOf(m_manager), 0, nullptr, m_seat);
     wl_proxy_add_dispatcher(m_device, &WaylandEvents::device, this, nullptr);
     // The device announces the current selection right away; take those offers off the queue.
     if (wl_display_roundtrip(m_display) < 0 || !m_device)
@@ -266,12 +270,13 @@ bool WaylandDataControlClipboard::setText(const QString &text)
     // manager never sees an empty clipboard in between.
     wl_proxy *previous = std::exchange(m_source, nullptr);
     m_text = text.toUtf8();
-    m_source = wl_proxy_marshal_flags(m_manager, Opcode::managerCreateSource, m_interfaces->source,
-        versionOf(m_manager), 0, nullptr);
+    m_source = wl_proxy_marshal_flags(
+        m_manager, Opcode::managerCreateSource, m_interfaces->source, versionOf(m_manager), 0, nullptr);
     wl_proxy_add_dispatcher(m_source, &WaylandEvents::source, this, nullptr);
     for (const QString &type : textMimeTypes()) {
         const QByteArray name = type.toLatin1();
-        wl_proxy_marshal_flags(m_source, Opcode::sourceOffer, nullptr, versionOf(m_source), 0, name.constData());
+        wl_proxy_marshal_flags(
+            m_source, Opcode::sourceOffer, nullptr, versionOf(m_source), 0, name.constData());
     }
     wl_proxy_marshal_flags(m_device, Opcode::deviceSetSelection, nullptr, versionOf(m_device), 0, m_source);
     if (previous)

@@ -42,7 +42,6 @@ public:
     QString protocolName() const;
 
 private:
-
     class Transfer;
 
     explicit WaylandDataControlClipboard(wl_display *display);
@@ -66,7 +65,7 @@ private:
     wl_proxy *m_device = nullptr;
     wl_proxy *m_source = nullptr; // the source now on the selection, until cancelled
     const DataControlInterfaces *m_interfaces = nullptr;
-    QByteArray m_text;            // UTF-8, what m_source serves
+    QByteArray m_text; // UTF-8, what m_source serves
     std::unique_ptr<QSocketNotifier> m_readNotifier;
     std::vector<std::unique_ptr<Transfer>> m_transfers;
 };

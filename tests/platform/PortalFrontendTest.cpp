@@ -48,7 +48,7 @@ public:
         environment.insert(QStringLiteral("NO_AT_BRIDGE"), QStringLiteral("1"));
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_process.start(frontendProgram, {QStringLiteral("--replace")});
+        m_process.start(frontendProgram, { QStringLiteral("--replace") });
         if (!m_process.waitForStarted(10000))
             return QStringLiteral("xdg-desktop-portal did not start");
         // Ours, not one the bus might start on its own.
@@ -66,14 +66,14 @@ private:
 struct Desktop {
     QDBusConnection backendBus
         = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("vantletest-backend"));
-    TestPortalBackend backend{backendBus};
+    TestPortalBackend backend { backendBus };
     PortalFrontend frontend;
 };
 
-#define START_DESKTOP(desktop)                                                                                 \
-    ASSERT_TRUE(QDBusConnection::sessionBus().isConnected()) << "run under dbus-run-session";                 \
-    ASSERT_TRUE(desktop.backend.isRegistered());                                                               \
-    if (const QString why = desktop.frontend.start(); !why.isEmpty())                                          \
+#define START_DESKTOP(desktop)                                                                               \
+    ASSERT_TRUE(QDBusConnection::sessionBus().isConnected()) << "run under dbus-run-session";                \
+    ASSERT_TRUE(desktop.backend.isRegistered());                                                             \
+    if (const QString why = desktop.frontend.start(); !why.isEmpty())                                        \
         GTEST_SKIP() << qPrintable(why);
 
 QString property(const TestPortalShortcut &shortcut, const char *name)
@@ -92,7 +92,8 @@ TEST(PortalFrontend, PickColorBringsTheComponentsUnrounded)
         uint response;
         bool picks;
         const char *what;
-    } cases[] = {{0, true, "picked"}, {1, false, "cancelled"}, {2, false, "failed"}, {0, true, "picked again"}};
+    } cases[] = { { 0, true, "picked" }, { 1, false, "cancelled" }, { 2, false, "failed" },
+        { 0, true, "picked again" } };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
         desktop.backend.pickResponse = c.response;
@@ -136,7 +137,7 @@ TEST(PortalFrontend, ShortcutsAreBoundInOneSessionAndFire)
     const QString session = desktop.backend.sessions.first();
     // The frontend makes its own session object and hands our client that path, not the backend's.
     ASSERT_TRUE(QTest::qWaitFor([&] { return !backend->sessionHandle().isEmpty(); }, 15000));
-    EXPECT_EQ(desktop.backend.boundSessions, QStringList{session});
+    EXPECT_EQ(desktop.backend.boundSessions, QStringList { session });
     const QList<TestPortalShortcut> &bound = desktop.backend.binds.first();
     ASSERT_EQ(bound.size(), 2);
     EXPECT_EQ(bound[0].id, u"pick");
@@ -147,7 +148,8 @@ TEST(PortalFrontend, ShortcutsAreBoundInOneSessionAndFire)
     EXPECT_EQ(property(bound[1], "preferred_trigger"), u"ALT+SHIFT+x");
 
     // Presses in another program's session never reach us; ours do, each exactly once.
-    desktop.backend.activate(desktop.backend.path + QStringLiteral("/session/1_99/other"), QStringLiteral("pick"));
+    desktop.backend.activate(
+        desktop.backend.path + QStringLiteral("/session/1_99/other"), QStringLiteral("pick"));
     desktop.backend.activate(session, QStringLiteral("popover"));
     ASSERT_TRUE(QTest::qWaitFor([&] { return popover.count() == 1; }, 15000));
     desktop.backend.activate(session, QStringLiteral("pick"));

@@ -60,7 +60,8 @@ int main(int argc, char **argv)
     TestPortalBackend backend(bus);
     TestPortalControl control(backend);
     if (!backend.isRegistered()
-        || !bus.registerObject(QStringLiteral("/org/vantle/TestPortal"), &control, QDBusConnection::ExportAllSlots)) {
+        || !bus.registerObject(
+            QStringLiteral("/org/vantle/TestPortal"), &control, QDBusConnection::ExportAllSlots)) {
         QTextStream(stderr) << "portal_test_backend: cannot register on the session bus" << Qt::endl;
         return 1;
     }

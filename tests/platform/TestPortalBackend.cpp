@@ -53,16 +53,17 @@ TestPortalBackend::TestPortalBackend(const QDBusConnection &bus)
     new TestScreenshotAdaptor(this);
     new TestAccessAdaptor(this);
     m_shortcuts = new TestGlobalShortcutsAdaptor(this);
-    m_isRegistered = m_bus.registerObject(path, this, QDBusConnection::ExportAdaptors)
-        && m_bus.registerService(busName);
+    m_isRegistered
+        = m_bus.registerObject(path, this, QDBusConnection::ExportAdaptors) && m_bus.registerService(busName);
 }
 
 QByteArray TestPortalBackend::portalFile()
 {
     return QByteArrayLiteral("[portal]\nDBusName=") + busName.toLatin1()
-        + QByteArrayLiteral("\nInterfaces=org.freedesktop.impl.portal.Screenshot;"
-                            "org.freedesktop.impl.portal.Access;org.freedesktop.impl.portal.GlobalShortcuts;\n"
-                            "UseIn=")
+        + QByteArrayLiteral(
+            "\nInterfaces=org.freedesktop.impl.portal.Screenshot;"
+            "org.freedesktop.impl.portal.Access;org.freedesktop.impl.portal.GlobalShortcuts;\n"
+            "UseIn=")
         + desktopName.toLatin1() + '\n';
 }
 
@@ -84,7 +85,7 @@ uint TestScreenshotAdaptor::PickColor(
     ++m_backend->picks;
     if (m_backend->pickResponse == 0) {
         results.insert(QStringLiteral("color"),
-            QVariant::fromValue(Color{m_backend->pickRed, m_backend->pickGreen, m_backend->pickBlue}));
+            QVariant::fromValue(Color { m_backend->pickRed, m_backend->pickGreen, m_backend->pickBlue }));
     }
     return m_backend->pickResponse;
 }
@@ -100,8 +101,8 @@ TestAccessAdaptor::TestAccessAdaptor(TestPortalBackend *backend)
 {
 }
 
-uint TestAccessAdaptor::AccessDialog(const QDBusObjectPath &, const QString &, const QString &, const QString &,
-    const QString &, const QString &, const QVariantMap &, QVariantMap &)
+uint TestAccessAdaptor::AccessDialog(const QDBusObjectPath &, const QString &, const QString &,
+    const QString &, const QString &, const QString &, const QVariantMap &, QVariantMap &)
 {
     return 0;
 }
@@ -131,17 +132,17 @@ uint TestGlobalShortcutsAdaptor::BindShortcuts(const QDBusObjectPath &, const QD
     // Bound as asked, each described by its preferred trigger.
     QList<TestPortalShortcut> bound;
     for (const TestPortalShortcut &shortcut : shortcuts) {
-        bound << TestPortalShortcut{shortcut.id,
-            {{QStringLiteral("description"), shortcut.properties.value(QStringLiteral("description"))},
-                {QStringLiteral("trigger_description"),
-                    shortcut.properties.value(QStringLiteral("preferred_trigger"))}}};
+        bound << TestPortalShortcut { shortcut.id,
+            { { QStringLiteral("description"), shortcut.properties.value(QStringLiteral("description")) },
+                { QStringLiteral("trigger_description"),
+                    shortcut.properties.value(QStringLiteral("preferred_trigger")) } } };
     }
     results.insert(QStringLiteral("shortcuts"), QVariant::fromValue(bound));
     return 0;
 }
 
-uint TestGlobalShortcutsAdaptor::ListShortcuts(const QDBusObjectPath &, const QDBusObjectPath &sessionHandle,
-    QVariantMap &results)
+uint TestGlobalShortcutsAdaptor::ListShortcuts(
+    const QDBusObjectPath &, const QDBusObjectPath &sessionHandle, QVariantMap &results)
 {
     QList<TestPortalShortcut> listed;
     for (int i = m_backend->boundSessions.size() - 1; i >= 0; --i) {

@@ -47,8 +47,8 @@ public:
 
     // What the frontend asked for, in order.
     int picks = 0;
-    QStringList sessions;         // session handles of CreateSession
-    QStringList closedSessions;   // sessions closed through their Session object
+    QStringList sessions; // session handles of CreateSession
+    QStringList closedSessions; // sessions closed through their Session object
     QList<QList<TestPortalShortcut>> binds;
     QStringList boundSessions;
 
@@ -102,12 +102,13 @@ public:
     explicit TestGlobalShortcutsAdaptor(TestPortalBackend *backend);
     uint version() const { return 1; }
 public Q_SLOTS:
-    uint CreateSession(const QDBusObjectPath &handle, const QDBusObjectPath &sessionHandle, const QString &appId,
-        const QVariantMap &options, QVariantMap &results);
+    uint CreateSession(const QDBusObjectPath &handle, const QDBusObjectPath &sessionHandle,
+        const QString &appId, const QVariantMap &options, QVariantMap &results);
     uint BindShortcuts(const QDBusObjectPath &handle, const QDBusObjectPath &sessionHandle,
         const QList<TestPortalShortcut> &shortcuts, const QString &parentWindow, const QVariantMap &options,
         QVariantMap &results);
-    uint ListShortcuts(const QDBusObjectPath &handle, const QDBusObjectPath &sessionHandle, QVariantMap &results);
+    uint ListShortcuts(
+        const QDBusObjectPath &handle, const QDBusObjectPath &sessionHandle, QVariantMap &results);
 Q_SIGNALS:
     void Activated(const QDBusObjectPath &session_handle, const QString &shortcut_id, qulonglong timestamp,
         const QVariantMap &options);

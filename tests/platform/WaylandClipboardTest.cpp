@@ -37,7 +37,7 @@ Pasted run(const QString &program, const QStringList &arguments)
 
 QByteArray paste(const QString &mimeType = QString())
 {
-    QStringList arguments{QStringLiteral("--no-newline")};
+    QStringList arguments { QStringLiteral("--no-newline") };
     if (!mimeType.isEmpty())
         arguments << QStringLiteral("--type") << mimeType;
     const Pasted pasted = run(QStringLiteral("wl-paste"), arguments);
@@ -62,15 +62,15 @@ protected:
 
 TEST_F(WaylandClipboard, CopiesWithoutFocusInEveryTextTypeAndTheNextCopyReplaces)
 {
-    const QString texts[] = {QStringLiteral("#FF8000"), QStringLiteral("hsl(30°, 100%, 50%)"),
-        QStringLiteral("rgb(255, 128, 0)")};
+    const QString texts[] = { QStringLiteral("#FF8000"), QStringLiteral("hsl(30°, 100%, 50%)"),
+        QStringLiteral("rgb(255, 128, 0)") };
     for (const QString &text : texts) {
         SCOPED_TRACE(text.toStdString());
         ASSERT_TRUE(clipboard->setText(text));
         EXPECT_EQ(QString::fromUtf8(paste()), text);
         for (const QString &type : WaylandDataControlClipboard::textMimeTypes())
             EXPECT_EQ(QString::fromUtf8(paste(type)), text) << type.toStdString();
-        const QByteArray listed = run(QStringLiteral("wl-paste"), {QStringLiteral("--list-types")}).text;
+        const QByteArray listed = run(QStringLiteral("wl-paste"), { QStringLiteral("--list-types") }).text;
         EXPECT_EQ(QString::fromLatin1(listed).split(QLatin1Char('\n'), Qt::SkipEmptyParts).size(),
             WaylandDataControlClipboard::textMimeTypes().size());
     }
@@ -80,7 +80,7 @@ TEST_F(WaylandClipboard, AnotherProgramTakesTheClipboardAndWeTakeItBack)
 {
     ASSERT_TRUE(clipboard->setText(QStringLiteral("#FF8000")));
     // wl-copy stays in the background serving its text until someone takes the clipboard back.
-    ASSERT_EQ(run(QStringLiteral("wl-copy"), {QStringLiteral("theirs")}).exitCode, 0);
+    ASSERT_EQ(run(QStringLiteral("wl-copy"), { QStringLiteral("theirs") }).exitCode, 0);
     EXPECT_TRUE(QTest::qWaitFor([] { return paste() == "theirs"; }, 10000));
     ASSERT_TRUE(clipboard->setText(QStringLiteral("#0080FF")));
     EXPECT_EQ(paste(), "#0080FF");
@@ -94,8 +94,8 @@ TEST_F(WaylandClipboard, SurvivesReadersThatGoAwayMidTransfer)
         big += QStringLiteral("#FF8000 ");
     ASSERT_TRUE(clipboard->setText(big));
     for (int reader = 0; reader < 3; ++reader) {
-        const Pasted partial = run(QStringLiteral("sh"), {QStringLiteral("-c"),
-            QStringLiteral("wl-paste --no-newline | head -c 100")});
+        const Pasted partial = run(QStringLiteral("sh"),
+            { QStringLiteral("-c"), QStringLiteral("wl-paste --no-newline | head -c 100") });
         ASSERT_TRUE(partial.finished);
         EXPECT_EQ(partial.text, big.left(100).toUtf8());
     }

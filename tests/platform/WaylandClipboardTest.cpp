@@ -5,6 +5,7 @@
 #include "platform/QtClipboard.h"
 #include "platform/WaylandDataControlClipboard.h"
 
+#include <QAbstractEventDispatcher>
 #include <QProcess>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -126,4 +127,25 @@ TEST_F(WaylandClipboard, QClipboardWithoutFocusNeverClaimsACopy)
     QtClipboard qt;
     EXPECT_FALSE(qt.setText(QStringLiteral("#FF8000")));
     EXPECT_EQ(paste(), "before");
+}
+
+TEST(WaylandCompositorGone, CopiesFailQuietlyOnceTheCompositorHasQuit)
+{
+    // Runs on its own, on the offscreen platform: Qt's own Wayland connection would end the
+    // process with the compositor.
+    if (qEnvironmentVariableIsEmpty("SWAYSOCK"))
+        GTEST_SKIP() << "needs the sway session of tests/desktop/sway-session.sh";
+    auto clipboard = WaylandDataControlClipboard::connect();
+    ASSERT_TRUE(clipboard);
+    ASSERT_TRUE(clipboard->setText(QStringLiteral("#FF8000")));
+    // sway may go before it answers, so swaymsg's status says nothing.
+    ASSERT_TRUE(run(QStringLiteral("swaymsg"), { QStringLiteral("exit") }).finished);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !clipboard->setText(QStringLiteral("#0080FF")); }, 10000));
+    // The hung-up connection must not keep waking the event loop (a tray program would spin).
+    int wakeUps = 0;
+    QObject::connect(
+        QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake, [&] { ++wakeUps; });
+    QTest::qWait(300);
+    EXPECT_LT(wakeUps, 100);
+    EXPECT_FALSE(clipboard->setText(QStringLiteral("#0080FF")));
 }

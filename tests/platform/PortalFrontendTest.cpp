@@ -118,6 +118,10 @@ TEST(PortalFrontend, PickColorBringsTheComponentsUnrounded)
 
 TEST(PortalFrontend, ShortcutsAreBoundInOneSessionAndFire)
 {
+    // Made first, in a process of its own (see CMakeLists.txt): our program subscribes before
+    // anything has used QDBusObjectPath, and before the portal is on the bus.
+    ASSERT_TRUE(QDBusConnection::sessionBus().isConnected()) << "run under dbus-run-session";
+    auto backend = std::make_unique<PortalShortcutBackend>(QDBusConnection::sessionBus());
     Desktop desktop;
     START_DESKTOP(desktop)
     TempSettings settings;
@@ -125,7 +129,6 @@ TEST(PortalFrontend, ShortcutsAreBoundInOneSessionAndFire)
     settings.store->setInteger(pickModifiers, 655360);
     settings.store->setInteger(popoverKeyCode, 7);
     settings.store->setInteger(popoverModifiers, 655360 | 65536); // caps lock bit ignored
-    auto backend = std::make_unique<PortalShortcutBackend>(QDBusConnection::sessionBus());
     HotkeyManager manager(*settings.store, *backend);
     manager.installEventHandler();
     QSignalSpy pick(&manager, &HotkeyManager::pickHotkeyFired);

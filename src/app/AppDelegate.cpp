@@ -8,12 +8,14 @@
 #include "platform/AppearanceMonitor.h"
 #include "screens/ColorListView.h"
 #include "screens/OnboardingWindow.h"
+#include "screens/SettingsWindow.h"
 #include "services/DiskImageCleanup.h"
 #include "services/LaunchAtLogin.h"
 #include "services/PreferenceKeys.h"
 #include "services/ProcessCommandRunner.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
+#include "services/UpdaterController.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -25,6 +27,8 @@ using namespace PreferenceKeys;
 AppDelegate::AppDelegate(Facilities facilities, QObject *parent)
     : QObject(parent)
     , m_facilities(facilities)
+    , m_updaterController(std::make_unique<UpdaterController>(facilities.store, facilities.network,
+                                                              facilities.updateInterface))
 {
 }
 
@@ -83,6 +87,9 @@ void AppDelegate::applicationDidFinishLaunching()
 
     // 11. Eject and trash the installation image, if Vantle was just installed from one.
     DiskImageCleanup(DiskImageCleanup::currentEnvironment(), std::make_shared<ProcessCommandRunner>()).start();
+
+    // The quiet update checks (when automatic downloads are on) begin once Vantle runs.
+    m_updaterController->startUpdater();
 }
 
 void AppDelegate::applicationWillTerminate()
@@ -219,4 +226,11 @@ void AppDelegate::openSettings()
 {
     if (m_popover && m_popover->isVisible() && !isStandalone())
         m_popover->close();
+    if (!m_viewModel)
+        return; // before launching finished there is nothing to set yet
+    if (!m_settingsWindow)
+        m_settingsWindow = std::make_unique<SettingsWindow>(m_facilities.store, *m_hotkeyManager,
+                                                            m_facilities.loginItems, *m_updaterController,
+                                                            m_viewModel.get());
+    m_settingsWindow->open();
 }

@@ -15,10 +15,14 @@ class LoginItemService;
 class OnboardingWindow;
 class PopupWindow;
 class QMenu;
+class QNetworkAccessManager;
 class QSystemTrayIcon;
 class ScreenColorSampler;
 class SettingsStore;
+class SettingsWindow;
 class TrayHost;
+class UpdateUserInterface;
+class UpdaterController;
 
 // The program's spine: owns everything that lives for the whole run (the history model, the
 // shortcuts, the tray icon and its popup, the settings and welcome windows, the updater) and
@@ -37,6 +41,8 @@ public:
         GlobalShortcutBackend &shortcuts;
         LoginItemService &loginItems;
         AppearanceMonitor &appearance;
+        QNetworkAccessManager &network;
+        UpdateUserInterface &updateInterface;
     };
 
     explicit AppDelegate(Facilities facilities, QObject *parent = nullptr);
@@ -58,6 +64,8 @@ public:
     QSystemTrayIcon *statusItem() const { return m_statusItem.get(); }
     PopupWindow *popover() const { return m_popover.get(); }
     OnboardingWindow *onboardingWindow() const { return m_onboardingWindow.get(); }
+    SettingsWindow *settingsWindow() const { return m_settingsWindow.get(); }
+    UpdaterController &updaterController() const { return *m_updaterController; }
 
     // How long to wait for a tray host at launch before showing the popup as a window.
     static constexpr int trayHostWaitMs = 10000;
@@ -72,11 +80,13 @@ private:
     bool isStandalone() const;
 
     Facilities m_facilities;
+    std::unique_ptr<UpdaterController> m_updaterController; // the one object made before launch
     std::unique_ptr<ColorListViewModel> m_viewModel;
     std::unique_ptr<HotkeyManager> m_hotkeyManager;
     std::unique_ptr<QSystemTrayIcon> m_statusItem;
     std::unique_ptr<QMenu> m_statusMenu;
     std::unique_ptr<PopupWindow> m_popover;
+    std::unique_ptr<SettingsWindow> m_settingsWindow;
     std::unique_ptr<OnboardingWindow> m_onboardingWindow;
     TrayHost *m_trayHost = nullptr;
 };

@@ -9,10 +9,12 @@
 #include "platform/GlobalShortcutBackendChooser.h"
 #include "platform/ClipboardFactory.h"
 #include "platform/ScreenSamplerFactory.h"
+#include "screens/DialogUpdateInterface.h"
 #include "services/SettingsStore.h"
 #include "services/XdgAutostartService.h"
 
 #include <QApplication>
+#include <QNetworkAccessManager>
 #include <QSocketNotifier>
 #include <QTextStream>
 #include <QTimer>
@@ -80,9 +82,11 @@ int runTrayApplication()
     XdgAutostartService loginItems(XdgAutostartService::standardEntryPath(),
                                    XdgAutostartService::runningProgramPath());
     AppearanceMonitor appearance;
+    QNetworkAccessManager network;
+    DialogUpdateInterface updateInterface;
 
     AppDelegate delegate({store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
-                          appearance});
+                          appearance, network, updateInterface});
     QObject::connect(instance.get(), &InstanceServer::pickRequested, &delegate, &AppDelegate::pickColor,
                      Qt::QueuedConnection);
     QObject::connect(instance.get(), &InstanceServer::togglePopoverRequested, &delegate,

@@ -36,6 +36,18 @@ bool isRgb32(xcb_connection_t *connection, const xcb_screen_t *screen)
     return false;
 }
 
+// X leaves the top byte of a depth-24 pixel undefined and servers hand it back as whatever was
+// stored, usually 0x00, while QImage::Format_RGB32 promises 0xff there. Qt's painting trusts
+// that promise: scaling such pixels into an ARGB32_Premultiplied image (the loupe) copies them
+// as fully transparent colours, which then add onto whatever is painted beneath instead of
+// covering it. One pass over memory we own makes the frozen desktop an honest opaque image.
+void makeOpaque(uchar *bits, size_t pixels)
+{
+    auto *pixel = reinterpret_cast<quint32 *>(bits);
+    for (size_t i = 0; i < pixels; ++i)
+        pixel[i] |= 0xff000000u;
+}
+
 } // namespace
 
 std::unique_ptr<X11DesktopCapture> X11DesktopCapture::capture(xcb_connection_t *connection)
@@ -89,6 +101,8 @@ bool X11DesktopCapture::captureShared(xcb_connection_t *connection, unsigned roo
     if (!reply)
         return false; // the destructor detaches
     std::free(reply);
+    // The server has written its last into the segment: the reply only comes once it is done.
+    makeOpaque(static_cast<uchar *>(m_memory), size_t(width) * size_t(height));
     m_image = QImage(static_cast<const uchar *>(m_memory), width, height, width * 4, QImage::Format_RGB32);
     return true;
 }
@@ -114,8 +128,10 @@ bool X11DesktopCapture::capturePlain(xcb_connection_t *connection, unsigned root
             return false;
         }
         const uint8_t *data = xcb_get_image_data(reply);
-        for (int row = 0; row < rows; ++row)
+        for (int row = 0; row < rows; ++row) {
             std::memcpy(image.scanLine(top + row), data + size_t(row) * width * 4, size_t(width) * 4);
+            makeOpaque(image.scanLine(top + row), size_t(width));
+        }
         std::free(reply);
     }
     m_image = image;

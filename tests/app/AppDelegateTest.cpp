@@ -4,13 +4,17 @@
 #include "app/PopupWindow.h"
 #include "history/ColorListViewModel.h"
 #include "platform/AppearanceMonitor.h"
+#include "screens/DialogUpdateInterface.h"
 #include "screens/OnboardingWindow.h"
+#include "screens/SettingsView.h"
+#include "screens/SettingsWindow.h"
 #include "services/PreferenceKeys.h"
 #include "services/XdgAutostartService.h"
 #include "support/HistoryFakes.h"
 #include "support/TempSettings.h"
 #include "../hotkeys/FakeShortcutBackend.h"
 
+#include <QNetworkAccessManager>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -23,7 +27,8 @@ protected:
     void launch()
     {
         delegate = std::make_unique<AppDelegate>(AppDelegate::Facilities {
-            *settings.store, sampler, clipboard, confirmation, exportDialogs, shortcuts, loginItems, appearance });
+            *settings.store, sampler, clipboard, confirmation, exportDialogs, shortcuts, loginItems, appearance,
+            network, updateInterface });
         delegate->applicationDidFinishLaunching();
     }
     QStringList registrations() const { return shortcuts.calls.filter(QStringLiteral("register")); }
@@ -37,6 +42,8 @@ protected:
     XdgAutostartService loginItems { settings.dir.filePath(QStringLiteral("autostart/vantle.desktop")),
                                      QStringLiteral("/usr/bin/vantle") };
     AppearanceMonitor appearance;
+    QNetworkAccessManager network;
+    DialogUpdateInterface updateInterface; // never shown: the test build has no feed address
     std::unique_ptr<AppDelegate> delegate;
 };
 
@@ -118,6 +125,23 @@ TEST_F(AppDelegateTest, CompletingTheWelcomeRecordsItAndClosesTheWindow)
     EXPECT_TRUE(settings.store->boolForKey(onboardingShown));
     EXPECT_EQ(delegate->onboardingWindow(), nullptr);
     QTRY_VERIFY(window.isNull());
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(AppDelegateTest, SettingsOpenInTheirWindowOverThePopup)
+{
+    settings.store->setBool(onboardingShown, true);
+    launch();
+    delegate->openSettings();
+    ASSERT_NE(delegate->settingsWindow(), nullptr);
+    QWidget *window = delegate->settingsWindow()->view();
+    ASSERT_NE(window, nullptr);
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Vantle Settings"));
+    EXPECT_FALSE(delegate->popover()->isVisible());
 }
 
 } // namespace

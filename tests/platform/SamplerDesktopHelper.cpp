@@ -3,6 +3,15 @@
 //                                                position; every button press that reaches it
 //                                                is appended to FILE; prints "ready" once shown
 //   wait-grab SECONDS                            exits 0 once another client holds the pointer grab
+//   pattern                                      paints the root window with patternAt(x, y), the
+//                                                way most X clients store pixels: top byte zero
+//   check-loupe SHOT HX HY                       exits 0 when the screenshot SHOT shows the loupe
+//                                                for hotspot (HX, HY) over the pattern, every cell
+//                                                the magnified pattern pixel (beyond the screen:
+//                                                black); otherwise prints what differs
+#include "platform/SamplerGeometry.h"
+#include "platform/SamplerLoupe.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
@@ -14,10 +23,108 @@
 #include <QtGui/qguiapplication_platform.h>
 #include <xcb/xcb.h>
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <vector>
 
 namespace {
+
+// Neighbouring pixels all differ in every channel, and no run of the pattern is uniform, so a
+// loupe that shows the wrong pixel, a shifted patch or a blend with what lies beneath fails.
+QRgb patternAt(int x, int y)
+{
+    return qRgb((x * 37 + y * 3) & 0xff, (y * 53 + x * 5) & 0xff, ((x ^ y) * 29 + 17) & 0xff);
+}
+
+// Sets the root window's background to the pattern. X leaves the top byte of a depth-24 pixel
+// undefined; like most clients we leave it zero, which is what the sampler reads back.
+int paintPattern()
+{
+    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
+    if (xcb_connection_has_error(connection))
+        return 1;
+    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    const int width = screen->width_in_pixels;
+    const int height = screen->height_in_pixels;
+    const xcb_pixmap_t pixmap = xcb_generate_id(connection);
+    xcb_create_pixmap(connection, screen->root_depth, pixmap, screen->root, uint16_t(width),
+                      uint16_t(height));
+    const xcb_gcontext_t gc = xcb_generate_id(connection);
+    xcb_create_gc(connection, gc, pixmap, 0, nullptr);
+    const uint32_t maxBytes = xcb_get_maximum_request_length(connection) * 4 - 64;
+    const int bandRows = std::max(1, int(maxBytes / uint32_t(width * 4)));
+    std::vector<uint32_t> band;
+    for (int top = 0; top < height; top += bandRows) {
+        const int rows = std::min(bandRows, height - top);
+        band.assign(size_t(width) * rows, 0);
+        for (int y = 0; y < rows; ++y)
+            for (int x = 0; x < width; ++x)
+                band[size_t(y) * width + x] = patternAt(x, top + y) & 0x00ffffffu;
+        xcb_put_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, gc, uint16_t(width), uint16_t(rows), 0,
+                      int16_t(top), 0, screen->root_depth, uint32_t(band.size() * 4),
+                      reinterpret_cast<const uint8_t *>(band.data()));
+    }
+    xcb_change_window_attributes(connection, screen->root, XCB_CW_BACK_PIXMAP, &pixmap);
+    xcb_clear_area(connection, 0, screen->root, 0, 0, 0, 0);
+    // The root keeps its own reference to the background: the pattern outlives us.
+    xcb_free_pixmap(connection, pixmap);
+    xcb_free_gc(connection, gc);
+    free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr)); // a round trip
+    xcb_disconnect(connection);
+    return 0;
+}
+
+// The loupe is checked where SamplerLoupe and SamplerGeometry put it (scale 1, default zoom,
+// hex text), so only what it shows is under test, not its size or place.
+int checkLoupe(const QString &shotFile, const QPoint &hotspot)
+{
+    const QImage shot = QImage(shotFile).convertToFormat(QImage::Format_RGB32);
+    if (shot.isNull()) {
+        std::printf("cannot read %s\n", qPrintable(shotFile));
+        return 1;
+    }
+    const QColor hotColor(patternAt(hotspot.x(), hotspot.y()));
+    const QString text = hotColor.name(QColor::HexRgb).toUpper();
+    const SamplerLoupe loupe(1);
+    const int zoom = SamplerGeometry::defaultZoom;
+    const int diameter = loupe.lensDiameter();
+    const QSize box = loupe.boxSize(text);
+    const QRect place = SamplerGeometry::loupePlacement(shot.rect(), hotspot, box, loupe.gap());
+    const QPoint lens = place.topLeft() + QPoint((box.width() - diameter) / 2, 0);
+    const QPoint lensCentre = lens + QPoint(diameter / 2, diameter / 2);
+    const int half = SamplerGeometry::loupePixelsAcross(diameter, zoom) / 2;
+    // The hotspot cell's top-left corner, as the loupe centres it.
+    const QPoint hotCell = lens + QPoint((diameter - zoom) / 2, (diameter - zoom) / 2);
+    int checked = 0, wrong = 0;
+    for (int j = -half; j <= half; ++j) {
+        for (int i = -half; i <= half; ++i) {
+            const QPoint cell = hotCell + QPoint(i * zoom, j * zoom);
+            // Only cells wholly inside the round lens, clear of its rim.
+            const QPointF middle = QPointF(cell) + QPointF(zoom / 2.0, zoom / 2.0);
+            const QPointF offset = middle - QPointF(lensCentre);
+            if (std::hypot(offset.x(), offset.y()) + zoom * 0.75 > diameter / 2.0 - 3)
+                continue;
+            const QPoint source = hotspot + QPoint(i, j);
+            const QRgb expected =
+                shot.rect().contains(source) ? patternAt(source.x(), source.y()) : qRgb(0, 0, 0);
+            // Past the grid line on the first row and column and clear of the hotspot's frame.
+            const QPoint insides[] = {QPoint(3, 3), QPoint(zoom / 2, zoom / 2), QPoint(zoom - 3, zoom - 3)};
+            for (const QPoint inside : insides) {
+                ++checked;
+                const QRgb actual = shot.pixel(cell + inside) | 0xff000000u;
+                if (actual == expected)
+                    continue;
+                if (++wrong <= 5)
+                    std::printf("cell (%d, %d) at %d,%d shows %s, expected %s\n", i, j, (cell + inside).x(),
+                                (cell + inside).y(), qPrintable(QColor(actual).name()),
+                                qPrintable(QColor(expected).name()));
+            }
+        }
+    }
+    std::printf("%d of %d loupe pixels wrong\n", wrong, checked);
+    return wrong == 0 && checked > 0 ? 0 : 1;
+}
 
 class Target : public QWidget {
 public:
@@ -87,8 +194,15 @@ int main(int argc, char **argv)
 {
     if (argc == 3 && QByteArray(argv[1]) == "wait-grab")
         return waitForGrab(std::atof(argv[2]));
+    if (argc == 2 && QByteArray(argv[1]) == "pattern")
+        return paintPattern();
+    if (argc == 5 && QByteArray(argv[1]) == "check-loupe") {
+        QGuiApplication app(argc, argv); // fonts, for the size of the loupe's text
+        return checkLoupe(QString::fromLocal8Bit(argv[2]), QPoint(std::atoi(argv[3]), std::atoi(argv[4])));
+    }
     if (argc != 9 || QByteArray(argv[1]) != "target") {
-        std::fprintf(stderr, "usage: %s target X Y W H LEFT RIGHT FILE | wait-grab SECONDS\n", argv[0]);
+        std::fprintf(stderr, "usage: %s target X Y W H LEFT RIGHT FILE | wait-grab SECONDS | pattern"
+                             " | check-loupe SHOT HX HY\n", argv[0]);
         return 2;
     }
     QApplication app(argc, argv);

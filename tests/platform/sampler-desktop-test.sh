@@ -72,6 +72,31 @@ finish_pick 0
 
 [[ ! -s "$work/presses" ]] || fail "clicks reached the window beneath: $(cat "$work/presses")"
 
+# The loupe magnifies the frozen desktop pixel for pixel. The pattern is painted the way most X
+# clients store pixels (their undefined top byte zero); every cell must show its own pixel, not
+# a blend with the desktop beneath the loupe. Checked where the pick starts, after the pointer
+# moves (the old and new place are painted again), and at the corner, where the loupe flips and
+# the cells beyond the screen are black.
+"$helper" pattern || fail "could not paint the pattern on the root window"
+# expect_loupe HX HY: waits until a screenshot shows the right loupe for that hotspot.
+expect_loupe() {
+    for _ in $(seq 40); do
+        import -window root "$work/shot.png" 2>/dev/null || true
+        "$helper" check-loupe "$work/shot.png" "$1" "$2" >"$work/check" 2>&1 && return 0
+        sleep 0.1
+    done
+    fail "the loupe at $1,$2 does not show the magnified desktop: $(cat "$work/check")"
+}
+xdotool mousemove 700 500
+start_pick hex
+expect_loupe 700 500
+xdotool mousemove 905 333
+expect_loupe 905 333
+xdotool mousemove 1277 797
+expect_loupe 1277 797
+xdotool key Escape
+finish_pick 1
+
 # Without --print the running Vantle is asked to pick; with none running, the command says so.
 status=0
 "$vantle" pick 2>"$work/err" >/dev/null || status=$?

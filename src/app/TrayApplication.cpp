@@ -7,7 +7,7 @@
 #include "hotkeys/GlobalShortcutBackend.h"
 #include "platform/AppearanceMonitor.h"
 #include "platform/GlobalShortcutBackendChooser.h"
-#include "platform/QtClipboard.h"
+#include "platform/ClipboardFactory.h"
 #include "platform/ScreenSamplerFactory.h"
 #include "screens/DialogUpdateInterface.h"
 #include "services/SettingsStore.h"
@@ -75,7 +75,7 @@ int runTrayApplication()
     // The facilities, each chosen once for this session, then the delegate that uses them.
     SettingsStore store(SettingsStore::standardFilePath());
     std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(store);
-    QtClipboard clipboard;
+    std::unique_ptr<Clipboard> clipboard = makeClipboard();
     CopyHud confirmation;
     FileExportDialogs exportDialogs;
     std::unique_ptr<GlobalShortcutBackend> shortcuts = createGlobalShortcutBackend();
@@ -85,7 +85,7 @@ int runTrayApplication()
     QNetworkAccessManager network;
     DialogUpdateInterface updateInterface;
 
-    AppDelegate delegate({store, *sampler, clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
+    AppDelegate delegate({store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
                           appearance, network, updateInterface});
     QObject::connect(instance.get(), &InstanceServer::pickRequested, &delegate, &AppDelegate::pickColor,
                      Qt::QueuedConnection);

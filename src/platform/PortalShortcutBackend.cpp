@@ -48,6 +48,10 @@ PortalShortcutBackend::PortalShortcutBackend(const QDBusConnection &bus, QObject
 {
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<QList<PortalShortcut>>();
+    // QtDBus looks the slot's parameter types up by name, and Qt registers a type's name only when
+    // its id is first asked for: until something has used QDBusObjectPath, the subscription below
+    // fails (returns false) and no press would ever arrive.
+    qRegisterMetaType<QDBusObjectPath>();
     m_bus.connect(portalService, portalPath, shortcutsInterface, QStringLiteral("Activated"), this,
         SLOT(onActivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
 }

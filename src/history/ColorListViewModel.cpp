@@ -125,9 +125,12 @@ void ColorListViewModel::copyColor(const PickedColor &color, ColorFormat format)
 
 void ColorListViewModel::copyText(const QString &text)
 {
-    // Never confirm a copy the clipboard refused.
+    // Never confirm a copy the clipboard refused; say plainly that it did not happen (a Wayland
+    // desktop without a clipboard Vantle may set), the colour stays in the history.
     if (m_clipboard.setText(text))
         m_confirmation.showHUD(copiedMessage(text));
+    else
+        m_confirmation.showHUD(QStringLiteral("Not copied: the clipboard is not available"));
 }
 
 qsizetype ColorListViewModel::indexOf(const QUuid &id) const

@@ -16,5 +16,7 @@ inline const QString popoverModifiers = QStringLiteral("popoverModifiers");
 inline const QString popoverKeyChar = QStringLiteral("popoverKeyChar");
 inline const QString onboardingShown = QStringLiteral("onboardingShown");
 inline const QString automaticallyUpdate = QStringLiteral("SUAutomaticallyUpdate");
+// The release the user chose to skip; background checks stay quiet about it.
+inline const QString skippedUpdateVersion = QStringLiteral("SUSkippedVersion");
 inline const QString colorHistory = QStringLiteral("colorHistory");
 } // namespace PreferenceKeys

@@ -1,5 +1,5 @@
-#include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
+#include "services/PreferenceKeys.h"
 #include "services/SettingsViewModel.h"
 #include "support/TempSettings.h"
 
@@ -67,8 +67,9 @@ TEST(SettingsStore, PreferredFormatFallsBackToHex)
     const struct {
         const char *stored;
         ColorFormat expected;
-    } cases[] = {{"HSL", ColorFormat::hsl}, {"RGB (decimal)", ColorFormat::rgbDecimal}, {"hex", ColorFormat::hex},
-                 {"hsl", ColorFormat::hex}, {"", ColorFormat::hex}, {"Nonsense", ColorFormat::hex}};
+    } cases[] = { { "HSL", ColorFormat::hsl }, { "RGB (decimal)", ColorFormat::rgbDecimal },
+        { "hex", ColorFormat::hex }, { "hsl", ColorFormat::hex }, { "", ColorFormat::hex },
+        { "Nonsense", ColorFormat::hex } };
     for (const auto &c : cases) {
         t.store->setString(colorFormat, QString::fromUtf8(c.stored));
         EXPECT_EQ(SettingsViewModel::currentFormat(*t.store), c.expected) << c.stored;
@@ -94,7 +95,7 @@ TEST(SettingsStore, CorruptFileIsKeptAsideAndReadsAsMissing)
     t.store.reset();
     const QByteArray corrupt("\xff\xfe garbage [General\nhistoryLimit=abc\nshowColorDot=yes\npickKeyCode=12\n"
                              "colorHistory=not data\n\x00\x01\x02=\n[[[\n",
-                             80);
+        80);
     {
         QFile f(t.filePath());
         ASSERT_TRUE(f.open(QIODevice::WriteOnly));
@@ -106,7 +107,7 @@ TEST(SettingsStore, CorruptFileIsKeptAsideAndReadsAsMissing)
     EXPECT_EQ(t.store->integerForKey(historyLimit), 0) << "unreadable number";
     EXPECT_EQ(SettingsViewModel::currentFormat(*t.store), ColorFormat::hex);
     // The original bytes are kept aside before anything rewrites the file.
-    const QStringList aside = QDir(t.dir.path()).entryList({QStringLiteral("Vantle.conf.unreadable-*")});
+    const QStringList aside = QDir(t.dir.path()).entryList({ QStringLiteral("Vantle.conf.unreadable-*") });
     ASSERT_EQ(aside.size(), 1);
     QFile kept(t.dir.filePath(aside.first()));
     ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
@@ -126,7 +127,9 @@ TEST(SettingsStore, UnwritableFolderKeepsValuesInMemoryAndTheOldFile)
     EXPECT_FALSE(t.store->setInteger(historyLimit, 100));
     EXPECT_EQ(t.store->integerForKey(historyLimit), 100);
     EXPECT_EQ(t.reopen()->integerForKey(historyLimit), 20);
-    QFile::setPermissions(t.dir.path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QFile::setPermissions(
+        t.dir.path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     EXPECT_TRUE(t.store->setBool(showColorDot, true));
-    EXPECT_EQ(t.reopen()->integerForKey(historyLimit), 100) << "the next save that can succeed writes everything";
+    EXPECT_EQ(t.reopen()->integerForKey(historyLimit), 100)
+        << "the next save that can succeed writes everything";
 }

@@ -1,0 +1,256 @@
+#include "services/AppcastUpdater.h"
+
+#include "services/BoundedFetch.h"
+#include "services/DownloadFileName.h"
+#include "services/PreferenceKeys.h"
+#include "services/SettingsStore.h"
+#include "services/UpdateSignature.h"
+#include "services/UpdateUserInterface.h"
+
+#include <QDir>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+
+AppcastUpdater::AppcastUpdater(SettingsStore &store, QNetworkAccessManager &network, UpdateUserInterface &ui,
+    UpdateBundle bundle, QObject *parent)
+    : QObject(parent)
+    , m_store(store)
+    , m_network(network)
+    , m_ui(ui)
+    , m_bundle(std::move(bundle))
+{
+    m_nextCheck.setSingleShot(true);
+    connect(&m_nextCheck, &QTimer::timeout, this, &AppcastUpdater::runBackgroundCheck);
+}
+
+AppcastUpdater::~AppcastUpdater()
+{
+    // A half-written download is not left behind when the program quits.
+    if (m_download) {
+        m_download->cancelled = true;
+        if (m_download->reply) {
+            m_download->reply->disconnect(this);
+            m_download->reply->abort();
+        }
+        m_download->file.remove();
+    }
+    if (m_feedReply)
+        m_feedReply->abort();
+}
+
+void AppcastUpdater::setAutomaticallyDownloadsUpdates(bool automatic)
+{
+    m_automatic = automatic;
+    if (!automatic)
+        m_nextCheck.stop();
+    else if (m_started && !m_nextCheck.isActive() && canCheckForUpdates())
+        scheduleNextCheck();
+}
+
+void AppcastUpdater::startUpdater()
+{
+    if (m_started)
+        return;
+    m_started = true;
+    if (m_automatic)
+        runBackgroundCheck();
+}
+
+void AppcastUpdater::scheduleNextCheck()
+{
+    if (m_started && m_automatic)
+        m_nextCheck.start(m_bundle.checkInterval);
+}
+
+void AppcastUpdater::runBackgroundCheck()
+{
+    const QUrl url(m_bundle.feedUrl, QUrl::StrictMode);
+    if (!m_automatic || !canCheckForUpdates() || !url.isValid() || url.host().isEmpty())
+        return scheduleNextCheck();
+    beginCheck();
+    m_feedReply = BoundedFetch::get(m_network, url, m_bundle.transferTimeout, BoundedFetch::maximumFeedSize,
+        this, [this](const BoundedFetch::Result &result) {
+            endCheck();
+            std::optional<AppcastItem> update;
+            if (result.ok && result.status == 200)
+                update = Appcast::newestUpdate(result.body, m_bundle.version);
+            const auto skipped = m_store.stringForKey(PreferenceKeys::skippedUpdateVersion);
+            if (update && m_automatic && (!skipped || *skipped != update->version))
+                startDownload(*update, true);
+            else
+                scheduleNextCheck();
+        });
+}
+
+void AppcastUpdater::presentUpdate(const QByteArray &feed)
+{
+    const std::optional<AppcastItem> update = Appcast::newestUpdate(feed, m_bundle.version);
+    if (!update) {
+        m_ui.showUpToDate(m_bundle.name, m_bundle.version);
+        return;
+    }
+    beginCheck(); // no second check while the user decides
+    const UpdateUserInterface::Choice choice = m_ui.askAboutUpdate(*update, m_bundle.name, m_bundle.version);
+    endCheck();
+    switch (choice) {
+    case UpdateUserInterface::Choice::download:
+        if (canCheckForUpdates())
+            startDownload(*update, false);
+        break;
+    case UpdateUserInterface::Choice::skipThisVersion:
+        m_store.setString(PreferenceKeys::skippedUpdateVersion, update->version);
+        break;
+    case UpdateUserInterface::Choice::remindLater:
+        break;
+    }
+}
+
+void AppcastUpdater::beginCheck()
+{
+    if (++m_busyCount == 1)
+        Q_EMIT canCheckForUpdatesChanged(false);
+}
+
+void AppcastUpdater::endCheck()
+{
+    if (m_busyCount > 0 && --m_busyCount == 0)
+        Q_EMIT canCheckForUpdatesChanged(true);
+}
+
+void AppcastUpdater::startDownload(const AppcastItem &update, bool automatic)
+{
+    // Without a key nothing can be told apart from a forged file, so nothing is fetched.
+    if (m_bundle.publicKey.trimmed().isEmpty()) {
+        if (!automatic)
+            m_ui.showDownloadFailed(
+                tr("This copy of %1 has no key to verify updates with, so version %2 was not "
+                   "downloaded. Please get it from the %1 website.")
+                    .arg(m_bundle.name, update.displayVersion));
+        return scheduleNextCheck();
+    }
+
+    auto download = std::make_unique<Download>();
+    download->update = update;
+    download->automatic = automatic;
+    QDir().mkpath(m_bundle.downloadFolder);
+    const QString fallback = QStringLiteral("%1-%2.update").arg(m_bundle.name, update.version);
+    const QString name = DownloadFileName::safeFileName(
+        update.downloadUrl, DownloadFileName::safeFileName(QUrl(fallback), QStringLiteral("update")));
+    download->file.setFileName(DownloadFileName::unusedPath(m_bundle.downloadFolder, name));
+    // NewOnly: even a file that appeared a moment ago is never overwritten.
+    if (!download->file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        if (!automatic)
+            m_ui.showDownloadFailed(tr("The update could not be saved in %1.")
+                                        .arg(QDir::toNativeSeparators(m_bundle.downloadFolder)));
+        return scheduleNextCheck();
+    }
+
+    QNetworkRequest request(update.downloadUrl);
+    BoundedFetch::prepareRequest(request, m_bundle.transferTimeout);
+    download->reply = m_network.get(request);
+    QNetworkReply *reply = download->reply;
+    m_download = std::move(download);
+    beginCheck();
+
+    connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
+        Download &d = *m_download;
+        const QByteArray chunk = reply->readAll();
+        // A body longer than the feed promised is cut off at once instead of filling the disk.
+        if (d.file.size() + chunk.size() > d.update.length) {
+            d.tooLong = true;
+            reply->abort();
+            return;
+        }
+        if (d.file.write(chunk) != chunk.size()) {
+            d.writeFailed = true;
+            reply->abort();
+        }
+    });
+    if (!automatic) {
+        connect(reply, &QNetworkReply::downloadProgress, this, [this](qint64 received, qint64) {
+            m_ui.downloadProgressed(received, m_download->update.length);
+        });
+        m_ui.downloadStarted(update, [guard = QPointer<AppcastUpdater>(this), reply] {
+            if (guard && guard->m_download && guard->m_download->reply == reply)
+                guard->cancelDownload();
+        });
+    }
+    connect(reply, &QNetworkReply::finished, this, &AppcastUpdater::finishDownload);
+}
+
+void AppcastUpdater::cancelDownload()
+{
+    m_download->cancelled = true;
+    m_download->reply->abort();
+}
+
+void AppcastUpdater::finishDownload()
+{
+    std::unique_ptr<Download> d = std::move(m_download);
+    QNetworkReply *reply = d->reply;
+    reply->deleteLater();
+    if (!d->tooLong && !d->writeFailed && !d->cancelled && reply->bytesAvailable() > 0) {
+        const QByteArray rest = reply->readAll();
+        if (d->file.size() + rest.size() > d->update.length)
+            d->tooLong = true;
+        else if (d->file.write(rest) != rest.size())
+            d->writeFailed = true;
+    }
+    const bool flushed = d->file.flush();
+    d->file.close();
+    endCheck();
+    if (!d->automatic)
+        m_ui.downloadEnded();
+
+    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    QString failure;
+    if (d->cancelled) {
+        d->file.remove();
+    } else if (d->tooLong) {
+        failure = verificationFailure(int(UpdateSignature::Verdict::wrongLength));
+    } else if (d->writeFailed || !flushed) {
+        failure = tr("The update could not be saved in %1, so the partial file was deleted.")
+                      .arg(QDir::toNativeSeparators(m_bundle.downloadFolder));
+    } else if (reply->error() != QNetworkReply::NoError || status != 200) {
+        failure = tr("The update could not be downloaded, so the partial file was deleted.");
+    } else {
+        const auto verdict = UpdateSignature::verifyFile(
+            d->file.fileName(), d->update.length, d->update.edSignature, m_bundle.publicKey);
+        if (verdict != UpdateSignature::Verdict::verified)
+            failure = verificationFailure(int(verdict));
+    }
+
+    if (!failure.isEmpty()) {
+        d->file.remove();
+        // Quiet background checks still speak up when a file was refused: that may be an attack.
+        const bool networkOnly = reply->error() != QNetworkReply::NoError && !d->tooLong;
+        if (!d->automatic || !networkOnly)
+            m_ui.showDownloadFailed(failure);
+    } else if (!d->cancelled) {
+        m_ui.showDownloadReady(d->update, d->file.fileName(), d->automatic);
+    }
+    scheduleNextCheck();
+}
+
+QString AppcastUpdater::verificationFailure(int verdict) const
+{
+    switch (UpdateSignature::Verdict(verdict)) {
+    case UpdateSignature::Verdict::noPublicKey:
+        return tr(
+            "This copy of %1 has no usable key to verify updates with, so the downloaded file was deleted. "
+            "Please get the new version from the %1 website.")
+            .arg(m_bundle.name);
+    case UpdateSignature::Verdict::wrongLength:
+        return tr("The downloaded file does not have the size the update feed announced, so it was deleted.");
+    case UpdateSignature::Verdict::badSignature:
+        return tr(
+            "The downloaded file does not carry a valid signature from the maker of %1, so it was deleted.")
+            .arg(m_bundle.name);
+    case UpdateSignature::Verdict::unreadable:
+        return tr("The downloaded file could not be read back for checking, so it was deleted.");
+    case UpdateSignature::Verdict::verified:
+        break;
+    }
+    return {};
+}

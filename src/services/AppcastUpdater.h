@@ -1,0 +1,79 @@
+#pragma once
+
+#include "services/Appcast.h"
+#include "services/UpdateBundle.h"
+
+#include <QFile>
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+#include <memory>
+
+class QNetworkAccessManager;
+class QNetworkReply;
+class SettingsStore;
+class UpdateUserInterface;
+
+// The program's own update framework: reads the appcast, offers the newest release, downloads
+// it into the download folder and checks its length and signature before anyone may open it.
+// Nothing is ever installed behind the user's back; a verified file is only offered.
+//
+// While updates download automatically, a quiet check runs when the updater starts and once a
+// day after that (one single-shot timer; nothing runs in between). Everything on the main
+// thread; the network work is asynchronous.
+class AppcastUpdater : public QObject {
+    Q_OBJECT
+public:
+    AppcastUpdater(SettingsStore &store, QNetworkAccessManager &network, UpdateUserInterface &ui,
+        UpdateBundle bundle, QObject *parent = nullptr);
+    ~AppcastUpdater() override;
+
+    // False while a check or a download runs.
+    bool canCheckForUpdates() const { return m_busyCount == 0; }
+
+    void setAutomaticallyDownloadsUpdates(bool automatic);
+    bool automaticallyDownloadsUpdates() const { return m_automatic; }
+
+    // Starts the background checks (when automatic downloads are on). Called once at launch.
+    void startUpdater();
+
+    // The user asked, and `feed` is the appcast just fetched: show the newest release (or that
+    // there is none) and act on the user's choice.
+    void presentUpdate(const QByteArray &feed);
+
+    // Marks the updater busy around a check done on its behalf (the controller's own fetch).
+    void beginCheck();
+    void endCheck();
+
+Q_SIGNALS:
+    void canCheckForUpdatesChanged(bool canCheck);
+
+private:
+    void scheduleNextCheck();
+    void runBackgroundCheck();
+    void startDownload(const AppcastItem &update, bool automatic);
+    void finishDownload();
+    void cancelDownload();
+    QString verificationFailure(int verdict) const;
+
+    SettingsStore &m_store;
+    QNetworkAccessManager &m_network;
+    UpdateUserInterface &m_ui;
+    const UpdateBundle m_bundle;
+    bool m_automatic = true;
+    bool m_started = false;
+    int m_busyCount = 0;
+    QTimer m_nextCheck;
+    QPointer<QNetworkReply> m_feedReply;
+
+    struct Download {
+        AppcastItem update;
+        bool automatic = false;
+        bool cancelled = false;
+        bool tooLong = false;
+        bool writeFailed = false;
+        QFile file;
+        QPointer<QNetworkReply> reply;
+    };
+    std::unique_ptr<Download> m_download;
+};

@@ -1,0 +1,75 @@
+#include "screens/DialogUpdateInterface.h"
+
+#include "ModalAnswer.h"
+#include "services/Appcast.h"
+
+#include <QProgressBar>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <gtest/gtest.h>
+
+namespace {
+
+AppcastItem release()
+{
+    AppcastItem item;
+    item.version = QStringLiteral("142");
+    item.displayVersion = QStringLiteral("1.4");
+    item.releaseNotes = QStringLiteral("<ul><li>Faster picking</li></ul>");
+    return item;
+}
+
+QProgressDialog *progressDialog()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *dialog = qobject_cast<QProgressDialog *>(widget); dialog && dialog->isVisible())
+            return dialog;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+TEST(DialogUpdateInterface, UpdateOfferReturnsTheButtonThePersonChose)
+{
+    using Choice = UpdateUserInterface::Choice;
+    const struct {
+        const char *answer;
+        Choice choice;
+    } rows[] = {
+        { "Download", Choice::download },
+        { "Remind Me Later", Choice::remindLater },
+        { "Skip This Version", Choice::skipThisVersion },
+        { "Escape", Choice::remindLater },
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.answer);
+        DialogUpdateInterface ui;
+        ModalAnswer answer { QString::fromLatin1(row.answer) };
+        EXPECT_EQ(ui.askAboutUpdate(release(), QStringLiteral("Vantle"), QStringLiteral("1.0")), row.choice);
+        EXPECT_TRUE(answer.texts.join(u'\n').contains(QStringLiteral("Vantle 1.4 is now available")))
+            << answer.texts.join(u'\n').toStdString();
+    }
+}
+
+TEST(DialogUpdateInterface, ProgressOfLargeDownloadsAndCancel)
+{
+    DialogUpdateInterface ui;
+    int cancels = 0;
+    ui.downloadStarted(release(), [&] {
+        ++cancels;
+        ui.downloadEnded(); // the updater answers a cancel at once
+    });
+    QProgressDialog *dialog = progressDialog();
+    ASSERT_NE(dialog, nullptr);
+
+    // Byte counts beyond the int range still give the right share.
+    ui.downloadProgressed(qint64(6) << 30, qint64(12) << 30);
+    EXPECT_EQ(dialog->findChild<QProgressBar *>()->text(), QStringLiteral("50%"));
+
+    QTest::mouseClick(dialog->findChild<QPushButton *>(), Qt::LeftButton);
+    EXPECT_EQ(cancels, 1);
+    EXPECT_EQ(progressDialog(), nullptr);
+    ui.downloadEnded(); // a late end is harmless
+    EXPECT_EQ(cancels, 1);
+}

@@ -1,0 +1,314 @@
+#include "screens/SettingsWindow.h"
+#include "screens/SettingsView.h"
+
+#include "ModalAnswer.h"
+
+#include "history/ColorListViewModel.h"
+#include "hotkeys/FakeShortcutBackend.h"
+#include "hotkeys/HotkeyManager.h"
+#include "hotkeys/HotkeyRecorderView.h"
+#include "services/LoginItemService.h"
+#include "services/PreferenceKeys.h"
+#include "services/SettingsViewModel.h"
+#include "services/UpdateUserInterface.h"
+#include "services/UpdaterController.h"
+#include "support/HistoryFakes.h"
+#include "support/TempSettings.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QNetworkAccessManager>
+#include <QPointer>
+#include <QPushButton>
+#include <QTcpServer>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+using namespace PreferenceKeys;
+
+namespace {
+
+class FakeLoginItemService : public LoginItemService {
+public:
+    bool isEnabled() const override { return enabled; }
+    bool registerItem() override { return change(true); }
+    bool unregisterItem() override { return change(false); }
+    bool change(bool on)
+    {
+        if (!accepts)
+            return false;
+        enabled = on;
+        return true;
+    }
+    bool enabled = false;
+    bool accepts = true;
+};
+
+class QuietUpdateInterface : public UpdateUserInterface {
+public:
+    void showUpToDate(const QString &, const QString &) override { ++upToDateCount; }
+    Choice askAboutUpdate(const AppcastItem &, const QString &, const QString &) override
+    {
+        return Choice::remindLater;
+    }
+    void downloadStarted(const AppcastItem &, std::function<void()>) override { }
+    void downloadProgressed(qint64, qint64) override { }
+    void downloadEnded() override { }
+    void showDownloadFailed(const QString &) override { }
+    void showDownloadReady(const AppcastItem &, const QString &, bool) override { }
+    int upToDateCount = 0;
+};
+
+UpdateBundle offlineBundle()
+{
+    UpdateBundle bundle;
+    bundle.name = QStringLiteral("Vantle");
+    bundle.version = QStringLiteral("1.0");
+    return bundle;
+}
+
+// Everything the settings window is handed by the application shell, with test stand-ins for the
+// desktop facilities.
+struct Shell {
+    explicit Shell(UpdateBundle bundle = offlineBundle())
+    {
+        SettingsViewModel::registerDefaults(store());
+        model
+            = std::make_unique<ColorListViewModel>(store(), sampler, clipboard, confirmation, exportDialogs);
+        updater = std::make_unique<UpdaterController>(store(), network, updateUi, bundle);
+        window = std::make_unique<SettingsWindow>(store(), hotkeys, loginItems, *updater, model.get());
+    }
+    SettingsStore &store() { return *settings.store; }
+
+    void pick(int count, bool pinned = false)
+    {
+        for (int i = 0; i < count; ++i) {
+            model->pickColor();
+            sampler.finish(i / 255.0, pinned ? 1.0 : 0.0, 0.5);
+            if (pinned)
+                model->togglePin(model->colors().first());
+        }
+    }
+
+    SettingsView *open()
+    {
+        window->open();
+        return window->view();
+    }
+
+    TempSettings settings;
+    FakeScreenColorSampler sampler;
+    FakeClipboard clipboard;
+    FakeCopyConfirmation confirmation;
+    FakeExportDialogs exportDialogs;
+    FakeShortcutBackend backend;
+    HotkeyManager hotkeys { *settings.store, backend };
+    FakeLoginItemService loginItems;
+    QNetworkAccessManager network;
+    QuietUpdateInterface updateUi;
+    std::unique_ptr<ColorListViewModel> model;
+    std::unique_ptr<UpdaterController> updater;
+    std::unique_ptr<SettingsWindow> window;
+};
+
+void choose(QComboBox *picker, const QString &text)
+{
+    const int index = picker->findText(text);
+    ASSERT_GE(index, 0) << text.toStdString();
+    picker->setCurrentIndex(index);
+    Q_EMIT picker->activated(index);
+}
+
+// On the box itself: a check box reacts only to clicks on its indicator and text.
+void clickBox(QCheckBox *box)
+{
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+}
+
+} // namespace
+
+TEST(SettingsView, LoweringTheHistoryLimitAsksBeforeRemovingColors)
+{
+    struct Row {
+        const char *what;
+        int recent;
+        qint64 limit;
+        const char *choice;
+        const char *answer; // nullptr: no box expected
+        QString message;
+        qint64 storedLimit;
+        int recentAfter;
+    };
+    const Row rows[] = {
+        { "ten colours, continue", 30, 50, "20", "Continue",
+            QStringLiteral("This will remove the oldest 10 colors."), 20, 20 },
+        { "ten colours, cancel", 30, 50, "20", "Cancel",
+            QStringLiteral("This will remove the oldest 10 colors."), 50, 30 },
+        { "ten colours, escape", 30, 50, "20", "Escape",
+            QStringLiteral("This will remove the oldest 10 colors."), 50, 30 },
+        { "one colour is singular", 21, 50, "20", "Continue",
+            QStringLiteral("This will remove the oldest 1 color."), 20, 20 },
+        { "nothing to remove", 20, 50, "20", nullptr, {}, 20, 20 },
+        { "raising", 30, 50, "100", nullptr, {}, 100, 30 },
+        { "raising from a hand-written limit", 40, 40, "50", nullptr, {}, 50, 40 },
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.what);
+        Shell shell;
+        shell.store().setInteger(historyLimit, row.limit);
+        shell.pick(3, true);
+        shell.pick(row.recent);
+        ASSERT_EQ(shell.model->recentColors().size(), row.recent);
+        SettingsView *view = shell.open();
+
+        ModalAnswer alert(QString::fromLatin1(row.answer ? row.answer : "Cancel"));
+        choose(view->historyLimitPicker(), QString::fromLatin1(row.choice));
+
+        EXPECT_EQ(alert.wasShown, row.answer != nullptr);
+        if (row.answer) {
+            EXPECT_EQ(alert.texts.value(0), QStringLiteral("Reduce History"));
+            EXPECT_TRUE(alert.texts.contains(row.message)) << alert.texts.join(u'|').toStdString();
+        }
+        EXPECT_EQ(shell.store().integerForKey(historyLimit), row.storedLimit);
+        EXPECT_EQ(view->historyLimitPicker()->currentText(), QString::number(row.storedLimit));
+        EXPECT_EQ(shell.model->recentColors().size(), row.recentAfter);
+        EXPECT_EQ(shell.model->pinnedColors().size(), 3) << "pinned colours never go";
+    }
+}
+
+TEST(SettingsView, PickersShowStoredValuesThatNameNoEntry)
+{
+    Shell shell;
+    shell.store().setString(colorFormat, QStringLiteral("Teal"));
+    shell.store().setInteger(historyLimit, 40);
+    SettingsView *view = shell.open();
+
+    EXPECT_EQ(view->formatPicker()->currentText(), QStringLiteral("Hex"));
+    EXPECT_EQ(view->formatPicker()->count(), 9);
+    choose(view->formatPicker(), QStringLiteral("RGB (decimal)"));
+    EXPECT_EQ(shell.store().stringForKey(colorFormat), QStringLiteral("RGB (decimal)"));
+
+    QStringList limits;
+    for (int i = 0; i < view->historyLimitPicker()->count(); ++i)
+        limits << view->historyLimitPicker()->itemText(i);
+    EXPECT_EQ(limits, QStringList({ "20", "40", "50", "100" }));
+    EXPECT_EQ(view->historyLimitPicker()->currentText(), QStringLiteral("40"));
+}
+
+TEST(SettingsView, LaunchAtLoginFollowsTheRealLoginItem)
+{
+    Shell shell;
+    shell.store().setBool(launchAtLogin, true); // the preference says yes, the desktop says no
+    SettingsView *view = shell.open();
+    EXPECT_FALSE(view->launchAtLoginToggle()->isChecked());
+    EXPECT_FALSE(shell.store().boolForKey(launchAtLogin));
+
+    clickBox(view->launchAtLoginToggle());
+    EXPECT_TRUE(shell.loginItems.enabled);
+    EXPECT_TRUE(shell.store().boolForKey(launchAtLogin));
+
+    // A refused change moves the toggle back to the truth.
+    shell.loginItems.accepts = false;
+    clickBox(view->launchAtLoginToggle());
+    EXPECT_TRUE(shell.loginItems.enabled);
+    EXPECT_TRUE(view->launchAtLoginToggle()->isChecked());
+    EXPECT_TRUE(shell.store().boolForKey(launchAtLogin));
+}
+
+TEST(SettingsView, RecordedShortcutIsRegisteredWithTheDesktop)
+{
+    Shell shell;
+    shell.store().setInteger(pickKeyCode, 8);
+    shell.store().setInteger(pickModifiers, 655360);
+    shell.hotkeys.reregisterAll();
+    SettingsView *view = shell.open();
+
+    QTest::mouseClick(view->popoverRecorder()->field(), Qt::LeftButton);
+    ASSERT_TRUE(view->popoverRecorder()->isRecording());
+    EXPECT_TRUE(shell.backend.registered.isEmpty()) << "no grab may take the press being recorded";
+
+    shell.backend.calls.clear();
+    QKeyEvent press(
+        QEvent::KeyPress, Qt::Key_P, Qt::ControlModifier | Qt::AltModifier, 33, 0, 0, QStringLiteral("p"));
+    QApplication::sendEvent(view->popoverRecorder()->field(), &press);
+
+    EXPECT_FALSE(view->popoverRecorder()->isRecording());
+    ASSERT_EQ(shell.backend.registered.size(), 2);
+    EXPECT_EQ(shell.backend.registered.last().id, HotkeyManager::popoverId);
+    EXPECT_EQ(qint64(shell.backend.registered.last().keyCode), shell.store().integerForKey(popoverKeyCode));
+    EXPECT_EQ(shell.backend.registered.last().modifiers, 262144 + 524288);
+
+    // Clearing the pick shortcut releases it at once.
+    QTest::mouseClick(view->pickRecorder()->clearButton(), Qt::LeftButton);
+    ASSERT_EQ(shell.backend.registered.size(), 1);
+    EXPECT_EQ(shell.backend.registered.first().id, HotkeyManager::popoverId);
+}
+
+TEST(SettingsView, CheckForUpdatesIsDisabledWhileACheckRuns)
+{
+    // A feed server that takes the connection and never answers keeps the check running.
+    QTcpServer silentFeed;
+    ASSERT_TRUE(silentFeed.listen(QHostAddress::LocalHost));
+    UpdateBundle bundle = offlineBundle();
+    bundle.feedUrl = QStringLiteral("http://127.0.0.1:%1/appcast.xml").arg(silentFeed.serverPort());
+    Shell shell(bundle);
+    SettingsView *view = shell.open();
+    view->setSelectedTab(SettingsView::aboutTab);
+    QPushButton *check = view->checkForUpdatesButton();
+    ASSERT_TRUE(check->isEnabled());
+
+    QTest::mouseClick(check, Qt::LeftButton);
+    EXPECT_FALSE(shell.updater->canCheckForUpdates());
+    EXPECT_FALSE(check->isEnabled());
+    EXPECT_EQ(shell.updateUi.upToDateCount, 0);
+}
+
+TEST(SettingsView, SecondaryTextFollowsASwitchToDark)
+{
+    Shell shell;
+    SettingsView *view = shell.open();
+    QLabel *caption = nullptr;
+    for (QLabel *label : view->findChildren<QLabel *>()) {
+        if (label->text() == QLatin1String("Pinned colors will be preserved."))
+            caption = label;
+    }
+    ASSERT_NE(caption, nullptr);
+    const QPalette light = QApplication::palette();
+    QPalette dark = light;
+    dark.setColor(QPalette::Window, QColor(0x20, 0x20, 0x20));
+    dark.setColor(QPalette::WindowText, QColor(0xF0, 0xF0, 0xF0));
+    QApplication::setPalette(dark);
+    QCoreApplication::sendPostedEvents();
+    const QColor tint = caption->palette().color(QPalette::WindowText);
+    QApplication::setPalette(light);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_GT(tint.lightness(), 200) << "still tinted for the light window";
+    EXPECT_LT(tint.alphaF(), 1.0) << "no longer secondary";
+}
+
+TEST(SettingsWindow, ReusedWhileVisibleAndRebuiltOnGeneralAfterClosing)
+{
+    Shell shell;
+    SettingsView *first = shell.open();
+    ASSERT_TRUE(first->isVisible());
+    EXPECT_EQ(first->windowTitle(), QStringLiteral("Vantle Settings"));
+    EXPECT_EQ(first->size(), QSize(450, 520));
+    EXPECT_EQ(first->minimumSize(), first->maximumSize()) << "not resizable";
+    first->setSelectedTab(SettingsView::moreTab);
+
+    EXPECT_EQ(shell.open(), first);
+    EXPECT_EQ(first->selectedTab(), int(SettingsView::moreTab));
+
+    QPointer<SettingsView> closed = first;
+    first->close();
+    SettingsView *second = shell.open();
+    EXPECT_TRUE(closed.isNull()) << "the closed window is replaced, not kept beside the new one";
+    EXPECT_TRUE(second->isVisible());
+    EXPECT_EQ(second->selectedTab(), int(SettingsView::generalTab));
+}

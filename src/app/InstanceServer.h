@@ -4,6 +4,7 @@
 #include <memory>
 
 class QLocalServer;
+class QLockFile;
 
 // Makes Vantle a single instance per user session and takes requests from other processes
 // (`vantle pick`, `vantle toggle`, a second `vantle` start).
@@ -38,6 +39,7 @@ private:
     void serveLocalSocket(std::unique_ptr<QLocalServer> server);
     void handleRequest(const QByteArray &request);
 
+    std::unique_ptr<QLockFile> m_socketLock; // before the server: released after it closes
     std::unique_ptr<QLocalServer> m_localServer;
     bool m_ownsBusName = false;
 };

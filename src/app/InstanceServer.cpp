@@ -6,13 +6,9 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QLocalServer>
 #include <QLocalSocket>
-#include <QLockFile>
 #include <QStandardPaths>
-#include <QThread>
-#include <signal.h>
 #include <unistd.h>
 
 namespace {
@@ -28,36 +24,13 @@ QByteArray socketWord(const QString &method)
     return method == u"Pick" ? QByteArrayLiteral("pick\n") : QByteArrayLiteral("toggle\n");
 }
 
-QString socketLockPath()
-{
-    return InstanceServer::socketPath() + QStringLiteral(".lock");
-}
-
-// An instance holds the socket's lock from its first moment, before it listens: one started
-// an instant ago is worth waiting for.
-bool isInstanceStarting()
-{
-    qint64 pid = 0;
-    QString hostName;
-    QString appName;
-    return QLockFile(socketLockPath()).getLockInfo(&pid, &hostName, &appName) && pid > 0
-        && ::kill(static_cast<pid_t>(pid), 0) == 0;
-}
-
 bool sendOverSocket(const QString &method, QString *error)
 {
     QLocalSocket socket;
-    QElapsedTimer waited;
-    waited.start();
-    for (;;) {
-        socket.connectToServer(InstanceServer::socketPath());
-        if (socket.waitForConnected(requestTimeoutMs))
-            break;
-        if (waited.elapsed() >= requestTimeoutMs || !isInstanceStarting()) {
-            *error = QStringLiteral("Vantle is not running.");
-            return false;
-        }
-        QThread::msleep(20);
+    socket.connectToServer(InstanceServer::socketPath());
+    if (!socket.waitForConnected(requestTimeoutMs)) {
+        *error = QStringLiteral("Vantle is not running.");
+        return false;
     }
     socket.write(socketWord(method));
     if (!socket.waitForBytesWritten(requestTimeoutMs) || !socket.waitForReadyRead(requestTimeoutMs)
@@ -92,17 +65,8 @@ std::unique_ptr<InstanceServer> InstanceServer::claim()
         return server;
     }
 
-    // No session bus: a socket of our own, guarded by a lock held for the whole life of the
-    // instance, so of two instances started at the same instant exactly one goes on. A lock
-    // whose process is gone is stale and taken over; a live one never expires.
+    // No session bus: a socket of our own. A live one means another instance answers there.
     const QString path = socketPath();
-    auto lock = std::make_unique<QLockFile>(socketLockPath());
-    lock->setStaleLockTime(0);
-    if (!lock->tryLock(0) && lock->error() == QLockFile::LockFailedError)
-        return nullptr;
-    if (lock->isLocked())
-        server->m_socketLock = std::move(lock);
-    // Without a lock (a folder we cannot write), a live socket still means another instance.
     QLocalSocket probe;
     probe.connectToServer(path);
     if (probe.waitForConnected(500))

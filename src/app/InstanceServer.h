@@ -4,7 +4,6 @@
 #include <memory>
 
 class QLocalServer;
-class QLockFile;
 
 // Makes Vantle a single instance per user session and takes requests from other processes
 // (`vantle pick`, `vantle toggle`, a second `vantle` start).
@@ -39,7 +38,6 @@ private:
     void serveLocalSocket(std::unique_ptr<QLocalServer> server);
     void handleRequest(const QByteArray &request);
 
-    std::unique_ptr<QLockFile> m_socketLock; // before the server: released after it closes
     std::unique_ptr<QLocalServer> m_localServer;
     bool m_ownsBusName = false;
 };

@@ -5,7 +5,8 @@ JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 PREFIX ?= /usr/local
 
-.PHONY: all build run test bench clean install package
+.PHONY: all build run test bench fuzz sanitize clean install package
+FUZZ_SECONDS ?= 300
 
 all: build
 
@@ -31,6 +32,24 @@ bench:
 	cmake -S . -B $(BUILD_DIR)/bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DVANTLE_BUILD_TESTS=OFF -DVANTLE_BUILD_BENCH=ON $(CMAKE_FLAGS)
 	cmake --build $(BUILD_DIR)/bench -j $(JOBS) --target sampler_bench
 	bench/run-bench.sh $(BUILD_DIR)/bench/bin/sampler_bench $(BUILD_DIR)/bench/results.md
+
+# Each fuzz target for FUZZ_SECONDS (clang libFuzzer, ASan, UBSan); results in build/fuzz/results.md.
+fuzz:
+	@scripts/ensure-deps.sh build fuzz
+	cmake -S . -B $(BUILD_DIR)/fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
+		-DVANTLE_FUZZ=ON -DVANTLE_BUILD_TESTS=OFF $(CMAKE_FLAGS)
+	cmake --build $(BUILD_DIR)/fuzz -j $(JOBS) --target fuzzers
+	scripts/run-fuzzers.sh $(BUILD_DIR)/fuzz/bin tests/fuzz/corpus $(BUILD_DIR)/fuzz $(FUZZ_SECONDS)
+
+# The whole test suite built with AddressSanitizer and UndefinedBehaviorSanitizer.
+sanitize:
+	@scripts/ensure-deps.sh build test
+	cmake -S . -B $(BUILD_DIR)/sanitize -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVANTLE_SANITIZE=ON $(CMAKE_FLAGS)
+	cmake --build $(BUILD_DIR)/sanitize -j $(JOBS)
+	ASAN_OPTIONS=detect_leaks=1:abort_on_error=1:strict_string_checks=1 \
+	LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitize/lsan.supp:print_suppressions=0 \
+	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
+		ctest --test-dir $(BUILD_DIR)/sanitize --output-on-failure -j $(JOBS)
 
 # The Debian package, written to $(BUILD_DIR)/vantle_<version>_<arch>.deb.
 package: build

@@ -63,7 +63,10 @@ std::optional<QString> writeExportFile(const QString &path, const QByteArray &co
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
-    if (file.write(content) != content.size()) {
+    // QSaveFile buffers: a write can "succeed" into memory and the disk's refusal only shows
+    // in the flush, which commit() does not report. Without this, a full disk turned the
+    // export into an empty file that replaced the old one.
+    if (file.write(content) != content.size() || !file.flush()) {
         const QString reason = file.errorString();
         file.cancelWriting();
         return reason;

@@ -28,11 +28,16 @@ double referenceDateNow()
 void appendJsonString(QByteArray &out, const QString &text)
 {
     static const char hex[] = "0123456789abcdef";
-    const QByteArray utf8 = text.toUtf8();
-    out.reserve(out.size() + utf8.size() + 2);
+    const auto appendEscape = [&out](char16_t unit) {
+        out.append("\\u");
+        for (int shift = 12; shift >= 0; shift -= 4)
+            out.append(hex[(unit >> shift) & 15]);
+    };
+    out.reserve(out.size() + text.size() + 2);
     out.append('"');
-    for (const char ch : utf8) {
-        const auto c = static_cast<unsigned char>(ch);
+    const qsizetype size = text.size();
+    for (qsizetype i = 0; i < size; ++i) {
+        const char16_t c = text[i].unicode();
         switch (c) {
         case '"': out.append("\\\""); break;
         case '\\': out.append("\\\\"); break;
@@ -44,11 +49,18 @@ void appendJsonString(QByteArray &out, const QString &text)
         case '\t': out.append("\\t"); break;
         default:
             if (c < 0x20) {
-                out.append("\\u00");
-                out.append(hex[c >> 4]);
-                out.append(hex[c & 15]);
+                appendEscape(c);
+            } else if (c < 0x80) {
+                out.append(char(c));
+            } else if (QChar::isHighSurrogate(c) && i + 1 < size && text[i + 1].isLowSurrogate()) {
+                out.append(QStringView(text).mid(i, 2).toUtf8());
+                ++i;
+            } else if (QChar::isSurrogate(c)) {
+                // Half of a pair alone has no UTF-8 form (it would turn into U+FFFD); the escape
+                // keeps it, so a name reads back exactly as it was saved.
+                appendEscape(c);
             } else {
-                out.append(ch);
+                out.append(QStringView(text).mid(i, 1).toUtf8());
             }
         }
     }

@@ -5,19 +5,57 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+// A history of 10,000 colours takes about 2 MB.
+constexpr qint64 largestReadableFileSize = 16 * 1024 * 1024;
+
+QString fileStamp()
+{
+    return QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+}
+
+// QSettings guards every write with "<file>.lock", which holds the writer's process id and,
+// while the writer lives, a file lock. A writer killed in the instant between creating that
+// file and writing its id leaves an empty one, which QSettings counts as stale only after 30
+// seconds: the program would hang that long at its next save. Empty and unlocked, it has no
+// owner left.
+void clearAbandonedLock(const QString &settingsPath)
+{
+    const QByteArray lockPath = QFile::encodeName(settingsPath + QStringLiteral(".lock"));
+    const int fd = ::open(lockPath.constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    struct stat info {};
+    const bool abandoned = ::fstat(fd, &info) == 0 && info.st_size == 0 && ::flock(fd, LOCK_EX | LOCK_NB) == 0;
+    ::close(fd);
+    if (abandoned)
+        ::unlink(lockPath.constData());
+}
+
+} // namespace
 
 SettingsStore::SettingsStore(const QString &filePath, QObject *parent)
     : QObject(parent)
     , m_filePath(filePath)
 {
     QDir().mkpath(QFileInfo(filePath).absolutePath());
+    if (QFileInfo(filePath).size() > largestReadableFileSize) {
+        // No file of ours comes near this size; parsing one would stall the launch for seconds.
+        // It goes aside whole (a rename, instant) and the program starts on fresh settings.
+        QFile::rename(filePath, filePath + QStringLiteral(".unreadable-") + fileStamp());
+    }
     open();
     m_settings->allKeys(); // QSettings parses sections lazily; parse all now to see errors
     if (m_settings->status() == QSettings::FormatError) {
         // The next write would replace the file with only what could be parsed: keep the
         // original bytes, which may hold the user's colours.
-        const QString stamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-        QFile::copy(filePath, filePath + QStringLiteral(".unreadable-") + stamp);
+        QFile::copy(filePath, filePath + QStringLiteral(".unreadable-") + fileStamp());
         // Rebuild a clean file from what could be read; a fresh QSettings also clears the
         // error status, which is sticky otherwise.
         for (const QString &key : m_settings->allKeys())
@@ -183,6 +221,7 @@ bool SettingsStore::flush()
     }
     // QSettings writes through a temporary file and a rename, so the file on disk is always
     // either the old or the new whole.
+    clearAbandonedLock(m_filePath);
     m_settings->sync();
     if (m_settings->status() == QSettings::NoError) {
         m_unsaved.clear();

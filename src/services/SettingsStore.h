@@ -20,7 +20,8 @@
 //   cannot reach the disk keeps the value in memory and reports false; the file is untouched,
 //   and the next write that succeeds carries every value not yet saved.
 // - A file that cannot be parsed is copied aside (Vantle.conf.unreadable-<UTC time>) before
-//   anything rewrites it; what could be read stays in use.
+//   anything rewrites it; what could be read stays in use. A file over 16 MB (none of ours
+//   comes near) is moved aside under the same name unread, and the store starts empty.
 // - `changed` fires after every write and removal, on the thread that wrote (the main one).
 class SettingsStore : public QObject {
     Q_OBJECT

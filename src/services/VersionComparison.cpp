@@ -10,12 +10,19 @@ struct VersionPart {
     QStringView suffix;
 };
 
+// Only 0-9 count as digits: other scripts' digits (isDigit() says yes to "٣") are text, or
+// a suffix starting with one would never be consumed.
+bool isAsciiDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
 VersionPart splitPart(QStringView text)
 {
     VersionPart part;
     qsizetype i = 0;
     // Absurdly long digit runs saturate instead of wrapping around.
-    for (; i < text.size() && text[i].isDigit() && text[i].unicode() < 128; ++i) {
+    for (; i < text.size() && isAsciiDigit(text[i]); ++i) {
         const quint64 digit = text[i].unicode() - u'0';
         part.number = part.number > (UINT64_MAX - digit) / 10 ? UINT64_MAX : part.number * 10 + digit;
     }
@@ -27,7 +34,7 @@ VersionPart splitPart(QStringView text)
 int compareSuffixes(QStringView a, QStringView b)
 {
     while (!a.isEmpty() && !b.isEmpty()) {
-        if (a.front().isDigit() && b.front().isDigit()) {
+        if (isAsciiDigit(a.front()) && isAsciiDigit(b.front())) {
             const VersionPart l = splitPart(a);
             const VersionPart r = splitPart(b);
             if (l.number != r.number)

@@ -105,7 +105,9 @@ bool XdgAutostartService::registerItem()
     if (!file.open(QIODevice::WriteOnly))
         return false;
     const QByteArray text = entryText(m_programPath);
-    if (file.write(text) != text.size())
+    // The refusal of a full disk shows only in the flush (commit() would replace the entry
+    // with an empty file that reads as enabled).
+    if (file.write(text) != text.size() || !file.flush())
         return false;
     return file.commit() && isEnabled();
 }

@@ -1,0 +1,21 @@
+// `losetup --list --json` as the clean-up reads it: only absolute backing files that still
+// exist on their path are offered, each with its device name.
+#include "FuzzCheck.h"
+
+#include "services/DiskImageCleanup.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray listing(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QList<DiskImageCleanup::LoopDevice> loops = DiskImageCleanup::parseLoopDevices(listing);
+    for (const DiskImageCleanup::LoopDevice &loop : loops) {
+        FUZZ_CHECK(loop.backingFile.startsWith(QLatin1Char('/')));
+        FUZZ_CHECK(!loop.backingFile.endsWith(QLatin1String(" (deleted)")));
+    }
+    // Without mounts, every image is listed once and holds no volume.
+    const QList<DiskImageCleanup::AttachedImage> images = DiskImageCleanup::attachedImages(loops, {});
+    FUZZ_CHECK(images.size() == loops.size());
+    for (const DiskImageCleanup::AttachedImage &image : images)
+        FUZZ_CHECK(image.volumes.isEmpty());
+    return 0;
+}

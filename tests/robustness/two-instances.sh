@@ -1,0 +1,88 @@
+#!/usr/bin/env bash
+# Two Vantles started at the same instant, 20 times (10 on the session bus, 10 without one, on
+# the fallback socket): each time exactly one keeps running, the other hands over and ends,
+# and the settings the survivor writes at launch are all on disk.
+#   VANTLE_BIN=... x11-session.sh two-instances.sh
+set -euo pipefail
+
+vantle=${VANTLE_BIN:?}
+rounds=${VANTLE_INSTANCE_ROUNDS:-20}
+command -v pgrep >/dev/null || { echo "SKIP: pgrep is missing" >&2; exit 77; }
+
+home=$(mktemp -d)
+pids=()
+cleanup() {
+    for p in "${pids[@]}"; do kill -9 "$p" 2>/dev/null || true; done
+    # The document portal, started on the bus for Vantle, mounts itself in each runtime folder.
+    for mount in "$home"/run-*/doc; do fusermount -u "$mount" 2>/dev/null || umount -l "$mount" 2>/dev/null || true; done
+    rm -rf "$home" 2>/dev/null || true
+}
+trap cleanup EXIT
+fail() {
+    echo "FAIL: $*" >&2
+    for log in "$home"/first.log "$home"/second.log; do
+        [[ -s $log ]] && { echo "--- ${log##*/}:" >&2; tail -20 "$log" >&2; }
+    done
+    exit 1
+}
+wait_for() { # wait_for SECONDS COMMAND...
+    local deadline=$((SECONDS + $1)); shift
+    until "$@" >/dev/null 2>&1; do
+        ((SECONDS < deadline)) || return 1
+        sleep 0.05
+    done
+}
+running() { kill -0 "$1" 2>/dev/null && [[ $(ps -o stat= -p "$1") != Z* ]]; }
+exited() { ! running "$1"; }
+config_has() { grep -q "^$1\$" "$XDG_CONFIG_HOME/Vantle/Vantle.conf" 2>/dev/null; }
+
+bus=$DBUS_SESSION_BUS_ADDRESS
+for ((round = 1; round <= rounds; round++)); do
+    rm -rf "${home:?}"/config "${home:?}"/data "${home:?}"/go
+    export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_RUNTIME_DIR=$home/run-$round
+    mkdir -p "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+    if ((round % 2 == 0)); then
+        # An address that leads nowhere: unset, libdbus would launch a bus of its own.
+        export DBUS_SESSION_BUS_ADDRESS=unix:path=$home/no-bus
+        way="fallback socket"
+    else
+        export DBUS_SESSION_BUS_ADDRESS=$bus
+        way="session bus"
+    fi
+
+    # Both wait for the same file to appear, then start at once.
+    go=$home/go
+    (while [[ ! -e $go ]]; do sleep 0.001; done; exec "$vantle" >"$home/first.log" 2>&1) &
+    first=$!
+    (while [[ ! -e $go ]]; do sleep 0.001; done; exec "$vantle" >"$home/second.log" 2>&1) &
+    second=$!
+    pids=("$first" "$second")
+    sleep 0.3
+    touch "$go"
+
+    # One of them hands over to the other and ends; the other keeps running.
+    wait_for 20 eval '! running $first || ! running $second' || fail "round $round ($way): both still run"
+    if running "$first"; then
+        survivor=$first loser=$second
+    else
+        survivor=$second loser=$first
+    fi
+    wait "$loser" || fail "round $round ($way): the second start failed (exit $?)"
+    # The survivor's launch writes (the seeded shortcuts) are all there.
+    wait_for 20 config_has 'pickKeyCode=8' || fail "round $round ($way): pickKeyCode never written"
+    wait_for 20 config_has 'popoverKeyChar=X' || fail "round $round ($way): popoverKeyChar never written"
+    running "$survivor" || fail "round $round ($way): no Vantle kept running"
+    if [[ $way == "fallback socket" ]]; then
+        socket=$XDG_RUNTIME_DIR/vantle-$(id -u).socket
+        [[ -S $socket ]] || fail "round $round: no socket at $socket"
+        [[ $(stat -c %a "$socket") == 700 || $(stat -c %a "$socket") == 600 ]] \
+            || fail "round $round: the socket is open to others ($(stat -c %a "$socket"))"
+    fi
+    kill -TERM "$survivor"
+    wait_for 20 exited "$survivor" || fail "round $round ($way): Vantle did not quit"
+    wait "$survivor" 2>/dev/null || true
+    pids=()
+    echo "round $round ($way): one instance, settings complete"
+done
+export DBUS_SESSION_BUS_ADDRESS=$bus
+echo "PASS: $rounds double starts, one Vantle each time"

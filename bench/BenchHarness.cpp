@@ -671,12 +671,19 @@ void measurePicks(Observer &x, const Options &o, const QString &home, Figures &o
 // Opens the popup with `vantle toggle` and closes it again the same way.
 void togglePopup(Observer &x, const Options &o, pid_t pid)
 {
-    x.settle();
-    const double at = nowMs();
-    waitExit(spawn({o.vantle, "toggle"}).pid);
-    const auto popup = x.nextMapped(at, [&](xcb_window_t w) { return x.isManagedWindowOf(w, pid); });
+    // At a person's pace: a popup that just closed ignores a request that follows at once
+    // (the click on the tray icon that closed it must not open it again).
+    std::optional<std::pair<xcb_window_t, double>> popup;
+    for (int attempt = 0; attempt < 3 && !popup; ++attempt) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        x.settle();
+        const double at = nowMs();
+        waitExit(spawn({o.vantle, "toggle"}).pid);
+        popup = x.nextMapped(at, [&](xcb_window_t w) { return x.isManagedWindowOf(w, pid); }, 3000);
+    }
     if (!popup)
         die("vantle toggle brought no popup up");
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
     waitExit(spawn({o.vantle, "toggle"}).pid);
     if (!x.waitHidden(popup->first))
         die("vantle toggle did not close the popup");

@@ -148,9 +148,23 @@ double rssMiB(pid_t pid)
 }
 
 struct Activity {
-    long long ticks = 0;    // user + system clock ticks of every thread
-    long long switches = 0; // voluntary + involuntary context switches of every thread
+    long long ticks = 0; // user + system clock ticks of every thread
+    std::map<std::string, long long> switches; // voluntary + involuntary context switches, by thread
 };
+
+// Context switches between two looks: a thread that ended in between woke at least once to end.
+long long switchesBetween(const Activity &before, const Activity &after)
+{
+    long long total = 0;
+    for (const auto &[tid, count] : after.switches) {
+        auto it = before.switches.find(tid);
+        total += count - (it == before.switches.end() ? 0 : it->second);
+    }
+    for (const auto &[tid, count] : before.switches)
+        if (!after.switches.count(tid))
+            total += 1;
+    return total;
+}
 
 Activity activity(pid_t pid)
 {
@@ -177,10 +191,11 @@ Activity activity(pid_t pid)
                 continue;
             char line[256];
             long long value = 0;
+            long long &switches = a.switches[entry->d_name];
             while (std::fgets(line, sizeof line, file))
                 if (std::sscanf(line, "voluntary_ctxt_switches: %lld", &value) == 1
                     || std::sscanf(line, "nonvoluntary_ctxt_switches: %lld", &value) == 1)
-                    a.switches += value;
+                    switches += value;
             std::fclose(file);
         }
         closedir(tasks);
@@ -717,12 +732,12 @@ void measureIdle(Observer &x, const Options &o, const QString &home, Figures &ou
         out.add(figure + QStringLiteral("_ticks"), QStringLiteral("vantle"), QStringLiteral("ticks"),
                 {double(v1.ticks - v0.ticks)});
         out.add(figure + QStringLiteral("_switches"), QStringLiteral("vantle"), QStringLiteral("switches"),
-                {double(v1.switches - v0.switches)});
+                {double(switchesBetween(v0, v1))});
         if (withFloor) {
             out.add(figure + QStringLiteral("_ticks"), QStringLiteral("floor"), QStringLiteral("ticks"),
                     {double(f1.ticks - f0.ticks)});
             out.add(figure + QStringLiteral("_switches"), QStringLiteral("floor"), QStringLiteral("switches"),
-                    {double(f1.switches - f0.switches)});
+                    {double(switchesBetween(f0, f1))});
         }
     };
     std::fprintf(stderr, "  idle after start (%d s)\n", o.idleSeconds);

@@ -725,6 +725,9 @@ void measureIdle(Observer &x, const Options &o, const QString &home, Figures &ou
     x.movePointer(x.width / 2, x.height / 2);
 
     auto idleWindow = [&](const QString &figure, bool withFloor) {
+        // Idle means nothing of Vantle's on screen but the tray icon: the "Copied" confirmation
+        // of a pick fades out by itself first.
+        x.waitUntil([&] { return x.viewableWindowsOf(pid).empty(); });
         std::this_thread::sleep_for(std::chrono::milliseconds(500)); // what the last action started settles
         const Activity v0 = activity(pid), f0 = activity(floor.pid);
         std::this_thread::sleep_for(std::chrono::seconds(o.idleSeconds));

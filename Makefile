@@ -26,12 +26,14 @@ test: build
 install: build
 	cmake --install $(BUILD_DIR) --prefix $(PREFIX)
 
-# Release build of the benchmarks, run under private X servers; results in build/bench/results.md.
+# Release build, then Vantle next to the floor programs under private X servers (see README,
+# "Speed and footprint"); tables in build/bench/results.md and results.json.
 bench:
 	@scripts/ensure-deps.sh test
 	cmake -S . -B $(BUILD_DIR)/bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DVANTLE_BUILD_TESTS=OFF -DVANTLE_BUILD_BENCH=ON $(CMAKE_FLAGS)
-	cmake --build $(BUILD_DIR)/bench -j $(JOBS) --target sampler_bench
-	bench/run-bench.sh $(BUILD_DIR)/bench/bin/sampler_bench $(BUILD_DIR)/bench/results.md
+	cmake --build $(BUILD_DIR)/bench -j $(JOBS) --target vantle floor_tray floor_overlay bench_harness sampler_bench history_bench bench_report
+	bench/run-bench.sh $(BUILD_DIR)/bench/bin $(BUILD_DIR)/bench
+	@cat $(BUILD_DIR)/bench/results.md
 
 # Each fuzz target for FUZZ_SECONDS (clang libFuzzer, ASan, UBSan); results in build/fuzz/results.md.
 fuzz:

@@ -17,6 +17,7 @@
 #include <QNetworkAccessManager>
 #include <QSocketNotifier>
 #include <QTextStream>
+#include <QThreadPool>
 #include <QTimer>
 #include <csignal>
 #include <sys/socket.h>
@@ -71,6 +72,10 @@ int runTrayApplication()
     // Vantle lives in the tray: closing its last window (the welcome, the settings, the popup
     // shown as a window) never ends it.
     QApplication::setQuitOnLastWindowClosed(false);
+    // Qt paints and converts large images (the loupe's freeze-frame, the popup) on the global
+    // thread pool, whose threads otherwise end 30 s after their last job: a wake-up in the tray
+    // long after the user is done. Idle threads that stay asleep cost nothing.
+    QThreadPool::globalInstance()->setExpiryTimeout(-1);
 
     // The facilities, each chosen once for this session, then the delegate that uses them.
     SettingsStore store(SettingsStore::standardFilePath());

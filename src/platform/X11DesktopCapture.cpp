@@ -94,17 +94,44 @@ bool X11DesktopCapture::captureShared(xcb_connection_t *connection, unsigned roo
         m_memory = nullptr;
         return false;
     }
-    const auto cookie = xcb_shm_get_image(connection, root, 0, 0, uint16_t(width), uint16_t(height), allPlanes,
+    return fillShared(root, width, height); // on failure the destructor detaches
+}
+
+bool X11DesktopCapture::fillShared(unsigned root, int width, int height)
+{
+    xcb_generic_error_t *error = nullptr;
+    const auto cookie = xcb_shm_get_image(m_connection, root, 0, 0, uint16_t(width), uint16_t(height), allPlanes,
                                           XCB_IMAGE_FORMAT_Z_PIXMAP, m_segment, 0);
-    xcb_shm_get_image_reply_t *reply = xcb_shm_get_image_reply(connection, cookie, &error);
+    xcb_shm_get_image_reply_t *reply = xcb_shm_get_image_reply(m_connection, cookie, &error);
     std::free(error);
     if (!reply)
-        return false; // the destructor detaches
+        return false;
     std::free(reply);
     // The server has written its last into the segment: the reply only comes once it is done.
     makeOpaque(static_cast<uchar *>(m_memory), size_t(width) * size_t(height));
     m_image = QImage(static_cast<const uchar *>(m_memory), width, height, width * 4, QImage::Format_RGB32);
     return true;
+}
+
+bool X11DesktopCapture::refresh()
+{
+    if (!m_connection || xcb_connection_has_error(m_connection))
+        return false;
+    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+    // The setup's root size is the one at connection time; the image tells what was captured.
+    xcb_get_geometry_reply_t *geometry =
+        xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, screen->root), nullptr);
+    if (!geometry)
+        return false;
+    const int width = geometry->width;
+    const int height = geometry->height;
+    std::free(geometry);
+    if (width != m_image.width() || height != m_image.height())
+        return false;
+    m_image = QImage(); // nothing may read the memory while the server writes into it
+    if (m_segment)
+        return fillShared(screen->root, width, height);
+    return capturePlain(m_connection, screen->root, width, height);
 }
 
 bool X11DesktopCapture::capturePlain(xcb_connection_t *connection, unsigned root, int width, int height)

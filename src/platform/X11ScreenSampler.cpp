@@ -70,7 +70,10 @@ void X11ScreenSampler::pick(Completion completion)
         nothing(std::move(completion));
         return;
     }
-    m_capture = X11DesktopCapture::capture(m_connection);
+    // The memory shared with the server is kept from the previous pick: filling it again is
+    // what makes the loupe come up at once.
+    if (!m_capture || !m_capture->refresh())
+        m_capture = X11DesktopCapture::capture(m_connection);
     if (!m_capture) {
         nothing(std::move(completion));
         return;
@@ -293,7 +296,6 @@ void X11ScreenSampler::finish(std::optional<SampledColor> result)
         overlay->release();
     }
     xcb_flush(m_connection);
-    m_capture.reset();
     // The state is clear before the completion runs: it may start the next pick.
     Completion completion = std::move(m_completion);
     m_completion = nullptr;

@@ -21,8 +21,9 @@ struct xcb_connection_t;
 // that no click or key reaches another application while the user aims.
 //
 // The hotspot is kept in device pixels (the X root's coordinates), which reaches every pixel
-// of a screen at any scale factor. Nothing runs between picks: the overlay windows are kept,
-// hidden, only so that the next pick shows its first frame sooner.
+// of a screen at any scale factor. Nothing runs between picks: the overlay windows and the
+// capture's memory shared with the X server are kept, hidden and idle, only so that the next
+// pick shows its first frame sooner.
 class X11ScreenSampler : public QObject, public ScreenColorSampler, private QAbstractNativeEventFilter {
     Q_OBJECT
 public:

@@ -5,10 +5,14 @@
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QStandardPaths>
+#include <QThread>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -24,13 +28,67 @@ QByteArray socketWord(const QString &method)
     return method == u"Pick" ? QByteArrayLiteral("pick\n") : QByteArrayLiteral("toggle\n");
 }
 
+constexpr int heldElsewhere = -1;
+constexpr int lockUnavailable = -2; // the runtime folder does not let us create it
+
+int openLockFile()
+{
+    return ::open(QFile::encodeName(InstanceServer::lockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+}
+
+struct flock wholeFile(short type)
+{
+    struct flock lock = {};
+    lock.l_type = type;
+    lock.l_whence = SEEK_SET;
+    return lock;
+}
+
+// The instance lock, taken without waiting: its descriptor, or one of the two answers above.
+// A record lock, so that others can ask who holds it without taking it even for an instant.
+int takeInstanceLock()
+{
+    const int fd = openLockFile();
+    if (fd < 0)
+        return lockUnavailable;
+    struct flock lock = wholeFile(F_WRLCK);
+    if (::fcntl(fd, F_SETLK, &lock) != 0) {
+        ::close(fd);
+        return heldElsewhere;
+    }
+    return fd;
+}
+
+bool instanceIsRunning()
+{
+    const int fd = openLockFile();
+    if (fd < 0)
+        return QFile::exists(InstanceServer::socketPath());
+    struct flock lock = wholeFile(F_WRLCK);
+    const bool held = ::fcntl(fd, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+    ::close(fd);
+    return held;
+}
+
 bool sendOverSocket(const QString &method, QString *error)
 {
     QLocalSocket socket;
-    socket.connectToServer(InstanceServer::socketPath());
-    if (!socket.waitForConnected(requestTimeoutMs)) {
-        *error = QStringLiteral("Vantle is not running.");
-        return false;
+    // A Vantle that holds the lock may be a moment away from listening (it started at the same
+    // instant as we did): give it a little while.
+    QDeadlineTimer deadline(requestTimeoutMs);
+    for (;;) {
+        if (!instanceIsRunning()) {
+            *error = QStringLiteral("Vantle is not running.");
+            return false;
+        }
+        socket.connectToServer(InstanceServer::socketPath());
+        if (socket.waitForConnected(requestTimeoutMs))
+            break;
+        if (deadline.hasExpired()) {
+            *error = QStringLiteral("the running Vantle did not answer.");
+            return false;
+        }
+        QThread::msleep(20);
     }
     socket.write(socketWord(method));
     if (!socket.waitForBytesWritten(requestTimeoutMs) || !socket.waitForReadyRead(requestTimeoutMs)
@@ -51,6 +109,11 @@ QString InstanceServer::socketPath()
     return dir + QStringLiteral("/vantle-%1.socket").arg(getuid());
 }
 
+QString InstanceServer::lockPath()
+{
+    return socketPath() + QStringLiteral(".lock");
+}
+
 std::unique_ptr<InstanceServer> InstanceServer::claim()
 {
     std::unique_ptr<InstanceServer> server(new InstanceServer);
@@ -65,12 +128,20 @@ std::unique_ptr<InstanceServer> InstanceServer::claim()
         return server;
     }
 
-    // No session bus: a socket of our own. A live one means another instance answers there.
+    // No session bus: a socket of our own, served by whoever holds the instance lock.
     const QString path = socketPath();
-    QLocalSocket probe;
-    probe.connectToServer(path);
-    if (probe.waitForConnected(500))
+    const int lock = takeInstanceLock();
+    if (lock == heldElsewhere)
         return nullptr;
+    if (lock == lockUnavailable) {
+        // No lock to be had: a socket that answers is the only sign of another Vantle.
+        QLocalSocket probe;
+        probe.connectToServer(path);
+        if (probe.waitForConnected(500))
+            return nullptr;
+    } else {
+        server->m_lockFd = lock;
+    }
     QLocalServer::removeServer(path); // left behind by an instance that crashed
     auto local = std::make_unique<QLocalServer>();
     local->setSocketOptions(QLocalServer::UserAccessOption);
@@ -82,6 +153,9 @@ std::unique_ptr<InstanceServer> InstanceServer::claim()
 
 InstanceServer::~InstanceServer()
 {
+    m_localServer.reset(); // the socket goes before the lock that guards it
+    if (m_lockFd >= 0)
+        ::close(m_lockFd);
     if (m_ownsBusName) {
         QDBusConnection bus = QDBusConnection::sessionBus();
         bus.unregisterObject(objectPath);

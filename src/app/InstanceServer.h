@@ -11,7 +11,9 @@ class QLocalServer;
 // On the session bus it owns the well-known name io.github.vantle.Vantle (claimed atomically,
 // so of two instances started at once exactly one wins) and serves Pick and TogglePopover.
 // Without a session bus it listens on a local socket in $XDG_RUNTIME_DIR, readable by this
-// user only; a socket left behind by a crashed instance is removed, a live one respected.
+// user only. Whoever holds the lock beside it (an flock the kernel drops when its process ends)
+// is the running Vantle: a socket left behind by a crashed instance is removed, a live one
+// respected, and two starts at the same instant cannot both take over.
 // Requests arrive as signals on the main thread.
 class InstanceServer : public QObject {
     Q_OBJECT
@@ -22,8 +24,9 @@ public:
     static std::unique_ptr<InstanceServer> claim();
     ~InstanceServer() override;
 
-    // Path of the fallback socket for this user.
+    // Path of the fallback socket for this user, and of the lock that says who serves it.
     static QString socketPath();
+    static QString lockPath();
 
 public Q_SLOTS:
     Q_SCRIPTABLE void Pick();
@@ -39,6 +42,7 @@ private:
     void handleRequest(const QByteArray &request);
 
     std::unique_ptr<QLocalServer> m_localServer;
+    int m_lockFd = -1;
     bool m_ownsBusName = false;
 };
 

@@ -84,5 +84,35 @@ for ((round = 1; round <= rounds; round++)); do
     pids=()
     echo "round $round ($way): one instance, settings complete"
 done
+
+# A crashed Vantle leaves its socket behind: the next start takes over, and requests reach it.
+rm -rf "${home:?}"/config "${home:?}"/data
+export XDG_RUNTIME_DIR=$home/run-stale DBUS_SESSION_BUS_ADDRESS=unix:path=$home/no-bus
+mkdir -p "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+socket=$XDG_RUNTIME_DIR/vantle-$(id -u).socket
+"$vantle" >"$home/first.log" 2>&1 &
+crashed=$!
+pids=("$crashed")
+wait_for 20 test -S "$socket" || fail "stale socket: the first Vantle never listened"
+kill -KILL "$crashed"
+wait "$crashed" 2>/dev/null || true
+[[ -S $socket ]] || fail "stale socket: the killed Vantle left no socket to test with"
+started=$SECONDS
+if "$vantle" toggle 2>"$home/second.log"; then fail "stale socket: a request to a dead Vantle succeeded"; fi
+((SECONDS - started <= 2)) || fail "stale socket: a request to a dead Vantle took $((SECONDS - started)) s"
+grep -q "not running" "$home/second.log" || fail "stale socket: no 'not running' message"
+rm -rf "${home:?}"/config
+"$vantle" >"$home/first.log" 2>&1 &
+revived=$!
+pids=("$revived")
+wait_for 20 config_has 'popoverKeyChar=X' || fail "stale socket: the new Vantle never launched"
+sleep 0.5
+running "$revived" || fail "stale socket: the new Vantle did not keep running"
+"$vantle" toggle 2>"$home/second.log" || fail "stale socket: the new Vantle does not answer"
+kill -TERM "$revived"
+wait_for 20 exited "$revived" || fail "stale socket: Vantle did not quit"
+pids=()
+echo "stale socket: removed, the new Vantle serves requests"
+
 export DBUS_SESSION_BUS_ADDRESS=$bus
-echo "PASS: $rounds double starts, one Vantle each time"
+echo "PASS: $rounds double starts, one Vantle each time; a stale socket taken over"

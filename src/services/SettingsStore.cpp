@@ -203,8 +203,41 @@ bool SettingsStore::removeObject(const QString &key)
     return write(key, QVariant());
 }
 
+namespace {
+
+// Whether writing `value` would leave the file as it is: the stored text is the same (a value
+// read back from the file is text, so a stored "8" or "true" holds the integer 8 or true).
+bool storesSameText(const QVariant &stored, const QVariant &value)
+{
+    if (!stored.isValid() || !value.isValid())
+        return !stored.isValid() && !value.isValid();
+    if (stored.typeId() == value.typeId())
+        return stored == value;
+    const auto isText = [](const QVariant &v) {
+        switch (v.typeId()) {
+        case QMetaType::QString:
+        case QMetaType::Bool:
+        case QMetaType::Int:
+        case QMetaType::LongLong:
+            return true;
+        default:
+            return false;
+        }
+    };
+    return isText(stored) && isText(value) && stored.toString() == value.toString();
+}
+
+} // namespace
+
 bool SettingsStore::write(const QString &key, const QVariant &value)
 {
+    if (m_unsaved.isEmpty() && m_settings->status() == QSettings::NoError
+        && storesSameText(m_settings->value(key), value)) {
+        // Already on disk: rewriting the file (Vantle writes some values back at every
+        // launch) would cost a disk write and nothing else.
+        Q_EMIT changed(key);
+        return true;
+    }
     m_unsaved.insert(key, value);
     const bool ok = flush();
     Q_EMIT changed(key);

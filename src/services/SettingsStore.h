@@ -16,7 +16,8 @@
 //   in memory and is never written to disk.
 // - Reads give the store's meaning to a missing or unreadable value: integer 0, boolean false,
 //   string and data absent. Nothing is cached by callers: every reader asks at use.
-// - Every write goes to disk at once (atomically, through a temporary file). A write that
+// - Every write goes to disk at once (atomically, through a temporary file); writing the value
+//   the file already holds leaves the file alone (and still signals). A write that
 //   cannot reach the disk keeps the value in memory and reports false; the file is untouched,
 //   and the next write that succeeds carries every value not yet saved.
 // - A file that cannot be parsed is copied aside (Vantle.conf.unreadable-<UTC time>) before

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
+#include <sys/stat.h>
 #include <gtest/gtest.h>
 
 using namespace PreferenceKeys;
@@ -87,6 +88,37 @@ TEST(SettingsStore, ChangeSignalAfterEveryWrite)
     t.store->removeObject(showColorDot);
     ASSERT_EQ(spy.count(), 3);
     EXPECT_EQ(spy.at(0).at(0).toString(), showColorDot);
+}
+
+TEST(SettingsStore, ValueAlreadyOnDiskIsNotWrittenAgain)
+{
+    // Vantle writes some values back at every launch; the file is rewritten (a new inode, by
+    // its temporary file and rename) only when what it holds changes.
+    TempSettings t;
+    const QString path = t.dir.filePath(QStringLiteral("launched.conf"));
+    {
+        QFile f(path);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write("[General]\npickKeyCode=8\nshowColorDot=true\npickKeyChar=C\n");
+    }
+    const auto inode = [&path] {
+        struct stat st = {};
+        return ::stat(QFile::encodeName(path).constData(), &st) == 0 ? st.st_ino : 0;
+    };
+    const auto written = inode();
+    SettingsStore store(path); // values read back from the file as text
+    QSignalSpy spy(&store, &SettingsStore::changed);
+    EXPECT_TRUE(store.setInteger(pickKeyCode, 8));
+    EXPECT_TRUE(store.setBool(showColorDot, true));
+    EXPECT_TRUE(store.setString(pickKeyChar, QStringLiteral("C")));
+    EXPECT_EQ(spy.count(), 3) << "observers hear of every write";
+    EXPECT_EQ(inode(), written);
+
+    EXPECT_TRUE(store.setBool(showColorDot, false));
+    EXPECT_NE(inode(), written);
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(f.readAll().contains("showColorDot=false"));
 }
 
 TEST(SettingsStore, CorruptFileIsKeptAsideAndReadsAsMissing)

@@ -135,6 +135,7 @@ void AppDelegate::createStatusItem()
             togglePopover();
     });
     m_statusItem->show();
+    TrayHost::sendPendingRequests();
     if (m_popover && m_popover->isStandalone()) {
         // The tray appeared after we gave up waiting: move into it.
         m_popover->hide();

@@ -47,10 +47,17 @@ bool TrayHost::xembedTrayExists()
     return exists;
 }
 
+void TrayHost::sendPendingRequests()
+{
+    auto *x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    if (x11 && x11->connection())
+        xcb_flush(x11->connection());
+}
+
 void TrayHost::waitForHost(int waitMs)
 {
     if (statusNotifierHostExists() || xembedTrayExists()) {
-        QTimer::singleShot(0, this, [this] { settle(true); });
+        settle(true); // the usual case: the icon is made right now, in its place in the launch
         return;
     }
     QDBusConnection bus = QDBusConnection::sessionBus();

@@ -14,12 +14,16 @@ class TrayHost : public QObject {
 public:
     explicit TrayHost(QObject *parent = nullptr);
 
-    // Emits `available` as soon as a host exists (at once when there is one already) or
-    // `unavailable` once `waitMs` passed without one. Exactly one of them fires.
+    // Emits `available` as soon as a host exists (within this call when there is one already)
+    // or `unavailable` once `waitMs` passed without one. Exactly one of them fires.
     void waitForHost(int waitMs);
 
     static bool statusNotifierHostExists();
     static bool xembedTrayExists();
+
+    // Sends what the tray icon asked of the X server (its dock request) now, rather than when
+    // the launch gives the event loop its turn: the tray docks it meanwhile.
+    static void sendPendingRequests();
 
 Q_SIGNALS:
     void available();

@@ -48,7 +48,7 @@ sanitize:
 	@scripts/ensure-deps.sh build test
 	cmake -S . -B $(BUILD_DIR)/sanitize -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DVANTLE_SANITIZE=ON $(CMAKE_FLAGS)
 	cmake --build $(BUILD_DIR)/sanitize -j $(JOBS)
-	ASAN_OPTIONS=detect_leaks=1:abort_on_error=1:strict_string_checks=1 \
+	ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 \
 	LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitize/lsan.supp:print_suppressions=0 \
 	UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 		ctest --test-dir $(BUILD_DIR)/sanitize --output-on-failure -j $(JOBS)

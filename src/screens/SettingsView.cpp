@@ -165,6 +165,11 @@ SettingsView::SettingsView(SettingsStore &store, HotkeyManager &hotkeyManager, L
 
 SettingsView::~SettingsView()
 {
+    // The recorders outlive this part of the object (QWidget deletes its children later) and
+    // stop listening when hidden then: they must no longer call back into it.
+    for (HotkeyRecorderView *recorder : { m_pickRecorder, m_popoverRecorder })
+        if (recorder)
+            recorder->setOnRecordingChanged({});
     // A window torn down while a recorder listens must not leave the global shortcuts released.
     m_hotkeyManager.setSuspended(false);
 }

@@ -1,6 +1,10 @@
 #include "app/CommandLine.h"
 
+#include "BuildInfo.h"
+#include "app/DesktopPart.h"
 
+#include <QCoreApplication>
+#include <cstring>
 
 namespace {
 
@@ -16,6 +20,25 @@ bool isSubcommand(const QString &word)
 {
     for (const auto &sub : subcommands)
         if (word == QLatin1String(sub.name))
+            return true;
+    return false;
+}
+
+void setApplicationIdentity()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Vantle"));
+    QCoreApplication::setApplicationName(QStringLiteral("Vantle"));
+    QCoreApplication::setApplicationVersion(QString::fromLatin1(BuildInfo::version));
+}
+
+bool DesktopPart::isNeededFor(int argc, char **argv)
+{
+    if (argc < 2)
+        return true; // the tray program
+    if (std::strcmp(argv[1], "pick") != 0)
+        return false;
+    for (int i = 2; i < argc; ++i)
+        if (std::strcmp(argv[i], "--print") == 0)
             return true;
     return false;
 }

@@ -29,8 +29,9 @@ int runExportCommand(const QStringList &args, CommandContext &context);
 // vantle pick --print [--format NAME]: picks in this process and prints the colour; exit 1 when
 // nothing was picked. Needs a QGuiApplication.
 int runPickPrintCommand(const QStringList &args, CommandContext &context);
-// vantle pick [...]: --print picks here; otherwise the running Vantle is asked to pick.
-int runPickCommand(const QStringList &args, CommandContext &context);
+
+// Organisation, application name and version, where the settings file and the desktop look.
+void setApplicationIdentity();
 
 // The overall help text and the names of the subcommands.
 QString commandLineHelp();

@@ -6,14 +6,13 @@
 class QLocalServer;
 
 // Makes Vantle a single instance per user session and takes requests from other processes
-// (`vantle pick`, `vantle toggle`, a second `vantle` start).
+// (`vantle pick`, `vantle toggle`, a second `vantle` start; InstanceClient.h sends them).
 //
 // On the session bus it owns the well-known name io.github.vantle.Vantle (claimed atomically,
 // so of two instances started at once exactly one wins) and serves Pick and TogglePopover.
-// Without a session bus it listens on a local socket in $XDG_RUNTIME_DIR, readable by this
-// user only. Whoever holds the lock beside it (an flock the kernel drops when its process ends)
-// is the running Vantle: a socket left behind by a crashed instance is removed, a live one
-// respected, and two starts at the same instant cannot both take over.
+// Without a session bus it takes the instance lock and listens on a local socket in
+// $XDG_RUNTIME_DIR, readable by this user only: a socket left behind by a crashed instance is
+// removed, a live one respected, and two starts at the same instant cannot both take over.
 // Requests arrive as signals on the main thread.
 class InstanceServer : public QObject {
     Q_OBJECT
@@ -23,10 +22,6 @@ public:
     // already runs.
     static std::unique_ptr<InstanceServer> claim();
     ~InstanceServer() override;
-
-    // Path of the fallback socket for this user, and of the lock that says who serves it.
-    static QString socketPath();
-    static QString lockPath();
 
 public Q_SLOTS:
     Q_SCRIPTABLE void Pick();
@@ -45,7 +40,3 @@ private:
     int m_lockFd = -1;
     bool m_ownsBusName = false;
 };
-
-// Sends a request ("Pick" or "TogglePopover") to the running Vantle. False, with a message for
-// the user in `error`, when none runs or it does not answer.
-bool sendInstanceRequest(const QString &method, QString *error);

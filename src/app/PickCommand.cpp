@@ -1,6 +1,5 @@
 #include "app/ColorArgument.h"
 #include "app/CommandLine.h"
-#include "app/RemoteCommands.h"
 #include "platform/ScreenSamplerFactory.h"
 #include "services/SettingsViewModel.h"
 
@@ -52,12 +51,4 @@ int runPickPrintCommand(const QStringList &args, CommandContext &context)
     });
     QCoreApplication::exec();
     return status;
-}
-
-int runPickCommand(const QStringList &args, CommandContext &context)
-{
-    for (const QString &word : args)
-        if (splitOptionWord(word).name == u"--print")
-            return runPickPrintCommand(args, context);
-    return runPickRequest(args, context);
 }

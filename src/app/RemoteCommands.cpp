@@ -1,5 +1,5 @@
 #include "app/CommandLine.h"
-#include "app/InstanceServer.h"
+#include "app/InstanceClient.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
 #include "app/TrayApplication.h"
 
 #include "app/AppDelegate.h"
+#include "app/InstanceClient.h"
 #include "app/InstanceServer.h"
 #include "history/CopyHud.h"
 #include "history/FileExportDialogs.h"

@@ -1,17 +1,18 @@
 #include "BuildInfo.h"
 #include "app/CommandLine.h"
+#include "app/DesktopPart.h"
 #include "app/RemoteCommands.h"
-#include "app/TrayApplication.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
-#include <QApplication>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QTextStream>
-#include <memory>
+#include <dlfcn.h>
 
 // Dispatch only: each subcommand is a function of its arguments and streams. Commands that
-// show something on screen get a QApplication; the rest run without a display.
+// show something on screen run in the desktop part, loaded when needed; the rest run on Qt
+// Core without a display.
 
 namespace {
 
@@ -26,15 +27,8 @@ const Command commands[] = {
     {"format", runFormatCommand},
     {"toggle", runToggleCommand},
     {"export", runExportCommand},
-    {"pick", runPickCommand},
+    {"pick", runPickRequest}, // `pick --print` runs in the desktop part
 };
-
-bool needsDisplay(const QStringList &args)
-{
-    if (args.isEmpty())
-        return true; // the tray program
-    return args.first() == u"pick" && args.contains(QStringLiteral("--print"));
-}
 
 int runSubcommand(const QString &name, const QStringList &args)
 {
@@ -50,36 +44,48 @@ int runSubcommand(const QString &name, const QStringList &args)
     return ExitStatus::usage;
 }
 
+// The module lives at a fixed place relative to this program, in the build tree as installed.
+int runDesktopPart(int argc, char **argv)
+{
+    char self[4096];
+    const ssize_t length = ::readlink("/proc/self/exe", self, sizeof self - 1);
+    const QByteArray programDir = length > 0 ? QFileInfo(QString::fromLocal8Bit(self, length)).absolutePath().toLocal8Bit()
+                                             : QByteArray(".");
+    const QByteArray path = programDir + '/' + BuildInfo::desktopPartPath;
+    void *module = ::dlopen(path.constData(), RTLD_NOW | RTLD_LOCAL);
+    auto entry = module ? reinterpret_cast<DesktopPart::EntryPoint>(::dlsym(module, DesktopPart::entryPoint)) : nullptr;
+    if (!entry) {
+        QTextStream(stderr) << "vantle: the desktop part of Vantle cannot be loaded (" << ::dlerror()
+                            << "). Reinstalling Vantle puts it back.\n";
+        return ExitStatus::failure;
+    }
+    return entry(argc, argv);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
+    if (DesktopPart::isNeededFor(argc, argv))
+        return runDesktopPart(argc, argv);
+
     QStringList args;
     for (int i = 1; i < argc; ++i)
         args << QString::fromLocal8Bit(argv[i]);
-
-    std::unique_ptr<QCoreApplication> app;
-    if (needsDisplay(args))
-        app = std::make_unique<QApplication>(argc, argv);
-    else
-        app = std::make_unique<QCoreApplication>(argc, argv);
-    QCoreApplication::setOrganizationName(QStringLiteral("Vantle"));
-    QCoreApplication::setApplicationName(QStringLiteral("Vantle"));
-    QCoreApplication::setApplicationVersion(QString::fromLatin1(BuildInfo::version));
+    QCoreApplication app(argc, argv);
+    setApplicationIdentity();
 
     QTextStream out(stdout);
-    if (!args.isEmpty() && isSubcommand(args.first()))
+    if (isSubcommand(args.first()))
         return runSubcommand(args.first(), args.mid(1));
-    if (!args.isEmpty() && (args.first() == u"--version" || args.first() == u"-v")) {
+    if (args.first() == u"--version" || args.first() == u"-v") {
         out << "vantle " << BuildInfo::version << Qt::endl;
         return ExitStatus::ok;
     }
-    if (!args.isEmpty() && args.first() != u"--help" && args.first() != u"-h") {
+    if (args.first() != u"--help" && args.first() != u"-h") {
         QTextStream(stderr) << "vantle: unknown command \"" << args.first() << "\"\n\n" << commandLineHelp();
         return ExitStatus::usage;
     }
-    if (args.isEmpty())
-        return runTrayApplication();
     out << commandLineHelp();
     return ExitStatus::ok;
 }

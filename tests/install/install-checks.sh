@@ -49,6 +49,18 @@ check_layout() {
         [[ -s $prefix/$f ]] || fail "$f is not installed"
     done
     [[ -x $prefix/bin/vantle ]] || fail "bin/vantle is not executable"
+    [[ -s $prefix/lib/vantle/vantle-desktop.so ]] || fail "the desktop part lib/vantle/vantle-desktop.so is not installed"
+    # The installed program finds its desktop part (which then refuses the unknown format)...
+    local answer status=0
+    answer=$(QT_QPA_PLATFORM=minimal timeout 20 "$prefix/bin/vantle" pick --print --format nonsense 2>&1) || status=$?
+    [[ $status == 2 && $answer == *'unknown format "nonsense"'* ]] ||
+        fail "the installed program did not run its desktop part (exit $status): $answer"
+    # ...and says what is wrong, calmly, when the part is missing.
+    mkdir -p "$work/alone" && cp "$prefix/bin/vantle" "$work/alone/"
+    status=0
+    answer=$("$work/alone/vantle" pick --print 2>&1) || status=$?
+    [[ $status == 1 && $answer == *"desktop part of Vantle cannot be loaded"* ]] ||
+        fail "a missing desktop part gave exit $status: $answer"
     local size png
     for size in 16 24 32 48 64 128 256 512; do
         png=$prefix/share/icons/hicolor/${size}x${size}/apps/vantle.png
@@ -207,7 +219,9 @@ check_package() {
     mkdir -p "$work/shlibs/debian"
     printf 'Source: vantle\n\nPackage: vantle\nArchitecture: any\n' >"$work/shlibs/debian/control"
     local needed
-    needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" 2>/dev/null | sed -n 's/^shlibs:Depends=//p')
+    local module=$work/root/usr/lib/vantle/vantle-desktop.so
+    [[ -s $module ]] || fail "the package has no usr/lib/vantle/vantle-desktop.so"
+    needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" "$module" 2>/dev/null | sed -n 's/^shlibs:Depends=//p')
     [[ -n $needed ]] || fail "dpkg-shlibdeps found no dependencies"
     local dep declared
     declared=$(tr ',' '\n' <<<"$depends" | sed 's/^ *//; s/ .*//')

@@ -1,0 +1,29 @@
+#include "app/CommandLine.h"
+#include "app/DesktopPart.h"
+#include "app/TrayApplication.h"
+#include "services/SettingsStore.h"
+#include "services/SettingsViewModel.h"
+
+#include <QApplication>
+#include <QTextStream>
+
+extern "C" Q_DECL_EXPORT int vantleDesktopMain(int argc, char **argv)
+{
+    // The words as given, before QApplication takes its own options (-platform and the like).
+    QStringList args;
+    for (int i = 2; i < argc; ++i)
+        args << QString::fromLocal8Bit(argv[i]);
+    const bool tray = argc < 2;
+
+    QApplication app(argc, argv);
+    setApplicationIdentity();
+    if (tray)
+        return runTrayApplication();
+
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    SettingsStore store(SettingsStore::standardFilePath());
+    SettingsViewModel::registerDefaults(store);
+    CommandContext context{out, err, store};
+    return runPickPrintCommand(args, context);
+}

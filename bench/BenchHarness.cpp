@@ -153,16 +153,22 @@ struct Activity {
 };
 
 // Context switches between two looks: a thread that ended in between woke at least once to end.
+// Threads that woke are named on standard error, for the one who reads why.
 long long switchesBetween(const Activity &before, const Activity &after)
 {
     long long total = 0;
-    for (const auto &[tid, count] : after.switches) {
-        auto it = before.switches.find(tid);
-        total += count - (it == before.switches.end() ? 0 : it->second);
+    for (const auto &[thread, count] : after.switches) {
+        auto it = before.switches.find(thread);
+        const long long woke = count - (it == before.switches.end() ? 0 : it->second);
+        if (woke > 0)
+            std::fprintf(stderr, "    thread %s: %lld switches\n", thread.c_str(), woke);
+        total += woke;
     }
-    for (const auto &[tid, count] : before.switches)
-        if (!after.switches.count(tid))
+    for (const auto &[thread, count] : before.switches)
+        if (!after.switches.count(thread)) {
+            std::fprintf(stderr, "    thread %s ended\n", thread.c_str());
             total += 1;
+        }
     return total;
 }
 
@@ -191,7 +197,14 @@ Activity activity(pid_t pid)
                 continue;
             char line[256];
             long long value = 0;
-            long long &switches = a.switches[entry->d_name];
+            // Keyed "tid name", so a report can say which thread woke.
+            std::string name;
+            if (FILE *comm = std::fopen((base + "/task/" + entry->d_name + "/comm").c_str(), "r")) {
+                if (std::fgets(line, sizeof line, comm))
+                    name = std::string(line, std::strcspn(line, "\n"));
+                std::fclose(comm);
+            }
+            long long &switches = a.switches[std::string(entry->d_name) + ' ' + name];
             while (std::fgets(line, sizeof line, file))
                 if (std::sscanf(line, "voluntary_ctxt_switches: %lld", &value) == 1
                     || std::sscanf(line, "nonvoluntary_ctxt_switches: %lld", &value) == 1)

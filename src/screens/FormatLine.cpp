@@ -3,7 +3,6 @@
 #include "screens/Symbols.h"
 #include "screens/Theme.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QVariantAnimation>
 
@@ -18,7 +17,7 @@ constexpr int markSize = 10;
 } // namespace
 
 FormatLine::FormatLine(ColorFormat format, const QString &value, QWidget *parent)
-    : QAbstractButton(parent)
+    : PaintedButton(parent)
     , m_format(format)
     , m_value(value)
 {
@@ -75,50 +74,17 @@ QSize FormatLine::minimumSizeHint() const
     return {horizontalPadding * 2 + labelColumn + spacing * 2 + markSize + 40, sizeHint().height()};
 }
 
-void FormatLine::keyPressEvent(QKeyEvent *event)
-{
-    // Return acts like Space, as it does on the desktop's own push buttons.
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        click();
-        return;
-    }
-    QAbstractButton::keyPressEvent(event);
-}
-
-void FormatLine::focusInEvent(QFocusEvent *event)
-{
-    // A ring only when the user moved there with the keyboard; the popup opening or a click
-    // gives focus too, and a ring there would only look like a stray selection.
-    m_showsFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
-        || event->reason() == Qt::ShortcutFocusReason;
-    QAbstractButton::focusInEvent(event);
-}
-
-void FormatLine::enterEvent(QEnterEvent *event)
-{
-    m_isHovered = true;
-    update();
-    QAbstractButton::enterEvent(event);
-}
-
-void FormatLine::leaveEvent(QEvent *event)
-{
-    m_isHovered = false;
-    update();
-    QAbstractButton::leaveEvent(event);
-}
-
 void FormatLine::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QPalette pal = palette();
-    if (m_isHovered || isDown() || (hasFocus() && m_showsFocus)) {
+    if (isHovered() || isDown() || (showsFocusRing())) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(Theme::withAlpha(Theme::text(pal), isDown() ? 0.1 : 0.06));
         painter.drawRect(rect());
     }
-    if (hasFocus() && m_showsFocus) {
+    if (showsFocusRing()) {
         painter.setPen(QPen(pal.color(QPalette::Highlight), 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);

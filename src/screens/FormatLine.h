@@ -2,7 +2,7 @@
 
 #include "model/ColorFormat.h"
 
-#include <QAbstractButton>
+#include "screens/PaintedButton.h"
 #include <QEasingCurve>
 #include <QPointer>
 
@@ -11,7 +11,7 @@ class QVariantAnimation;
 // One line of the detail screen's format list: the format's label in a 100-pixel column, the
 // colour's text in that format, and a copy mark that turns into a green check mark after a
 // copy. The whole line is one button; clicking it is the copy.
-class FormatLine : public QAbstractButton {
+class FormatLine : public PaintedButton {
     Q_OBJECT
 public:
     FormatLine(ColorFormat format, const QString &value, QWidget *parent = nullptr);
@@ -30,17 +30,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void enterEvent(QEnterEvent *event) override;
-    void leaveEvent(QEvent *event) override;
 
 private:
     ColorFormat m_format;
     QString m_value;
     bool m_isCopied = false;
-    bool m_isHovered = false;
-    bool m_showsFocus = false; // focus reached by the keyboard, not by the window opening
     qreal m_markProgress = 0; // 0: copy mark, 1: check mark
     QPointer<QVariantAnimation> m_animation;
 };

@@ -3,12 +3,10 @@
 #include "screens/Symbols.h"
 #include "screens/Theme.h"
 
-#include <QEnterEvent>
-#include <QKeyEvent>
 #include <QPainter>
 
 SymbolButton::SymbolButton(const QString &text, Style style, QWidget *parent)
-    : QAbstractButton(parent)
+    : PaintedButton(parent)
     , m_style(std::move(style))
 {
     setText(text);
@@ -43,39 +41,6 @@ QSize SymbolButton::minimumSizeHint() const
     return sizeHint();
 }
 
-void SymbolButton::keyPressEvent(QKeyEvent *event)
-{
-    // Return acts like Space, as it does on the desktop's own push buttons.
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        click();
-        return;
-    }
-    QAbstractButton::keyPressEvent(event);
-}
-
-void SymbolButton::focusInEvent(QFocusEvent *event)
-{
-    // A ring only when the user moved there with the keyboard; the popup opening or a click
-    // gives focus too, and a ring there would only look like a stray selection.
-    m_showsFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
-        || event->reason() == Qt::ShortcutFocusReason;
-    QAbstractButton::focusInEvent(event);
-}
-
-void SymbolButton::enterEvent(QEnterEvent *event)
-{
-    m_isHovered = true;
-    update();
-    QAbstractButton::enterEvent(event);
-}
-
-void SymbolButton::leaveEvent(QEvent *event)
-{
-    m_isHovered = false;
-    update();
-    QAbstractButton::leaveEvent(event);
-}
-
 void SymbolButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -89,17 +54,17 @@ void SymbolButton::paintEvent(QPaintEvent *)
             fill = Theme::withAlpha(fill, 0.55);
         else if (isDown())
             fill = fill.darker(112);
-        else if (m_isHovered)
+        else if (isHovered())
             fill = fill.lighter(108);
         painter.setPen(Qt::NoPen);
         painter.setBrush(fill);
         painter.drawRoundedRect(box, m_style.radius, m_style.radius);
-    } else if (isEnabled() && (m_isHovered || isDown())) {
+    } else if (isEnabled() && (isHovered() || isDown())) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(Theme::withAlpha(Theme::text(pal), isDown() ? 0.12 : 0.06));
         painter.drawRoundedRect(box, m_style.radius, m_style.radius);
     }
-    if (hasFocus() && m_showsFocus) {
+    if (showsFocusRing()) {
         painter.setPen(QPen(pal.color(QPalette::Highlight), 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(box.adjusted(1, 1, -1, -1), m_style.radius, m_style.radius);

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QAbstractButton>
+#include "screens/PaintedButton.h"
 #include <functional>
 
 // The popup's buttons: an optional symbol and an optional text in a row, either plain (text
 // colour only, a faint highlight under the pointer) or on a filled rounded rectangle. The
 // whole rectangle is the hit area, with a pointing-hand cursor.
-class SymbolButton : public QAbstractButton {
+class SymbolButton : public PaintedButton {
     Q_OBJECT
 public:
     using ColorRole = std::function<QColor(const QPalette &)>;
@@ -32,13 +32,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void enterEvent(QEnterEvent *event) override;
-    void leaveEvent(QEvent *event) override;
 
 private:
     Style m_style;
-    bool m_isHovered = false;
-    bool m_showsFocus = false; // focus reached by the keyboard, not by the window opening
 };

@@ -26,13 +26,7 @@ cleanup() {
 trap cleanup EXIT
 
 fail() { echo "FAIL: $*" >&2; exit 1; }
-wait_for() { # wait_for SECONDS COMMAND...
-    local deadline=$((SECONDS + $1)); shift
-    until "$@" >/dev/null 2>&1; do
-        ((SECONDS < deadline)) || return 1
-        sleep 0.05
-    done
-}
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
 shot() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/$1.png" || true; }
 
 # "id width height x y" for each mapped window of Vantle's.

@@ -14,13 +14,7 @@ set -euo pipefail
 
 skip() { echo "SKIP: $*" >&2; exit 77; }
 
-wait_for() { # wait_for SECONDS COMMAND...: retry briefly until COMMAND succeeds
-    local deadline=$((SECONDS + $1)); shift
-    until "$@" >/dev/null 2>&1; do
-        ((SECONDS < deadline)) || return 1
-        sleep 0.05
-    done
-}
+source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 
 if [[ -z "${VANTLE_IN_SWAY_SESSION:-}" ]]; then
     command -v sway >/dev/null || skip "sway is not installed (apt-get install sway)"

@@ -55,13 +55,7 @@ export VANTLE_TEST_SESSION=1
 export QT_QPA_PLATFORM=xcb
 unset WAYLAND_DISPLAY XDG_SESSION_TYPE
 
-wait_for() { # wait_for SECONDS COMMAND...: retry briefly until COMMAND succeeds
-    local deadline=$((SECONDS + $1)); shift
-    until "$@" >/dev/null 2>&1; do
-        ((SECONDS < deadline)) || return 1
-        sleep 0.05
-    done
-}
+source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 wait_for 10 xdpyinfo || { echo "X server $DISPLAY not answering" >&2; exit 1; }
 
 if [[ $wm == 1 ]] && command -v openbox >/dev/null; then

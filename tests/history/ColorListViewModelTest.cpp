@@ -20,7 +20,7 @@ PickedColor makeColor(double red, bool pinned = false, std::optional<QString> na
     return color;
 }
 
-class ColorListViewModelTest : public ::testing::Test {
+class ColorListViewModelTest : public ::testing::Test, public FakeHistoryFacilities {
 protected:
     SettingsStore &store() { return *settings.store; }
 
@@ -52,10 +52,6 @@ protected:
     }
 
     TempSettings settings;
-    FakeScreenColorSampler sampler;
-    FakeClipboard clipboard;
-    FakeCopyConfirmation confirmation;
-    FakeExportDialogs dialogs;
     std::unique_ptr<ColorListViewModel> model;
     std::unique_ptr<QSignalSpy> colorsChanged;
     std::unique_ptr<QSignalSpy> pickingChanged;

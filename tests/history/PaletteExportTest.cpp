@@ -101,7 +101,7 @@ TEST(PaletteExportTest, JsonLayout)
     }
 }
 
-class ExportFlowTest : public ::testing::Test {
+class ExportFlowTest : public ::testing::Test, public FakeHistoryFacilities {
 protected:
     void SetUp() override
     {
@@ -118,10 +118,6 @@ protected:
     const QList<PickedColor> history { color(0.2, 0.4, 0.8),
         color(1.0, 0.42, 0.21, QStringLiteral("Sunset"), true), color(0, 0, 0) };
     TempSettings settings;
-    FakeScreenColorSampler sampler;
-    FakeClipboard clipboard;
-    FakeCopyConfirmation confirmation;
-    FakeExportDialogs dialogs;
     std::unique_ptr<ColorListViewModel> model;
 };
 

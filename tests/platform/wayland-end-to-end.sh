@@ -31,13 +31,7 @@ fail() {
     tail -n 20 "$home/vantle.log" >&2 || true
     exit 1
 }
-wait_for() { # wait_for SECONDS COMMAND...
-    local deadline=$((SECONDS + $1)); shift
-    until "$@" >/dev/null 2>&1; do
-        ((SECONDS < deadline)) || return 1
-        sleep 0.05
-    done
-}
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
 bus_call() { # bus_call DEST PATH INTERFACE.METHOD ARGS...
     dbus-send --session --print-reply=literal --dest="$1" "$2" "$3" "${@:4}"
 }

@@ -25,13 +25,7 @@ fail() {
     done
     exit 1
 }
-wait_for() { # wait_for SECONDS COMMAND...
-    local deadline=$((SECONDS + $1)); shift
-    until "$@" >/dev/null 2>&1; do
-        ((SECONDS < deadline)) || return 1
-        sleep 0.05
-    done
-}
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
 running() { kill -0 "$1" 2>/dev/null && [[ $(ps -o stat= -p "$1") != Z* ]]; }
 exited() { ! running "$1"; }
 config_has() { grep -q "^$1\$" "$XDG_CONFIG_HOME/Vantle/Vantle.conf" 2>/dev/null; }

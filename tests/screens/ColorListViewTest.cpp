@@ -26,7 +26,7 @@ PickedColor makeColor(double r, double g, double b, bool pinned = false,
     return color;
 }
 
-class ColorListViewTest : public ::testing::Test {
+class ColorListViewTest : public ::testing::Test, public FakeHistoryFacilities {
 public: // the case tables below reach in from lambdas
     void build(const QList<PickedColor> &colors, const QString &format = QStringLiteral("Hex"))
     {
@@ -90,10 +90,6 @@ public: // the case tables below reach in from lambdas
     }
 
     TempSettings settings;
-    FakeScreenColorSampler sampler;
-    FakeClipboard clipboard;
-    FakeCopyConfirmation confirmation;
-    FakeExportDialogs dialogs;
     std::unique_ptr<ColorListViewModel> model;
     std::unique_ptr<ColorListView> view;
     int settingsOpened = 0;

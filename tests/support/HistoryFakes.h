@@ -85,3 +85,12 @@ public:
     QList<SaveRequest> saveRequests;
     QStringList failures;
 };
+
+// The history model's four facilities, all fakes, under the names tests use; a test fixture
+// derives from it.
+struct FakeHistoryFacilities {
+    FakeScreenColorSampler sampler;
+    FakeClipboard clipboard;
+    FakeCopyConfirmation confirmation;
+    FakeExportDialogs dialogs;
+};

@@ -1,5 +1,6 @@
 #include "app/CommandLine.h"
 #include "history/PaletteExport.h"
+#include "services/AtomicFile.h"
 #include "model/PickedColor.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
@@ -61,7 +62,7 @@ int runExportCommand(const QStringList &args, CommandContext &context)
     const QByteArray content
         = asJSON ? exportJSON(colors) : exportText(colors, SettingsViewModel::currentFormat(context.store));
     if (outputPath) {
-        if (const std::optional<QString> failure = writeExportFile(*outputPath, content)) {
+        if (const std::optional<QString> failure = writeFileAtomically(*outputPath, content)) {
             context.err << "vantle export: cannot write \"" << *outputPath << "\": " << *failure << Qt::endl;
             return ExitStatus::failure;
         }

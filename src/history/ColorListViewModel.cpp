@@ -4,6 +4,7 @@
 #include "history/CopyConfirmation.h"
 #include "history/ExportDialogs.h"
 #include "history/PaletteExport.h"
+#include "services/AtomicFile.h"
 #include "history/ScreenColorSampler.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
@@ -14,7 +15,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QPointer>
-#include <QSaveFile>
 #include <QSet>
 #include <QStandardPaths>
 
@@ -225,7 +225,7 @@ void ColorListViewModel::keepUnreadableHistory(const QByteArray &bytes)
     for (int n = 2; QFileInfo::exists(path); ++n)
         path = folder.filePath(QStringLiteral("colorHistory-unreadable-%1-%2.json").arg(stamp).arg(n));
     folder.mkpath(QStringLiteral("."));
-    writeExportFile(path, bytes); // nothing more to do if it fails: the failure is silent
+    writeFileAtomically(path, bytes); // nothing more to do if it fails: the failure is silent
 }
 
 void ColorListViewModel::saveHistory()
@@ -247,7 +247,7 @@ void ColorListViewModel::exportColors(bool pinnedOnly, bool asJSON)
         return;
     const QByteArray content
         = asJSON ? exportJSON(colors) : exportText(colors, SettingsViewModel::currentFormat(m_store));
-    if (const std::optional<QString> failure = writeExportFile(*path, content))
+    if (const std::optional<QString> failure = writeFileAtomically(*path, content))
         m_exportDialogs.showExportFailed(*failure);
 }
 

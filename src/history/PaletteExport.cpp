@@ -1,6 +1,5 @@
 #include "history/PaletteExport.h"
 
-#include <QSaveFile>
 
 QByteArray exportText(const QList<PickedColor> &colors, ColorFormat format)
 {
@@ -58,20 +57,3 @@ QString proposedExportName(bool pinnedOnly, bool asJSON)
     return QLatin1String(pinnedOnly ? "pinned-colors" : "colors") + QLatin1String(asJSON ? ".json" : ".txt");
 }
 
-std::optional<QString> writeExportFile(const QString &path, const QByteArray &content)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    // QSaveFile buffers: a write can "succeed" into memory and the disk's refusal only shows
-    // in the flush, which commit() does not report. Without this, a full disk turned the
-    // export into an empty file that replaced the old one.
-    if (file.write(content) != content.size() || !file.flush()) {
-        const QString reason = file.errorString();
-        file.cancelWriting();
-        return reason;
-    }
-    if (!file.commit())
-        return file.errorString();
-    return std::nullopt;
-}

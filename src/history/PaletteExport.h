@@ -6,7 +6,6 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
-#include <optional>
 
 // The two palette file layouts, shared by the export menu and `vantle export`. Pure functions
 // of their arguments; the content is UTF-8.
@@ -22,6 +21,3 @@ QByteArray exportJSON(const QList<PickedColor> &colors);
 // The file name the save dialog proposes: pinned-colors or colors, with .json or .txt.
 QString proposedExportName(bool pinnedOnly, bool asJSON);
 
-// Writes `content` to `path` atomically: the whole file appears at once, and a failed write
-// leaves any existing file as it was. The system's description of the failure, or nothing.
-std::optional<QString> writeExportFile(const QString &path, const QByteArray &content);

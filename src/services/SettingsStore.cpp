@@ -1,10 +1,13 @@
 #include "services/SettingsStore.h"
 
+#include "services/AtomicFile.h"
+
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -15,9 +18,16 @@ namespace {
 // A history of 10,000 colours takes about 2 MB.
 constexpr qint64 largestReadableFileSize = 16 * 1024 * 1024;
 
-QString fileStamp()
+// Where an unreadable file goes aside: "<file>.unreadable-<UTC time>", numbered when that
+// second already put one there.
+QString asidePath(const QString &path)
 {
-    return QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    const QString stamp = path + QStringLiteral(".unreadable-")
+        + QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    QString aside = stamp;
+    for (int n = 2; QFileInfo::exists(aside) || QFileInfo(aside).isSymLink(); ++n)
+        aside = stamp + QLatin1Char('-') + QString::number(n);
+    return aside;
 }
 
 // QSettings guards every write with "<file>.lock", which holds the writer's process id and,
@@ -31,11 +41,47 @@ void clearAbandonedLock(const QString &settingsPath)
     const int fd = ::open(lockPath.constData(), O_RDONLY | O_CLOEXEC);
     if (fd < 0)
         return;
-    struct stat info {};
-    const bool abandoned = ::fstat(fd, &info) == 0 && info.st_size == 0 && ::flock(fd, LOCK_EX | LOCK_NB) == 0;
+    struct stat info { };
+    const bool abandoned
+        = ::fstat(fd, &info) == 0 && info.st_size == 0 && ::flock(fd, LOCK_EX | LOCK_NB) == 0;
     ::close(fd);
     if (abandoned)
         ::unlink(lockPath.constData());
+}
+
+// The bytes of a data file; nullopt when there is none. A file that is there but cannot be
+// read (no permission, not a regular file, over the size limit, an I/O error) is moved aside
+// first: the next save would replace it, and it may hold the user's colours.
+std::optional<QByteArray> readDataFile(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path);
+    // Non-blocking, so that a FIFO in its place cannot hang the launch.
+    const int fd = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0 && errno == ENOENT)
+        return std::nullopt;
+    QByteArray bytes;
+    bool readable = false;
+    struct stat info { };
+    if (fd >= 0 && ::fstat(fd, &info) == 0 && S_ISREG(info.st_mode)
+        && info.st_size <= largestReadableFileSize) {
+        bytes.resize(info.st_size);
+        qsizetype done = 0;
+        while (done < bytes.size()) {
+            const ssize_t n = ::read(fd, bytes.data() + done, size_t(bytes.size() - done));
+            if (n < 0 && errno == EINTR)
+                continue;
+            if (n <= 0)
+                break;
+            done += n;
+        }
+        readable = done == bytes.size();
+    }
+    if (fd >= 0)
+        ::close(fd);
+    if (readable)
+        return bytes;
+    QFile::rename(path, asidePath(path));
+    return std::nullopt;
 }
 
 } // namespace
@@ -48,18 +94,22 @@ SettingsStore::SettingsStore(const QString &filePath, QObject *parent)
     if (QFileInfo(filePath).size() > largestReadableFileSize) {
         // No file of ours comes near this size; parsing one would stall the launch for seconds.
         // It goes aside whole (a rename, instant) and the program starts on fresh settings.
-        QFile::rename(filePath, filePath + QStringLiteral(".unreadable-") + fileStamp());
+        QFile::rename(filePath, asidePath(filePath));
     }
     open();
     m_settings->allKeys(); // QSettings parses sections lazily; parse all now to see errors
     if (m_settings->status() == QSettings::FormatError) {
         // The next write would replace the file with only what could be parsed: keep the
         // original bytes, which may hold the user's colours.
-        QFile::copy(filePath, filePath + QStringLiteral(".unreadable-") + fileStamp());
+        QFile::copy(filePath, asidePath(filePath));
         // Rebuild a clean file from what could be read; a fresh QSettings also clears the
-        // error status, which is sticky otherwise.
-        for (const QString &key : m_settings->allKeys())
-            m_unsaved.insert(key, m_settings->value(key));
+        // error status, which is sticky otherwise. Data kept in the file by earlier versions
+        // goes to its own file, unless a newer one is already there.
+        for (const QString &key : m_settings->allKeys()) {
+            const QVariant value = m_settings->value(key);
+            if (value.typeId() != QMetaType::QByteArray || !QFileInfo::exists(dataFilePath(key)))
+                m_unsaved.insert(key, value);
+        }
         m_settings.reset();
         QFile::remove(filePath);
         open();
@@ -86,6 +136,11 @@ QString SettingsStore::filePath() const
     return m_filePath;
 }
 
+QString SettingsStore::dataFilePath(const QString &key) const
+{
+    return QFileInfo(m_filePath).absoluteDir().filePath(key + QStringLiteral(".json"));
+}
+
 void SettingsStore::registerDefaults(const QVariantMap &defaults)
 {
     for (auto it = defaults.begin(); it != defaults.end(); ++it)
@@ -97,7 +152,7 @@ bool SettingsStore::hasOwnValue(const QString &key) const
     const auto unsaved = m_unsaved.constFind(key);
     if (unsaved != m_unsaved.constEnd())
         return unsaved->isValid();
-    return m_settings->contains(key);
+    return m_settings->contains(key) || QFileInfo::exists(dataFilePath(key));
 }
 
 QVariant SettingsStore::objectForKey(const QString &key) const
@@ -172,6 +227,12 @@ qint64 SettingsStore::integerForKey(const QString &key) const
 
 std::optional<QByteArray> SettingsStore::dataForKey(const QString &key) const
 {
+    if (!m_unsaved.contains(key)) {
+        if (std::optional<QByteArray> own = readDataFile(dataFilePath(key)))
+            return own;
+    }
+    // Earlier versions kept data in the settings file itself; it stays readable there until
+    // the next write of the key moves it.
     const QVariant v = objectForKey(key);
     if (v.typeId() != QMetaType::QByteArray)
         return std::nullopt;
@@ -229,10 +290,22 @@ bool storesSameText(const QVariant &stored, const QVariant &value)
 
 } // namespace
 
+bool SettingsStore::holds(const QString &key, const QVariant &value) const
+{
+    if (!m_unsaved.isEmpty() || m_settings->status() != QSettings::NoError)
+        return false;
+    if (value.typeId() != QMetaType::QByteArray)
+        return storesSameText(m_settings->value(key), value) && !QFileInfo::exists(dataFilePath(key));
+    const QByteArray bytes = value.toByteArray();
+    if (QFileInfo(dataFilePath(key)).size() != bytes.size() || m_settings->contains(key))
+        return false;
+    QFile file(dataFilePath(key));
+    return file.open(QIODevice::ReadOnly) && file.readAll() == bytes;
+}
+
 bool SettingsStore::write(const QString &key, const QVariant &value)
 {
-    if (m_unsaved.isEmpty() && m_settings->status() == QSettings::NoError
-        && storesSameText(m_settings->value(key), value)) {
+    if (holds(key, value)) {
         // Already on disk: rewriting the file (Vantle writes some values back at every
         // launch) would cost a disk write and nothing else.
         Q_EMIT changed(key);
@@ -246,20 +319,52 @@ bool SettingsStore::write(const QString &key, const QVariant &value)
 
 bool SettingsStore::flush()
 {
+    // Data (the colour history, up to megabytes) has a file of its own: reading and writing
+    // it as raw bytes takes a fraction of the time QSettings spends escaping it into an INI
+    // value, and the small settings file stays quick to rewrite.
+    bool allSaved = true;
+    bool settingsChanged = false;
+    QStringList saved;
+    QStringList applied; // to the settings file, saved once it is synced
     for (auto it = m_unsaved.constBegin(); it != m_unsaved.constEnd(); ++it) {
+        const QString &key = it.key();
+        const QString dataPath = dataFilePath(key);
+        if (it->typeId() == QMetaType::QByteArray) {
+            if (writeFileAtomically(dataPath, it->toByteArray())) {
+                allSaved = false;
+                continue;
+            }
+            saved.append(key);
+            if (m_settings->contains(key)) { // an earlier version's copy
+                m_settings->remove(key);
+                settingsChanged = true;
+            }
+            continue;
+        }
+        if (QFileInfo::exists(dataPath) && !QFile::remove(dataPath)) {
+            allSaved = false; // it would still be read: try again at the next write
+            continue;
+        }
         if (it->isValid())
-            m_settings->setValue(it.key(), *it);
+            m_settings->setValue(key, *it);
         else
-            m_settings->remove(it.key());
+            m_settings->remove(key);
+        applied.append(key);
+        settingsChanged = true;
     }
-    // QSettings writes through a temporary file and a rename, so the file on disk is always
-    // either the old or the new whole.
-    clearAbandonedLock(m_filePath);
-    m_settings->sync();
-    if (m_settings->status() == QSettings::NoError) {
-        m_unsaved.clear();
-        return true;
+    if (settingsChanged) {
+        // QSettings writes through a temporary file and a rename, so the file on disk is
+        // always either the old or the new whole.
+        clearAbandonedLock(m_filePath);
+        m_settings->sync();
+        if (m_settings->status() == QSettings::NoError) {
+            saved.append(applied);
+        } else {
+            allSaved = false;
+            open(); // clears the sticky error, so the next write can tell whether it reached the disk
+        }
     }
-    open(); // clears the sticky error, so the next write can tell whether it reached the disk
-    return false;
+    for (const QString &key : saved)
+        m_unsaved.remove(key);
+    return allSaved;
 }

@@ -1,16 +1,19 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QObject>
 #include <QSettings>
 #include <QString>
-#include <QHash>
 #include <QVariantMap>
 #include <memory>
 #include <optional>
 
 // The user's preferences and colour history: a key-value store over one INI file
-// (~/.config/Vantle/Vantle.conf), with registered defaults and a change signal.
+// (~/.config/Vantle/Vantle.conf), with registered defaults and a change signal. A data value
+// (the colour history) is kept as raw bytes in a file of its own beside it, named after its
+// key (colorHistory.json), so one store per folder; data that earlier versions kept in the
+// INI file is read from there until its next write moves it.
 //
 // - A registered default is answered only while the key holds no value of its own; it lives
 //   in memory and is never written to disk.
@@ -22,7 +25,8 @@
 //   and the next write that succeeds carries every value not yet saved.
 // - A file that cannot be parsed is copied aside (Vantle.conf.unreadable-<UTC time>) before
 //   anything rewrites it; what could be read stays in use. A file over 16 MB (none of ours
-//   comes near) is moved aside under the same name unread, and the store starts empty.
+//   comes near) is moved aside under the same name unread, and the store starts empty; so is
+//   a data file that cannot be read (colorHistory.json.unreadable-<UTC time>).
 // - `changed` fires after every write and removal, on the thread that wrote (the main one).
 class SettingsStore : public QObject {
     Q_OBJECT
@@ -33,6 +37,7 @@ public:
     // $XDG_CONFIG_HOME/Vantle/Vantle.conf (~/.config when unset).
     static QString standardFilePath();
     QString filePath() const;
+    QString dataFilePath(const QString &key) const;
 
     void registerDefaults(const QVariantMap &defaults);
 
@@ -54,6 +59,8 @@ Q_SIGNALS:
 private:
     void open();
     QVariant objectForKey(const QString &key) const;
+    // Whether the files already hold `value` for `key`, so writing it would change nothing.
+    bool holds(const QString &key, const QVariant &value) const;
     bool write(const QString &key, const QVariant &value);
     bool flush();
 

@@ -1,10 +1,11 @@
 #include "services/XdgAutostartService.h"
 
+#include "services/AtomicFile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace {
@@ -101,15 +102,8 @@ bool XdgAutostartService::registerItem()
 {
     if (!QDir().mkpath(QFileInfo(m_entryPath).absolutePath()))
         return false;
-    QSaveFile file(m_entryPath);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    const QByteArray text = entryText(m_programPath);
-    // The refusal of a full disk shows only in the flush (commit() would replace the entry
-    // with an empty file that reads as enabled).
-    if (file.write(text) != text.size() || !file.flush())
-        return false;
-    return file.commit() && isEnabled();
+    // A failed write leaves no empty entry behind, which would read as enabled.
+    return !writeFileAtomically(m_entryPath, entryText(m_programPath)) && isEnabled();
 }
 
 bool XdgAutostartService::unregisterItem()

@@ -42,9 +42,9 @@ protected:
         ASSERT_TRUE(outer.isValid());
         mountPoint = outer.filePath(QStringLiteral("disk"));
         ASSERT_TRUE(QDir().mkpath(mountPoint));
-        if (!run(QStringLiteral("mount"), {QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
-                                           QStringLiteral("size=64k,mode=700"), QStringLiteral("vantle-test"),
-                                           mountPoint}))
+        if (!run(QStringLiteral("mount"),
+                { QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"),
+                    QStringLiteral("size=64k,mode=700"), QStringLiteral("vantle-test"), mountPoint }))
             GTEST_SKIP() << "cannot mount a tmpfs here (no CAP_SYS_ADMIN in this container?)";
         mounted = true;
         settingsPath = mountPoint + QStringLiteral("/Vantle/Vantle.conf");
@@ -52,7 +52,7 @@ protected:
     void TearDown() override
     {
         if (mounted)
-            run(QStringLiteral("umount"), {QStringLiteral("-l"), mountPoint});
+            run(QStringLiteral("umount"), { QStringLiteral("-l"), mountPoint });
     }
     // Fills the disk to the last byte with a file that can be removed again.
     void fill()
@@ -60,26 +60,23 @@ protected:
         QFile filler(mountPoint + QStringLiteral("/filler"));
         ASSERT_TRUE(filler.open(QIODevice::WriteOnly));
         const QByteArray block(512, 'x');
-        while (filler.write(block) == block.size() && filler.flush()) {
-        }
+        while (filler.write(block) == block.size() && filler.flush()) { }
         const QByteArray byte(1, 'x');
-        while (filler.write(byte) == 1 && filler.flush()) {
-        }
+        while (filler.write(byte) == 1 && filler.flush()) { }
     }
     void freeSpace() { ASSERT_TRUE(QFile::remove(mountPoint + QStringLiteral("/filler"))); }
     bool remount(const char *mode)
     {
         return run(QStringLiteral("mount"),
-                   {QStringLiteral("-o"), QStringLiteral("remount,%1").arg(QLatin1String(mode)), mountPoint});
+            { QStringLiteral("-o"), QStringLiteral("remount,%1").arg(QLatin1String(mode)), mountPoint });
+    }
+    QString historyPath() const
+    {
+        return QFileInfo(settingsPath).dir().filePath(QStringLiteral("colorHistory.json"));
     }
     QList<PickedColor> storedOnDisk() const
     {
-        // A copy under a fresh name: the next launch reads the bytes on disk.
-        const QString copy = outer.filePath(QStringLiteral("next-%1.conf").arg(++generation));
-        QFile::copy(settingsPath, copy);
-        SettingsStore next(copy);
-        return decodeColorHistory(next.dataForKey(PreferenceKeys::colorHistory).value_or(QByteArray()))
-            .value_or(QList<PickedColor>());
+        return decodeColorHistory(readAll(historyPath())).value_or(QList<PickedColor>());
     }
     void pick(ColorListViewModel &model, double red)
     {
@@ -91,7 +88,6 @@ protected:
     QString mountPoint;
     QString settingsPath;
     bool mounted = false;
-    mutable int generation = 0;
     FakeScreenColorSampler sampler;
     FakeClipboard clipboard;
     FakeCopyConfirmation confirmation;
@@ -105,27 +101,28 @@ TEST_F(TinyDisk, AFullDiskKeepsPicksInMemoryAndTheOldFileUntilASaveCanSucceed)
     pick(model, 0.1);
     pick(model, 0.2);
     ASSERT_EQ(storedOnDisk().size(), 2);
-    const QByteArray before = readAll(settingsPath);
+    const QByteArray before = readAll(historyPath());
 
     fill();
     ASSERT_EQ(QStorageInfo(mountPoint).bytesAvailable(), 0);
     pick(model, 0.3);
     EXPECT_EQ(clipboard.texts.size(), 3) << "the pick still copies";
     EXPECT_EQ(model.colors().size(), 3) << "and stays in the history";
-    EXPECT_EQ(readAll(settingsPath), before) << "the old file stays intact";
+    EXPECT_EQ(readAll(historyPath()), before) << "the old file stays intact";
 
     // Export to the full disk: refused, nothing left behind.
     const QString exportPath = mountPoint + QStringLiteral("/palette.txt");
     dialogs.chosenPath = exportPath;
     model.exportColors(false, false);
     EXPECT_EQ(dialogs.failures.size(), 1);
-    EXPECT_FALSE(QFile::exists(exportPath)) << QFileInfo(exportPath).size() << " bytes, "
-                                            << QStorageInfo(mountPoint).bytesAvailable() << " free";
-    EXPECT_EQ(QDir(mountPoint).entryList(QDir::Files | QDir::Hidden),
-              QStringList{QStringLiteral("filler")});
+    EXPECT_FALSE(QFile::exists(exportPath))
+        << QFileInfo(exportPath).size() << " bytes, " << QStorageInfo(mountPoint).bytesAvailable() << " free";
+    EXPECT_EQ(
+        QDir(mountPoint).entryList(QDir::Files | QDir::Hidden), QStringList { QStringLiteral("filler") });
 
     // The autostart entry on the full disk: refused, not replaced by an empty entry.
-    XdgAutostartService autostart(mountPoint + QStringLiteral("/vantle.desktop"), QStringLiteral("/usr/bin/vantle"));
+    XdgAutostartService autostart(
+        mountPoint + QStringLiteral("/vantle.desktop"), QStringLiteral("/usr/bin/vantle"));
     EXPECT_FALSE(autostart.registerItem());
     EXPECT_FALSE(QFile::exists(mountPoint + QStringLiteral("/vantle.desktop")));
 
@@ -139,14 +136,14 @@ TEST_F(TinyDisk, AReadOnlyConfigFolderKeepsPicksInMemoryUntilItIsWritableAgain)
     SettingsStore store(settingsPath);
     ColorListViewModel model(store, sampler, clipboard, confirmation, dialogs);
     pick(model, 0.1);
-    const QByteArray before = readAll(settingsPath);
+    const QByteArray before = readAll(historyPath());
 
     ASSERT_TRUE(remount("ro"));
     pick(model, 0.2);
     pick(model, 0.3);
     EXPECT_EQ(clipboard.texts.size(), 3);
     EXPECT_EQ(model.colors().size(), 3);
-    EXPECT_EQ(readAll(settingsPath), before);
+    EXPECT_EQ(readAll(historyPath()), before);
 
     ASSERT_TRUE(remount("rw"));
     pick(model, 0.4);

@@ -6,8 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
-#include <sys/stat.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace PreferenceKeys;
 
@@ -114,6 +114,19 @@ TEST(SettingsStore, ValueAlreadyOnDiskIsNotWrittenAgain)
     EXPECT_EQ(spy.count(), 3) << "observers hear of every write";
     EXPECT_EQ(inode(), written);
 
+    // The same for data, which lives in a file of its own.
+    ASSERT_TRUE(store.setData(colorHistory, "[1]"));
+    const auto dataInode = [&store] {
+        struct stat st = {};
+        return ::stat(QFile::encodeName(store.dataFilePath(colorHistory)).constData(), &st) == 0 ? st.st_ino
+                                                                                                 : 0;
+    };
+    const auto dataWritten = dataInode();
+    EXPECT_TRUE(store.setData(colorHistory, "[1]"));
+    EXPECT_EQ(dataInode(), dataWritten);
+    EXPECT_TRUE(store.setData(colorHistory, "[2]"));
+    EXPECT_NE(dataInode(), dataWritten);
+
     EXPECT_TRUE(store.setBool(showColorDot, false));
     EXPECT_NE(inode(), written);
     QFile f(path);
@@ -147,6 +160,53 @@ TEST(SettingsStore, CorruptFileIsKeptAsideAndReadsAsMissing)
     // Still writable afterwards.
     EXPECT_TRUE(t.store->setInteger(historyLimit, 20));
     EXPECT_EQ(t.reopen()->integerForKey(historyLimit), 20);
+}
+
+TEST(SettingsStore, DataLeavesTheSettingsFileForItsOwnAtTheFirstWrite)
+{
+    TempSettings t;
+    t.store.reset();
+    {
+        QFile f(t.filePath()); // as earlier versions wrote the history
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write("[General]\ncolorHistory=\"@ByteArray([{\\\"a\\\":1}])\"\nshowColorDot=true\n");
+    }
+    t.store = std::make_unique<SettingsStore>(t.filePath());
+    EXPECT_EQ(t.store->dataForKey(colorHistory), QByteArray(R"([{"a":1}])"));
+    const QString dataPath = t.dir.filePath(QStringLiteral("colorHistory.json"));
+    EXPECT_EQ(t.store->dataFilePath(colorHistory), dataPath);
+
+    EXPECT_TRUE(t.store->setData(colorHistory, "[]"));
+    QFile data(dataPath);
+    ASSERT_TRUE(data.open(QIODevice::ReadOnly));
+    EXPECT_EQ(data.readAll(), "[]");
+    QFile settings(t.filePath());
+    ASSERT_TRUE(settings.open(QIODevice::ReadOnly));
+    EXPECT_EQ(settings.readAll(), "[General]\nshowColorDot=true\n");
+    EXPECT_EQ(t.reopen()->dataForKey(colorHistory), QByteArray("[]"));
+
+    t.store->removeObject(colorHistory);
+    EXPECT_FALSE(QFile::exists(dataPath));
+    EXPECT_FALSE(t.reopen()->hasOwnValue(colorHistory));
+}
+
+TEST(SettingsStore, UnreadableDataFileGoesAsideAndReadsAsMissing)
+{
+    TempSettings t;
+    const QString dataPath = t.store->dataFilePath(colorHistory);
+    const auto aside = [&t] {
+        return QDir(t.dir.path())
+            .entryList({ QStringLiteral("colorHistory.json.unreadable-*") }, QDir::AllEntries | QDir::System);
+    };
+    // A folder, and a FIFO that would block a plain read for ever.
+    ASSERT_TRUE(QDir().mkpath(dataPath));
+    EXPECT_EQ(t.store->dataForKey(colorHistory), std::nullopt);
+    EXPECT_EQ(aside().size(), 1);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(dataPath).constData(), 0600), 0);
+    EXPECT_EQ(t.store->dataForKey(colorHistory), std::nullopt);
+    EXPECT_EQ(aside().size(), 2);
+    EXPECT_TRUE(t.store->setData(colorHistory, "[]"));
+    EXPECT_EQ(t.reopen()->dataForKey(colorHistory), QByteArray("[]"));
 }
 
 TEST(SettingsStore, UnwritableFolderKeepsValuesInMemoryAndTheOldFile)

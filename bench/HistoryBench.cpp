@@ -32,8 +32,8 @@ QList<PickedColor> someColors(int count)
     QRandomGenerator random(7);
     QList<PickedColor> colors;
     for (int i = 0; i < count; ++i) {
-        PickedColor c = PickedColor::fromSample(random.generateDouble(), random.generateDouble(),
-                                                random.generateDouble(), 1.0);
+        PickedColor c = PickedColor::fromSample(
+            random.generateDouble(), random.generateDouble(), random.generateDouble(), 1.0);
         if (i % 7 == 0)
             c.name = QStringLiteral("Colour %1").arg(i);
         c.isPinned = i % 50 == 0;
@@ -95,7 +95,8 @@ int main(int argc, char **argv)
         model.togglePin(model.colors().at(1));
         const double total = clock.nsecsElapsed() / 1e6;
         if (model.colors().size() != 10000) {
-            std::fprintf(stderr, "history bench: %lld colours loaded, not 10000\n", (long long)model.colors().size());
+            std::fprintf(
+                stderr, "history bench: %lld colours loaded, not 10000\n", (long long)model.colors().size());
             return 1;
         }
         if (run == 0)
@@ -114,14 +115,18 @@ int main(int argc, char **argv)
     SettingsViewModel::registerDefaults(store);
     ColorListViewModel model(store, sampler, clipboard, confirmation, dialogs);
     std::vector<double> popup;
-    const QRect anchor(QGuiApplication::primaryScreen()->geometry().topRight() - QPoint(40, 0), QSize(24, 24));
+    const QRect anchor(
+        QGuiApplication::primaryScreen()->geometry().topRight() - QPoint(40, 0), QSize(24, 24));
     for (int run = 0; run <= runs; ++run) { // the first run loads fonts and symbols once for all
         FirstPaint watcher;
         QElapsedTimer clock;
         clock.start();
         auto window = std::make_unique<PopupWindow>();
         window->installEventFilter(&watcher);
-        window->setContent(new ColorListView(model, store, [] {}, [] {}));
+        window->setContent([&] {
+            return new ColorListView(
+                model, store, [] {}, [] {});
+        });
         window->popUp(anchor);
         while (!watcher.painted && clock.elapsed() < 5000)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);

@@ -27,8 +27,8 @@ using namespace PreferenceKeys;
 AppDelegate::AppDelegate(Facilities facilities, QObject *parent)
     : QObject(parent)
     , m_facilities(facilities)
-    , m_updaterController(std::make_unique<UpdaterController>(facilities.store, facilities.network,
-                                                              facilities.updateInterface))
+    , m_updaterController(std::make_unique<UpdaterController>(
+          facilities.store, facilities.network, facilities.updateInterface))
 {
 }
 
@@ -43,7 +43,7 @@ void AppDelegate::applicationDidFinishLaunching()
 
     // 2. The models. The history loads in its construction.
     m_viewModel = std::make_unique<ColorListViewModel>(store, m_facilities.sampler, m_facilities.clipboard,
-                                                       m_facilities.confirmation, m_facilities.exportDialogs);
+        m_facilities.confirmation, m_facilities.exportDialogs);
     m_viewModel->onColorPicked = [self = QPointer<AppDelegate>(this)](const PickedColor &) {
         if (self)
             self->updateStatusItemIcon();
@@ -63,9 +63,10 @@ void AppDelegate::applicationDidFinishLaunching()
     // 5. Shortcuts: each reaction runs just after its signal, on the main thread.
     m_hotkeyManager->installEventHandler();
     m_hotkeyManager->reregisterAll();
-    connect(m_hotkeyManager.get(), &HotkeyManager::pickHotkeyFired, this, &AppDelegate::pickColor, Qt::QueuedConnection);
+    connect(m_hotkeyManager.get(), &HotkeyManager::pickHotkeyFired, this, &AppDelegate::pickColor,
+        Qt::QueuedConnection);
     connect(m_hotkeyManager.get(), &HotkeyManager::popoverHotkeyFired, this, &AppDelegate::togglePopover,
-            Qt::QueuedConnection);
+        Qt::QueuedConnection);
 
     // 6. Launch at login follows the preference.
     LaunchAtLogin::syncLaunchAtLogin(store, m_facilities.loginItems);
@@ -76,8 +77,8 @@ void AppDelegate::applicationDidFinishLaunching()
     // 8, 9. Redraw the tray icon after any settings change (the history is one) and after a
     // change of the desktop's light or dark appearance.
     connect(&store, &SettingsStore::changed, this, &AppDelegate::updateStatusItemIcon, Qt::QueuedConnection);
-    connect(&m_facilities.appearance, &AppearanceMonitor::appearanceChanged, this, &AppDelegate::updateStatusItemIcon,
-            Qt::QueuedConnection);
+    connect(&m_facilities.appearance, &AppearanceMonitor::appearanceChanged, this,
+        &AppDelegate::updateStatusItemIcon, Qt::QueuedConnection);
 
     // 10. The welcome window on a first run.
     if (!store.boolForKey(onboardingShown)) {
@@ -86,7 +87,8 @@ void AppDelegate::applicationDidFinishLaunching()
     }
 
     // 11. Eject and trash the installation image, if Vantle was just installed from one.
-    DiskImageCleanup(DiskImageCleanup::currentEnvironment(), std::make_shared<ProcessCommandRunner>()).start();
+    DiskImageCleanup(DiskImageCleanup::currentEnvironment(), std::make_shared<ProcessCommandRunner>())
+        .start();
 
     // The quiet update checks (when automatic downloads are on) begin once Vantle runs.
     m_updaterController->startUpdater();
@@ -120,7 +122,8 @@ void AppDelegate::createStatusItem()
     if (m_statusItem)
         return;
     m_statusItem = std::make_unique<QSystemTrayIcon>();
-    m_statusItem->setIcon(QIcon(QPixmap::fromImage(StatusIcon::plainIcon(m_facilities.appearance.isDark(), 2.0))));
+    m_statusItem->setIcon(
+        QIcon(QPixmap::fromImage(StatusIcon::plainIcon(m_facilities.appearance.isDark(), 2.0))));
     m_statusItem->setToolTip(QStringLiteral("Vantle"));
     // Desktops that show only a menu for a tray icon (and a secondary click elsewhere) get
     // the three things one does from the tray.
@@ -130,10 +133,11 @@ void AppDelegate::createStatusItem()
     m_statusMenu->addSeparator();
     m_statusMenu->addAction(tr("Quit Vantle"), qApp, &QCoreApplication::quit);
     m_statusItem->setContextMenu(m_statusMenu.get());
-    connect(m_statusItem.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason == QSystemTrayIcon::Trigger)
-            togglePopover();
-    });
+    connect(m_statusItem.get(), &QSystemTrayIcon::activated, this,
+        [this](QSystemTrayIcon::ActivationReason reason) {
+            if (reason == QSystemTrayIcon::Trigger)
+                togglePopover();
+        });
     m_statusItem->show();
     TrayHost::sendPendingRequests();
     if (m_popover && m_popover->isStandalone()) {
@@ -177,17 +181,20 @@ void AppDelegate::updateStatusItemIcon()
 void AppDelegate::refreshPopoverContent()
 {
     QPointer<AppDelegate> self(this);
-    auto *view = new ColorListView(
-        *m_viewModel, m_facilities.store,
-        [self] {
-            if (self)
-                self->openSettings();
-        },
-        [self] {
-            if (self)
-                qApp->quit();
-        });
-    m_popover->setContent(view);
+    m_popover->setContent([self]() -> QWidget * {
+        if (!self)
+            return nullptr;
+        return new ColorListView(
+            *self->m_viewModel, self->m_facilities.store,
+            [self] {
+                if (self)
+                    self->openSettings();
+            },
+            [self] {
+                if (self)
+                    qApp->quit();
+            });
+    });
 }
 
 void AppDelegate::togglePopover()
@@ -231,7 +238,6 @@ void AppDelegate::openSettings()
         return; // before launching finished there is nothing to set yet
     if (!m_settingsWindow)
         m_settingsWindow = std::make_unique<SettingsWindow>(m_facilities.store, *m_hotkeyManager,
-                                                            m_facilities.loginItems, *m_updaterController,
-                                                            m_viewModel.get());
+            m_facilities.loginItems, *m_updaterController, m_viewModel.get());
     m_settingsWindow->open();
 }

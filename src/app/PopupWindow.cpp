@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace {
 
@@ -49,18 +50,35 @@ void PopupWindow::setStandalone(bool standalone)
         show();
 }
 
-void PopupWindow::setContent(QWidget *content)
+void PopupWindow::setContent(std::function<QWidget *()> makeContent)
 {
     if (m_content)
         m_content->deleteLater();
-    m_content = content;
-    if (content) {
-        layout()->addWidget(content);
-        content->setFocus();
+    m_content = nullptr;
+    m_makeContent = std::move(makeContent);
+    if (isVisible())
+        ensureContent();
+}
+
+QWidget *PopupWindow::content()
+{
+    ensureContent();
+    return m_content;
+}
+
+void PopupWindow::ensureContent()
+{
+    if (m_content || !m_makeContent)
+        return;
+    m_content = std::exchange(m_makeContent, nullptr)();
+    if (m_content) {
+        layout()->addWidget(m_content);
+        m_content->setFocus();
     }
 }
 
-QPoint PopupWindow::placement(const QRect &anchor, const QPoint &pointer, const QSize &size, const QRect &available)
+QPoint PopupWindow::placement(
+    const QRect &anchor, const QPoint &pointer, const QSize &size, const QRect &available)
 {
     QPoint origin;
     if (anchor.isValid() && !anchor.isEmpty()) {
@@ -71,13 +89,16 @@ QPoint PopupWindow::placement(const QRect &anchor, const QPoint &pointer, const 
     } else {
         origin = QPoint(pointer.x() - size.width() / 2, pointer.y() + gapBelowAnchor);
     }
-    origin.setX(qBound(available.left(), origin.x(), qMax(available.left(), available.right() + 1 - size.width())));
-    origin.setY(qBound(available.top(), origin.y(), qMax(available.top(), available.bottom() + 1 - size.height())));
+    origin.setX(
+        qBound(available.left(), origin.x(), qMax(available.left(), available.right() + 1 - size.width())));
+    origin.setY(
+        qBound(available.top(), origin.y(), qMax(available.top(), available.bottom() + 1 - size.height())));
     return origin;
 }
 
 void PopupWindow::popUp(const QRect &anchor)
 {
+    ensureContent();
     adjustSize();
     const QPoint pointer = QCursor::pos();
     QScreen *screen = QGuiApplication::screenAt(anchor.isValid() ? anchor.center() : pointer);

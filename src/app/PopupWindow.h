@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 
 // The window under the tray icon that hosts the colour list. Frameless; it closes when the user
 // clicks elsewhere or presses Escape, and takes keyboard focus when it opens.
@@ -13,9 +14,11 @@ class PopupWindow : public QWidget {
 public:
     explicit PopupWindow(QWidget *parent = nullptr);
 
-    // Replaces the hosted content (the previous one is deleted).
-    void setContent(QWidget *content);
-    QWidget *content() const { return m_content; }
+    // Replaces the hosted content (the previous one is deleted). `makeContent` runs when the
+    // content is first needed: the window opening, or at once if it is open. Until the user
+    // opens the popup, the list, its rows and the fonts they load cost no memory.
+    void setContent(std::function<QWidget *()> makeContent);
+    QWidget *content();
 
     void setStandalone(bool standalone);
     bool isStandalone() const { return m_standalone; }
@@ -29,7 +32,8 @@ public:
     bool justClosedByOutsideClick() const;
 
     // Where the window goes for an anchor, pure geometry for a screen's available area.
-    static QPoint placement(const QRect &anchor, const QPoint &pointer, const QSize &size, const QRect &available);
+    static QPoint placement(
+        const QRect &anchor, const QPoint &pointer, const QSize &size, const QRect &available);
 
 Q_SIGNALS:
     void closed();
@@ -40,6 +44,9 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    void ensureContent();
+
+    std::function<QWidget *()> m_makeContent;
     QPointer<QWidget> m_content;
     bool m_standalone = false;
     qint64 m_closedAtMs = 0;

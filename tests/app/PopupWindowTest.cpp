@@ -1,6 +1,11 @@
 // Where the popup opens: under the tray icon, above it for a bottom panel, near the pointer when
-// the icon's place is unknown, and always whole on the screen's available area.
+// the icon's place is unknown, and always whole on the screen's available area; and when its
+// content is built.
 #include "app/PopupWindow.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPointer>
 
 #include <gtest/gtest.h>
 
@@ -38,4 +43,29 @@ TEST(PopupWindowPlacement, ALargerPopupThanTheScreenKeepsItsTopLeftVisible)
 {
     const QRect available(1920, 0, 300, 200);
     EXPECT_EQ(PopupWindow::placement(QRect(2100, 0, 24, 24), {}, QSize(320, 400), available), QPoint(1920, 0));
+}
+
+TEST(PopupWindowContent, IsBuiltWhenThePopupFirstOpens)
+{
+    // Building the list loads fonts and every row: a resident tray program pays for it only
+    // once the user opens the popup.
+    PopupWindow popup;
+    int built = 0;
+    QPointer<QWidget> first;
+    popup.setContent([&]() -> QWidget * {
+        ++built;
+        return first = new QWidget;
+    });
+    EXPECT_EQ(built, 0);
+    popup.popUp(QRect());
+    EXPECT_EQ(built, 1);
+    EXPECT_EQ(popup.content(), first);
+    popup.popUp(QRect());
+    EXPECT_EQ(built, 1) << "reopening keeps the content";
+
+    // New content while open replaces the old at once.
+    popup.setContent([] { return new QLabel(QStringLiteral("next")); });
+    EXPECT_TRUE(qobject_cast<QLabel *>(popup.content()));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(first.isNull());
 }

@@ -59,6 +59,9 @@ void appendJsonString(QByteArray &out, const QString &text)
                 // Half of a pair alone has no UTF-8 form (it would turn into U+FFFD); the escape
                 // keeps it, so a name reads back exactly as it was saved.
                 appendEscape(c);
+            } else if (c == 0xFEFF && i == 0) {
+                // Raw, a leading U+FEFF is taken for a byte-order mark and dropped on reading.
+                appendEscape(c);
             } else {
                 out.append(QStringView(text).mid(i, 1).toUtf8());
             }

@@ -77,6 +77,56 @@ TEST(PickedColor, ReadsHandWrittenHistoriesLeniently)
     EXPECT_TRUE((*colors)[1].isPinned);
 }
 
+TEST(PickedColor, ReadsWhatEarlierVersionsRead)
+{
+    // Every history so far was read by QJsonDocument, whose leniencies and limits stay.
+    struct Reading {
+        QByteArray members;
+        std::optional<double> red; // none: the history is rejected
+        const char16_t *name = nullptr;
+    };
+    const QByteArray nested
+        = QByteArray(1022, '[') + QByteArray(1022, ']'); // 1024 levels with the history's two
+    const Reading readings[] = {
+        { R"("red":1.)", 1.0 },
+        { R"("red":.5)", 0.5 },
+        { R"("red":-0)", 0.0 }, // and not -0
+        { R"("red":5e-324)", 5e-324 },
+        { R"("red":0e-400)", 0.0 },
+        { R"("red":1e-400)", std::nullopt }, // not zero, and no double holds it
+        { R"("red":01)", std::nullopt },
+        { R"("red":1e)", std::nullopt },
+        { R"("red":+1)", std::nullopt },
+        { R"("red":"1","red":2)", 2.0 }, // the last of a repeated key counts
+        { R"("red":2,"red":"1")", std::nullopt },
+        { R"("r\u0065d":3)", 3.0 },
+        { "\"\xEF\xBB\xBFred\":3", std::nullopt },
+        { R"("red":0,"name":"\u00e9\ud83c\udf05\udc00")", 0.0, u"é🌅\xDC00" },
+        { R"("red":0,"name":"\q\/\x")", 0.0, u"q/x" },
+        { "\"red\":0,\"name\":\"a\tb\x01\"", 0.0, u"a\tb\x01" },
+        { "\"red\":0,\"name\":\"\xEF\xBB\xBF\xEF\xBB\xBF\"", 0.0,
+            u"\uFEFF" }, // one raw mark first is dropped
+        { "\"red\":0,\"name\":\"\xC0\x80\"", std::nullopt },
+        { "\"red\":0,\"name\":\"\xED\xA0\x80\"", std::nullopt },
+        { R"("red":0,"name":"\u12")", std::nullopt },
+        { R"("red":0,"x":)" + nested, 0.0 },
+        { R"("red":0,"x":[)" + nested + "]", std::nullopt },
+    };
+    for (const Reading &r : readings) {
+        SCOPED_TRACE(r.members.constData());
+        const auto colors = decodeColorHistory(
+            R"([{"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","green":0,"blue":0,"alpha":1,"isPinned":false,)"
+            R"("timestamp":0,)"
+            + r.members + "}]");
+        ASSERT_EQ(colors.has_value(), r.red.has_value());
+        if (!colors)
+            continue;
+        EXPECT_EQ(colors->at(0).red, *r.red);
+        EXPECT_FALSE(std::signbit(colors->at(0).red));
+        EXPECT_EQ(colors->at(0).name, r.name ? std::optional(QStringView(r.name).toString()) : std::nullopt);
+    }
+}
+
 TEST(PickedColor, OneBadElementRejectsTheWholeHistory)
 {
     const QByteArray good = R"({"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":1,"blue":1,"alpha":1,"isPinned":false,"timestamp":0})";
@@ -95,8 +145,10 @@ TEST(PickedColor, OneBadElementRejectsTheWholeHistory)
     ASSERT_TRUE(decodeColorHistory("[" + good + "]"));
     for (const QByteArray &element : bad)
         EXPECT_FALSE(decodeColorHistory("[" + good + "," + element + "]")) << element.constData();
-    for (const char *notAHistory : {"", "{}", "null", "[", "\xff\xfe", "[1,2"})
+    for (const char *notAHistory :
+        { "", "{}", "null", "[", "\xff\xfe", "[1,2", "[]x", "[] []", " \xEF\xBB\xBF[]" })
         EXPECT_FALSE(decodeColorHistory(notAHistory)) << notAHistory;
+    EXPECT_EQ(decodeColorHistory("\xEF\xBB\xBF [ ]\r\n"), QList<PickedColor>());
 }
 
 TEST(PickedColor, EqualityIsAllFieldsIdentityIsId)

@@ -22,11 +22,11 @@ QString roundedInteger(double value)
     return fixed(rounded, 0);
 }
 
-std::string shortest(double value)
+void appendShortest(QByteArray &out, double value)
 {
-    char buffer[64];
+    char buffer[32]; // the longest is 24 characters: -2.2250738585072014e-308
     const auto result = std::to_chars(buffer, buffer + sizeof buffer, value);
-    return std::string(buffer, result.ptr);
+    out.append(buffer, result.ptr - buffer);
 }
 
 std::optional<double> parseFinite(std::string_view text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <optional>
 #include <string_view>
@@ -16,8 +17,8 @@ QString fixed(double value, int decimals);
 // zero. Finite values only.
 QString roundedInteger(double value);
 
-// The shortest text that reads back as the same double (for JSON).
-std::string shortest(double value);
+// Appends the shortest text that reads back as the same double (for JSON). Finite values only.
+void appendShortest(QByteArray &out, double value);
 
 // Parses a whole decimal number (no blanks, no hex, no "inf"/"nan"); exact to the nearest
 // double.

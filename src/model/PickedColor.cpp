@@ -73,12 +73,32 @@ void appendJsonString(QByteArray &out, const QString &text)
 
 namespace {
 
-bool appendNumber(QByteArray &out, double value)
+template<qsizetype Size> void appendLiteral(QByteArray &out, const char (&text)[Size])
 {
-    if (!std::isfinite(value))
-        return false;
-    out.append(NumberText::shortest(value));
-    return true;
+    out.append(text, Size - 1);
+}
+
+// The upper-case 8-4-4-4-12 form, written straight from the id's fields.
+void appendUuid(QByteArray &out, const QUuid &id)
+{
+    static const char hex[] = "0123456789ABCDEF";
+    char text[36];
+    char *p = text;
+    const auto put = [&p](unsigned value, int digits) {
+        for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4)
+            *p++ = hex[(value >> shift) & 15];
+    };
+    put(id.data1, 8);
+    *p++ = '-';
+    put(id.data2, 4);
+    *p++ = '-';
+    put(id.data3, 4);
+    *p++ = '-';
+    put(unsigned(id.data4[0]) << 8 | id.data4[1], 4);
+    *p++ = '-';
+    for (int i = 2; i < 8; ++i)
+        put(id.data4[i], 2);
+    out.append(text, sizeof text);
 }
 
 int hexValue(char16_t c)
@@ -599,32 +619,35 @@ bool HistoryReader::skipContainer()
 std::optional<QByteArray> encodeColorHistory(const QList<PickedColor> &colors)
 {
     QByteArray out;
-    out.reserve(colors.size() * 160 + 2);
+    out.reserve(colors.size() * 200 + 2);
     out.append('[');
     for (qsizetype i = 0; i < colors.size(); ++i) {
         const PickedColor &c = colors[i];
+        if (!std::isfinite(c.red) || !std::isfinite(c.green) || !std::isfinite(c.blue)
+            || !std::isfinite(c.alpha) || !std::isfinite(c.timestamp))
+            return std::nullopt;
         if (i > 0)
             out.append(',');
-        out.append("{\"id\":\"");
-        out.append(c.id.toString(QUuid::WithoutBraces).toUpper().toLatin1());
-        out.append("\",\"red\":");
-        bool ok = appendNumber(out, c.red);
-        out.append(",\"green\":");
-        ok = appendNumber(out, c.green) && ok;
-        out.append(",\"blue\":");
-        ok = appendNumber(out, c.blue) && ok;
-        out.append(",\"alpha\":");
-        ok = appendNumber(out, c.alpha) && ok;
+        appendLiteral(out, "{\"id\":\"");
+        appendUuid(out, c.id);
+        appendLiteral(out, "\",\"red\":");
+        NumberText::appendShortest(out, c.red);
+        appendLiteral(out, ",\"green\":");
+        NumberText::appendShortest(out, c.green);
+        appendLiteral(out, ",\"blue\":");
+        NumberText::appendShortest(out, c.blue);
+        appendLiteral(out, ",\"alpha\":");
+        NumberText::appendShortest(out, c.alpha);
         if (c.name) {
-            out.append(",\"name\":");
+            appendLiteral(out, ",\"name\":");
             appendJsonString(out, *c.name);
         }
-        out.append(c.isPinned ? ",\"isPinned\":true" : ",\"isPinned\":false");
-        out.append(",\"timestamp\":");
-        ok = appendNumber(out, c.timestamp) && ok;
+        if (c.isPinned)
+            appendLiteral(out, ",\"isPinned\":true,\"timestamp\":");
+        else
+            appendLiteral(out, ",\"isPinned\":false,\"timestamp\":");
+        NumberText::appendShortest(out, c.timestamp);
         out.append('}');
-        if (!ok)
-            return std::nullopt;
     }
     out.append(']');
     return out;

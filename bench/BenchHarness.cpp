@@ -764,7 +764,7 @@ void measureIdle(Observer &x, const Options &o, const QString &home, Figures &ou
     x.movePointer(x.width / 2, x.height / 2);
     // The "Copied" confirmation comes up a moment after the loupe goes: the idle window starts
     // once it has come and gone, not in the moment between.
-    if (!x.waitUntil([&] { return !x.viewableWindowsOf(pid).empty(); }, 3000))
+    if (!x.waitUntil([&] { return !x.viewableWindowsOf(pid).empty(); }, 10000))
         die("no \"Copied\" confirmation after the pick");
     std::fprintf(stderr, "  idle after a pick (%d s)\n", o.idleSeconds);
     idleWindow(QStringLiteral("idle_after_pick"), false);

@@ -40,6 +40,11 @@ windows() {
 }
 popup_shown() { windows | awk '$2 == 320 {found=1} END {exit !found}'; }
 popup_hidden() { ! popup_shown; }
+# The loupe: Vantle's window over the whole screen. Its grabs follow the map at once; the short
+# pause after it leaves them time on a slow (sanitizer) build.
+loupe_shown() { windows | awk '$2 >= 1000 && $4 == 0 && $5 == 0 {found=1} END {exit !found}'; }
+loupe_hidden() { ! loupe_shown; }
+wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; sleep 0.5; }
 # Vantle processes on this test's display (other tests may run their own).
 vantles_here() {
     local p n=0
@@ -81,7 +86,7 @@ wait_for 10 popup_hidden || fail "vantle toggle did not close the popup"
 
 # The shortcut, then a click on the desktop: the loupe takes the click, the text the clipboard.
 xdotool key --clearmodifiers alt+shift+c
-sleep 1 # the loupe maps and grabs the pointer
+wait_for_loupe
 xdotool mousemove 100 700 click 1
 wait_for 10 clipboard_is '#FF6B36' || fail "clipboard holds \"$(xclip -o -selection clipboard)\", not #FF6B36"
 shot after-pick
@@ -105,12 +110,12 @@ wait_for 10 popup_hidden || fail "a second click on the tray icon did not close 
 # `vantle pick` from another process starts the loupe; Escape cancels and changes nothing.
 echo "sentinel" | xclip -selection clipboard
 timeout 20 "$vantle" pick || fail "vantle pick failed"
-sleep 1
+wait_for_loupe
 xdotool key Escape
-sleep 0.5
+wait_for 10 loupe_hidden || fail "Escape did not close the loupe"
 clipboard_is sentinel || fail "a cancelled pick changed the clipboard"
 timeout 20 "$vantle" pick
-sleep 1
+wait_for_loupe
 xdotool mousemove 200 600 click 1
 wait_for 10 clipboard_is '#FF6B36' || fail "vantle pick did not copy the colour"
 

@@ -22,14 +22,12 @@ void PaintedButton::focusInEvent(QFocusEvent *event)
 
 void PaintedButton::enterEvent(QEnterEvent *event)
 {
-    m_isHovered = true;
     update();
     QAbstractButton::enterEvent(event);
 }
 
 void PaintedButton::leaveEvent(QEvent *event)
 {
-    m_isHovered = false;
     update();
     QAbstractButton::leaveEvent(event);
 }

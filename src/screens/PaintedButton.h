@@ -11,16 +11,16 @@ public:
     using QAbstractButton::QAbstractButton;
 
 protected:
-    bool isHovered() const { return m_isHovered; }
+    bool isHovered() const { return underMouse(); }
     // Focus reached by the keyboard, not by the window opening or a click.
     bool showsFocusRing() const { return hasFocus() && m_focusFromKeyboard; }
 
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    // Repaint for the hover look.
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
 
 private:
-    bool m_isHovered = false;
     bool m_focusFromKeyboard = false;
 };

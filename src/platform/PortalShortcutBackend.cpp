@@ -54,6 +54,8 @@ PortalShortcutBackend::PortalShortcutBackend(const QDBusConnection &bus, QObject
     qRegisterMetaType<QDBusObjectPath>();
     m_bus.connect(portalService, portalPath, shortcutsInterface, QStringLiteral("Activated"), this,
         SLOT(onActivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
+    m_bus.connect(portalService, portalPath, shortcutsInterface, QStringLiteral("Deactivated"), this,
+        SLOT(onDeactivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
 }
 
 PortalShortcutBackend::~PortalShortcutBackend()
@@ -208,10 +210,23 @@ void PortalShortcutBackend::onActivated(
 {
     if (m_sessionHandle.isEmpty() || sessionHandle.path() != m_sessionHandle)
         return;
+    if (m_heldShortcuts.contains(shortcutId))
+        return; // the key is still down
     for (const GlobalShortcut &shortcut : std::as_const(m_shortcuts)) {
         if (shortcut.name == shortcutId) {
+            if (m_isReportingReleases)
+                m_heldShortcuts << shortcutId;
             Q_EMIT activated(shortcut.id);
             return;
         }
     }
+}
+
+void PortalShortcutBackend::onDeactivated(
+    const QDBusObjectPath &sessionHandle, const QString &shortcutId, qulonglong, const QVariantMap &)
+{
+    if (m_sessionHandle.isEmpty() || sessionHandle.path() != m_sessionHandle)
+        return;
+    m_isReportingReleases = true;
+    m_heldShortcuts.removeAll(shortcutId);
 }

@@ -36,6 +36,8 @@ private Q_SLOTS:
     void onBindResponse(uint response, const QVariantMap &results);
     void onActivated(const QDBusObjectPath &sessionHandle, const QString &shortcutId, qulonglong timestamp,
         const QVariantMap &options);
+    void onDeactivated(const QDBusObjectPath &sessionHandle, const QString &shortcutId, qulonglong timestamp,
+        const QVariantMap &options);
 
 private:
     enum class State { Idle, Creating, Ready, Unavailable };
@@ -55,4 +57,9 @@ private:
     bool m_isBindScheduled = false;
     bool m_isBound = false;
     int m_tokenCounter = 0;
+    // Shortcuts whose keys are down: a desktop that repeats Activated while a key is held
+    // fires once. Only once the desktop has shown that it reports releases, since one that
+    // never sends Deactivated would otherwise fire only the first time.
+    QStringList m_heldShortcuts;
+    bool m_isReportingReleases = false;
 };

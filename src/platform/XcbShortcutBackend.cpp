@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include <xcb/xcb_keysyms.h>
+#include <xcb/xinput.h>
 
 namespace {
 
@@ -48,6 +49,10 @@ XcbShortcutBackend::XcbShortcutBackend(xcb_connection_t *connection, xcb_window_
         m_connection, xcb_query_extension(m_connection, sizeof xkbName - 1, xkbName), nullptr));
     if (xkb && xkb->present)
         m_xkbFirstEvent = xkb->first_event;
+    // XInput 2 raw events tell of a key's release wherever the release itself is delivered.
+    const xcb_query_extension_reply_t *xinput = xcb_get_extension_data(m_connection, &xcb_input_id);
+    if (xinput && xinput->present)
+        m_xinputOpcode = xinput->major_opcode;
 
     readKeyboardMapping();
     QCoreApplication::instance()->installNativeEventFilter(this);
@@ -57,6 +62,7 @@ XcbShortcutBackend::~XcbShortcutBackend()
 {
     if (QCoreApplication::instance())
         QCoreApplication::instance()->removeNativeEventFilter(this);
+    watchRelease(false);
     releaseAllGrabs();
     if (m_symbols)
         xcb_key_symbols_free(m_symbols);
@@ -231,16 +237,40 @@ void XcbShortcutBackend::refreshMapping()
     syncGrabs();
 }
 
+void XcbShortcutBackend::watchRelease(bool isOn)
+{
+    if (m_xinputOpcode == 0 || m_isWatchingRelease == isOn)
+        return;
+    // Raw events reach a listener on the root whoever holds the keyboard: the loupe, the
+    // popup, or another program once our grab has ended. Listened to only while a shortcut's
+    // key is down, so the rest of the day's typing never wakes Vantle.
+    struct {
+        xcb_input_event_mask_t head;
+        uint32_t bits;
+    } mask{{XCB_INPUT_DEVICE_ALL_MASTER, 1}, isOn ? uint32_t(XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE) : 0u};
+    xcb_input_xi_select_events(m_connection, m_root, 1, &mask.head);
+    xcb_flush(m_connection);
+    m_isWatchingRelease = isOn;
+}
+
+void XcbShortcutBackend::noteRelease(xcb_keycode_t keycode, xcb_timestamp_t time)
+{
+    if (keycode != m_heldKeycode || m_heldKeycode == 0)
+        return;
+    m_releaseTime = time;
+}
+
 bool XcbShortcutBackend::handleKey(const xcb_key_press_event_t *event, bool isPress)
 {
-    if (event->event != m_root || m_registrations.empty())
+    // Presses reach us on the root through the passive grabs, or on one of our own windows
+    // while it holds the keyboard (the popup, the loupe): the shortcut works from there too.
+    if (m_registrations.empty())
         return false;
     const xcb_keycode_t keycode = event->detail;
 
     if (!isPress) {
-        if (keycode == m_heldKeycode)
-            m_releaseTime = event->time;
-        return m_grabs.contains(Grab{keycode, quint16(event->state & relevantModifiers())});
+        noteRelease(keycode, event->time);
+        return event->event == m_root && m_grabs.contains(Grab{keycode, quint16(event->state & relevantModifiers())});
     }
 
     const quint16 state = event->state & relevantModifiers();
@@ -254,8 +284,10 @@ bool XcbShortcutBackend::handleKey(const xcb_key_press_event_t *event, bool isPr
         const bool isRepeat = keycode == m_heldKeycode && (!m_releaseTime || *m_releaseTime == event->time);
         m_heldKeycode = keycode;
         m_releaseTime.reset();
-        if (!isRepeat)
+        if (!isRepeat) {
+            watchRelease(true);
             Q_EMIT activated(registration.id);
+        }
         return true;
     }
     return false;
@@ -272,6 +304,18 @@ bool XcbShortcutBackend::nativeEventFilter(const QByteArray &eventType, void *me
         return handleKey(reinterpret_cast<const xcb_key_press_event_t *>(event), true);
     case XCB_KEY_RELEASE:
         return handleKey(reinterpret_cast<const xcb_key_release_event_t *>(event), false);
+    case XCB_GE_GENERIC: {
+        const auto *generic = reinterpret_cast<const xcb_ge_generic_event_t *>(event);
+        if (m_xinputOpcode == 0 || generic->extension != m_xinputOpcode
+            || generic->event_type != XCB_INPUT_RAW_KEY_RELEASE)
+            return false;
+        const auto *raw = reinterpret_cast<const xcb_input_raw_key_release_event_t *>(event);
+        if (m_heldKeycode != 0 && xcb_keycode_t(raw->detail) == m_heldKeycode) {
+            noteRelease(m_heldKeycode, raw->time);
+            watchRelease(false);
+        }
+        return true; // only ever asked for by us
+    }
     case XCB_MAPPING_NOTIFY:
         if (reinterpret_cast<const xcb_mapping_notify_event_t *>(event)->request != XCB_MAPPING_POINTER)
             scheduleMappingRefresh();

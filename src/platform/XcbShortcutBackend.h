@@ -19,9 +19,12 @@ struct _XCBKeySymbols;
 // - A keyboard mapping change (another layout, xmodmap) grabs everything again.
 // - A combination another client already holds is refused by the server with BadAccess; the
 //   error is taken here (checked requests) so it is neither logged nor reported.
-// - Presses arrive through Qt's native event filter on the main thread. Auto-repeat is
+// - Presses arrive through Qt's native event filter on the main thread, on the root or on one
+//   of our own windows that holds the keyboard (the popup, the loupe). Auto-repeat is
 //   recognised (a press of the held key without a release, or a release and a press with the
-//   same time stamp) so one press fires once.
+//   same time stamp) so one press fires once. The release of a shortcut's key often goes to
+//   the window that grabbed the keyboard in answer to the press, or to another program once
+//   that grab is over; XInput 2 raw events report it wherever it went.
 class XcbShortcutBackend final : public GlobalShortcutBackend, public QAbstractNativeEventFilter {
     Q_OBJECT
 public:
@@ -58,11 +61,15 @@ private:
     void scheduleMappingRefresh();
     void refreshMapping();
     bool handleKey(const xcb_key_press_event_t *event, bool isPress);
+    void watchRelease(bool isOn);
+    void noteRelease(xcb_keycode_t keycode, xcb_timestamp_t time);
 
     xcb_connection_t *m_connection;
     xcb_window_t m_root;
     _XCBKeySymbols *m_symbols = nullptr;
     quint8 m_xkbFirstEvent = 0;
+    quint8 m_xinputOpcode = 0;
+    bool m_isWatchingRelease = false;
     quint16 m_altMask = XCB_MOD_MASK_1;
     quint16 m_superMask = XCB_MOD_MASK_4;
     quint16 m_numLockMask = 0;

@@ -297,15 +297,49 @@ public:
             timeoutMs);
     }
 
-    bool isFullScreenOverlay(xcb_window_t window)
+    // What the user aims with: the floor's full-screen freeze-frame, or Vantle's loupe window
+    // (named "vantle-loupe"; the input-only window it sits on shows nothing and is not it).
+    bool isLoupe(xcb_window_t window)
     {
         auto it = m_windows.find(window);
         if (it == m_windows.end() || !it->second.overrideRedirect)
             return false;
+        if (className(window) == "vantle-loupe")
+            return true;
+        xcb_get_window_attributes_reply_t *a = xcb_get_window_attributes_reply(
+            m_connection, xcb_get_window_attributes(m_connection, window), nullptr);
+        const bool drawn = a && a->_class == XCB_WINDOW_CLASS_INPUT_OUTPUT;
+        std::free(a);
+        return drawn && isFullScreen(window);
+    }
+
+    // Override-redirect windows as large as the screen: the floor's freeze-frame, Vantle's
+    // input-only window while it picks.
+    bool isFullScreenOverlay(xcb_window_t window)
+    {
+        auto it = m_windows.find(window);
+        return it != m_windows.end() && it->second.overrideRedirect && (isFullScreen(window) || isLoupe(window));
+    }
+
+    bool isFullScreen(xcb_window_t window)
+    {
         xcb_get_geometry_reply_t *g = xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr);
         const bool full = g && g->width >= width && g->height >= height;
         std::free(g);
         return full;
+    }
+
+    std::string className(xcb_window_t window)
+    {
+        xcb_get_property_reply_t *reply = xcb_get_property_reply(
+            m_connection, xcb_get_property(m_connection, 0, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 16), nullptr);
+        std::string name;
+        if (reply)
+            name = std::string(static_cast<const char *>(xcb_get_property_value(reply)),
+                               strnlen(static_cast<const char *>(xcb_get_property_value(reply)),
+                                       size_t(xcb_get_property_value_length(reply))));
+        std::free(reply);
+        return name;
     }
 
     // A window of `pid` inside another program's window: a tray host's (window managers'
@@ -623,12 +657,12 @@ void sleepUntil(double at)
         std::this_thread::sleep_for(std::chrono::duration<double, std::milli>(left));
 }
 
-// Trigger → full-screen overlay viewable, then Escape and wait until it is gone.
+// Trigger → loupe viewable, then Escape (or a click) and wait until it is gone.
 double timeOverlay(Observer &x, const std::function<double()> &trigger, bool pickByClick = false)
 {
     x.settle();
     const double at = trigger();
-    const auto shown = x.nextMapped(at, [&](xcb_window_t w) { return x.isFullScreenOverlay(w); });
+    const auto shown = x.nextMapped(at, [&](xcb_window_t w) { return x.isLoupe(w); });
     if (!shown)
         die("no loupe came up");
     // The loupe takes the keyboard a moment after it shows: until then a key or a click may go

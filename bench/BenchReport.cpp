@@ -90,7 +90,7 @@ const std::vector<RowSpec> &rowSpecs()
         {QStringLiteral("loupe_redraw"), QStringLiteral("loupe redraw per pointer move, largest zoom"), Goal::Absolute, 2.0},
         {QStringLiteral("loupe_redraw_worst"), QStringLiteral("slowest pointer move of a run, largest zoom"),
          Goal::Absolute, 16.7},
-        {QStringLiteral("sampler_overlay_mapped"), QStringLiteral("in process: pick() → overlay mapped"), Goal::None, 0},
+        {QStringLiteral("sampler_loupe_mapped"), QStringLiteral("in process: pick() → loupe mapped"), Goal::None, 0},
         {QStringLiteral("sampler_first_frame"), QStringLiteral("in process: pick() → loupe's first frame on screen"),
          Goal::None, 0},
         {QStringLiteral("history_load_save_10000"), QStringLiteral("history load + save, 10,000 colours"),

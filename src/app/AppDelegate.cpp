@@ -48,6 +48,12 @@ void AppDelegate::applicationDidFinishLaunching()
         if (self)
             self->updateStatusItemIcon();
     };
+    // Whatever starts a pick (the shortcut, the popup's button, `vantle pick`), the popup gets
+    // out of the loupe's way first: its window is gone before the loupe reads the screen.
+    connect(m_viewModel.get(), &ColorListViewModel::isPickingChanged, this, [this] {
+        if (m_viewModel->isPicking() && m_popover && m_popover->isVisible() && !isStandalone())
+            m_popover->close();
+    });
     m_hotkeyManager = std::make_unique<HotkeyManager>(store, m_facilities.shortcuts);
 
     // 3. The tray icon, once a tray host exists (Vantle may start at login before the panel).
@@ -216,8 +222,6 @@ void AppDelegate::pickColor()
 {
     if (!m_viewModel)
         return; // a request that came in before launching finished
-    if (m_popover && m_popover->isVisible() && !isStandalone())
-        m_popover->close(); // out of the way of the loupe
     m_viewModel->pickColor();
 }
 

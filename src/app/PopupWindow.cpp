@@ -130,8 +130,10 @@ void PopupWindow::keyPressEvent(QKeyEvent *event)
 void PopupWindow::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
+    // Only a click outside closes the popup with a button down; a shortcut, `vantle toggle` or
+    // Escape must not make the next toggle look like that click reaching the tray icon.
     if (!m_standalone)
-        m_closedAtMs = QDateTime::currentMSecsSinceEpoch();
+        m_closedAtMs = QGuiApplication::mouseButtons() != Qt::NoButton ? QDateTime::currentMSecsSinceEpoch() : 0;
     Q_EMIT closed();
 }
 

@@ -2,37 +2,63 @@
 
 #include "model/ColorFormat.h"
 #include "platform/SamplerLoupe.h"
-#include "platform/SamplerOverlay.h"
-#include "platform/X11DesktopCapture.h"
+#include "platform/X11LoupeWindow.h"
 #include "services/SettingsViewModel.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
-#include <xcb/xcb.h>
+#include <xcb/xcb_keysyms.h>
 
 #include <cstdlib>
+#include <cstring>
 
 namespace {
 
 constexpr int grabAttemptLimit = 20;
 constexpr int grabRetryMilliseconds = 25;
+// While the pointer rests the loupe still follows what the screen shows, 20 times a second:
+// one GetImage of a few KiB each time, and a redraw only when a pixel changed.
+constexpr int liveRefreshMilliseconds = 50;
+constexpr uint16_t crosshairGlyph = 34; // XC_crosshair in the standard cursor font
 
-QImage screenPart(const QImage &desktop, const QRect &device)
+// Pixels X gives us for a ZPixmap of the root: 32 bits a pixel with the channels in the
+// visual's masks. The common case, 0xRRGGBB in native order, is exactly QImage::Format_RGB32.
+bool isRgb32(xcb_connection_t *connection, const xcb_screen_t *screen)
 {
-    const QRect part = device.intersected(desktop.rect());
-    if (part.isEmpty())
-        return {};
-    // Shares the desktop's pixels: no copy of a 4K screen on the way to the first frame.
-    return QImage(desktop.constScanLine(part.top()) + part.left() * 4, part.width(), part.height(),
-                  desktop.bytesPerLine(), desktop.format());
+    if (screen->root_depth != 24 && screen->root_depth != 32)
+        return false;
+    const xcb_setup_t *setup = xcb_get_setup(connection);
+    bool bpp32 = false;
+    for (auto it = xcb_setup_pixmap_formats_iterator(setup); it.rem; xcb_format_next(&it))
+        if (it.data->depth == screen->root_depth)
+            bpp32 = it.data->bits_per_pixel == 32;
+    const bool nativeOrder = (setup->image_byte_order == XCB_IMAGE_ORDER_LSB_FIRST)
+        == (QSysInfo::ByteOrder == QSysInfo::LittleEndian);
+    for (auto d = xcb_screen_allowed_depths_iterator(screen); d.rem; xcb_depth_next(&d)) {
+        for (auto v = xcb_depth_visuals_iterator(d.data); v.rem; xcb_visualtype_next(&v)) {
+            if (v.data->visual_id == screen->root_visual)
+                return bpp32 && nativeOrder && v.data->red_mask == 0xff0000 && v.data->green_mask == 0xff00
+                    && v.data->blue_mask == 0xff;
+        }
+    }
+    return false;
+}
+
+std::optional<SampledColor> sampled(const std::optional<SamplerGeometry::Rgb> &rgb)
+{
+    if (!rgb)
+        return std::nullopt;
+    return SampledColor{rgb->red, rgb->green, rgb->blue, 1};
 }
 
 } // namespace
 
 X11ScreenSampler::X11ScreenSampler(xcb_connection_t *connection, const SettingsStore &store)
     : m_connection(connection)
+    , m_screen(xcb_setup_roots_iterator(xcb_get_setup(connection)).data)
     , m_store(store)
+    , m_isReadable(m_screen && isRgb32(connection, m_screen))
 {
     m_grabRetry.setInterval(grabRetryMilliseconds);
     m_grabRetry.setSingleShot(true);
@@ -44,38 +70,65 @@ X11ScreenSampler::X11ScreenSampler(xcb_connection_t *connection, const SettingsS
         else
             finish(std::nullopt); // someone else holds the pointer or keyboard: nothing is safe to show
     });
+    m_liveRefresh.setInterval(liveRefreshMilliseconds);
+    connect(&m_liveRefresh, &QTimer::timeout, this, &X11ScreenSampler::refreshLive);
 }
 
 X11ScreenSampler::~X11ScreenSampler()
 {
     if (m_isPicking)
         finish(std::nullopt);
+    m_loupeWindow.reset();
+    if (m_inputWindow != XCB_NONE) {
+        xcb_destroy_window(m_connection, m_inputWindow);
+        xcb_free_cursor(m_connection, m_cursor);
+        xcb_flush(m_connection);
+    }
+    if (m_symbols)
+        xcb_key_symbols_free(m_symbols);
 }
 
-std::vector<SamplerOverlay *> X11ScreenSampler::overlays() const
+xcb_window_t X11ScreenSampler::loupeWindow() const
 {
-    std::vector<SamplerOverlay *> result;
-    if (m_isPicking)
-        for (const auto &overlay : m_overlays)
-            result.push_back(overlay.get());
-    return result;
+    return m_isPicking && m_loupeWindow ? m_loupeWindow->id() : XCB_NONE;
+}
+
+void X11ScreenSampler::ensureWindows()
+{
+    const uint16_t width = m_screen->width_in_pixels;
+    const uint16_t height = m_screen->height_in_pixels;
+    if (m_inputWindow == XCB_NONE) {
+        const xcb_font_t font = xcb_generate_id(m_connection);
+        xcb_open_font(m_connection, font, 6, "cursor");
+        m_cursor = xcb_generate_id(m_connection);
+        xcb_create_glyph_cursor(m_connection, m_cursor, font, font, crosshairGlyph, crosshairGlyph + 1, 0, 0, 0,
+                                0xffff, 0xffff, 0xffff);
+        xcb_close_font(m_connection, font);
+
+        m_inputWindow = xcb_generate_id(m_connection);
+        const uint32_t values[] = {1,
+                                   XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_BUTTON_PRESS
+                                       | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION
+                                       | XCB_EVENT_MASK_FOCUS_CHANGE,
+                                   m_cursor};
+        xcb_create_window(m_connection, 0, m_inputWindow, m_screen->root, 0, 0, width, height, 0,
+                          XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
+                          XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK | XCB_CW_CURSOR, values);
+        m_loupeWindow = std::make_unique<X11LoupeWindow>(m_connection, m_screen);
+        m_symbols = xcb_key_symbols_alloc(m_connection);
+    }
+    // The desktop may have grown or shrunk since the last pick (a monitor plugged in).
+    const uint32_t geometry[] = {0, 0, width, height, XCB_STACK_MODE_ABOVE};
+    xcb_configure_window(m_connection, m_inputWindow,
+                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH
+                             | XCB_CONFIG_WINDOW_HEIGHT | XCB_CONFIG_WINDOW_STACK_MODE,
+                         geometry);
 }
 
 void X11ScreenSampler::pick(Completion completion)
 {
-    auto nothing = [this](Completion c) {
-        QMetaObject::invokeMethod(this, [c = std::move(c)] { c(std::nullopt); }, Qt::QueuedConnection);
-    };
-    if (m_isPicking) {
-        nothing(std::move(completion));
-        return;
-    }
-    // The memory shared with the server is kept from the previous pick: filling it again is
-    // what makes the loupe come up at once.
-    if (!m_capture || !m_capture->refresh())
-        m_capture = X11DesktopCapture::capture(m_connection);
-    if (!m_capture) {
-        nothing(std::move(completion));
+    if (m_isPicking || !m_isReadable) {
+        QMetaObject::invokeMethod(this, [c = std::move(completion)] { c(std::nullopt); }, Qt::QueuedConnection);
         return;
     }
     m_completion = std::move(completion);
@@ -83,76 +136,43 @@ void X11ScreenSampler::pick(Completion completion)
     m_format = int(SettingsViewModel::currentFormat(m_store));
     m_zoom = SamplerGeometry::defaultZoom;
     m_pressedResult.reset();
-    m_isPressed = false;
+    m_pressedButton = 0;
 
-    QList<SamplerGeometry::ScreenArea> areas;
-    for (QScreen *screen : QGuiApplication::screens())
-        areas << SamplerGeometry::screenArea(screen->geometry(), screen->devicePixelRatio());
-    prepareOverlays(areas);
+    m_areas.clear();
+    m_loupes.clear();
+    for (QScreen *screen : QGuiApplication::screens()) {
+        m_areas << SamplerGeometry::screenArea(screen->geometry(), screen->devicePixelRatio());
+        m_loupes.push_back(std::make_unique<SamplerLoupe>(screen->devicePixelRatio()));
+    }
 
     // The pointer's exact device position; QCursor::pos() would round to logical pixels.
-    xcb_query_pointer_reply_t *pointer = xcb_query_pointer_reply(
-        m_connection, xcb_query_pointer(m_connection, xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root),
-        nullptr);
-    const QPoint start = pointer ? QPoint(pointer->root_x, pointer->root_y) : m_areas.first().device.center();
+    const auto pointerCookie = xcb_query_pointer(m_connection, m_screen->root);
+    ensureWindows();
+    xcb_map_window(m_connection, m_inputWindow);
+    xcb_query_pointer_reply_t *pointer = xcb_query_pointer_reply(m_connection, pointerCookie, nullptr);
+    m_hotspot = pointer ? QPoint(pointer->root_x, pointer->root_y)
+                        : (m_areas.isEmpty() ? QPoint() : m_areas.first().device.center());
     std::free(pointer);
-    m_hotspot = start;
     redrawLoupe();
 
-    for (const auto &overlay : m_overlays) {
-        overlay->show();
-        overlay->raise();
-    }
     QCoreApplication::instance()->installNativeEventFilter(this);
     m_hasGrab = false;
     m_hasFocusFromGrab = false;
     m_grabAttempts = 0;
     if (!tryGrab())
         m_grabRetry.start();
-}
-
-void X11ScreenSampler::prepareOverlays(const QList<SamplerGeometry::ScreenArea> &areas)
-{
-    m_areas = areas;
-    while (m_overlays.size() > size_t(areas.size()))
-        m_overlays.pop_back();
-    m_loupes.clear();
-    for (qsizetype i = 0; i < areas.size(); ++i) {
-        if (size_t(i) == m_overlays.size()) {
-            auto overlay = std::make_unique<SamplerOverlay>();
-            connect(overlay.get(), &SamplerOverlay::pointerMoved, this, &X11ScreenSampler::moveHotspot);
-            connect(overlay.get(), &SamplerOverlay::buttonPressed, this, &X11ScreenSampler::handleButton);
-            connect(overlay.get(), &SamplerOverlay::buttonReleased, this, [this] {
-                if (m_isPressed)
-                    finish(m_pressedResult);
-            });
-            connect(overlay.get(), &SamplerOverlay::wheelTurned, this, [this](int notches) {
-                int zoom = m_zoom;
-                for (int n = 0; n < std::abs(notches); ++n)
-                    zoom = notches > 0 ? SamplerGeometry::zoomedIn(zoom) : SamplerGeometry::zoomedOut(zoom);
-                changeZoom(zoom);
-            });
-            connect(overlay.get(), &SamplerOverlay::keyPressed, this, &X11ScreenSampler::handleKey);
-            connect(overlay.get(), &SamplerOverlay::closedUnexpectedly, this, [this] { finish(std::nullopt); });
-            m_overlays.push_back(std::move(overlay));
-        }
-        m_overlays[size_t(i)]->cover(areas[i], screenPart(m_capture->image(), areas[i].device));
-        m_loupes.push_back(std::make_unique<SamplerLoupe>(areas[i].scale));
-    }
+    m_liveRefresh.start();
 }
 
 bool X11ScreenSampler::tryGrab()
 {
-    // The overlay under the pointer takes the grabs: its window is mapped (override-redirect
-    // windows map at once, and the requests go out in order on this connection).
-    const auto index = SamplerGeometry::screenIndexAt(m_areas, m_hotspot).value_or(0);
-    const xcb_window_t window = xcb_window_t(m_overlays[size_t(index)]->winId());
-    const uint16_t mask = XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE
-        | XCB_EVENT_MASK_POINTER_MOTION | XCB_EVENT_MASK_ENTER_WINDOW | XCB_EVENT_MASK_LEAVE_WINDOW;
+    // The input window is mapped (override-redirect windows map at once, and the requests go
+    // out in order on this connection), so it can take both grabs.
+    const uint16_t mask = XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION;
     xcb_grab_pointer_reply_t *pointer = xcb_grab_pointer_reply(
         m_connection,
-        xcb_grab_pointer(m_connection, 1, window, mask, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_NONE,
-                         XCB_NONE, XCB_CURRENT_TIME),
+        xcb_grab_pointer(m_connection, 0, m_inputWindow, mask, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_NONE,
+                         m_cursor, XCB_CURRENT_TIME),
         nullptr);
     const bool pointerGrabbed = pointer && pointer->status == XCB_GRAB_STATUS_SUCCESS;
     std::free(pointer);
@@ -160,7 +180,7 @@ bool X11ScreenSampler::tryGrab()
         return false;
     xcb_grab_keyboard_reply_t *keyboard = xcb_grab_keyboard_reply(
         m_connection,
-        xcb_grab_keyboard(m_connection, 1, window, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+        xcb_grab_keyboard(m_connection, 0, m_inputWindow, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
         nullptr);
     const bool keyboardGrabbed = keyboard && keyboard->status == XCB_GRAB_STATUS_SUCCESS;
     std::free(keyboard);
@@ -170,7 +190,6 @@ bool X11ScreenSampler::tryGrab()
         return false;
     }
     m_hasGrab = true;
-    m_overlays[size_t(index)]->activateWindow();
     return true;
 }
 
@@ -179,16 +198,15 @@ void X11ScreenSampler::moveHotspot(const QPoint &device)
     if (!m_isPicking || device == m_hotspot)
         return;
     m_hotspot = device;
-    redrawLoupe();
+    scheduleRedraw();
 }
 
 void X11ScreenSampler::nudge(int dx, int dy)
 {
     m_hotspot = SamplerGeometry::nudged(m_areas, m_hotspot, dx, dy);
     // The real pointer follows, in device pixels, so the next mouse move continues from here.
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
-    xcb_warp_pointer(m_connection, XCB_NONE, root, 0, 0, 0, 0, int16_t(m_hotspot.x()), int16_t(m_hotspot.y()));
-    xcb_flush(m_connection);
+    xcb_warp_pointer(m_connection, XCB_NONE, m_screen->root, 0, 0, 0, 0, int16_t(m_hotspot.x()),
+                     int16_t(m_hotspot.y()));
     redrawLoupe();
 }
 
@@ -200,72 +218,115 @@ void X11ScreenSampler::changeZoom(int zoom)
     redrawLoupe();
 }
 
+void X11ScreenSampler::scheduleRedraw()
+{
+    // Pointer moves arrive in bursts: one redraw after the burst, at the last position.
+    if (m_isRedrawPending)
+        return;
+    m_isRedrawPending = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isRedrawPending = false;
+            if (m_isPicking)
+                redrawLoupe();
+        },
+        Qt::QueuedConnection);
+}
+
+QImage X11ScreenSampler::readScreen(const QRect &device) const
+{
+    QImage image(device.size(), QImage::Format_RGB32);
+    image.fill(Qt::black); // beyond the desktop
+    const QRect part = device.intersected(QRect(0, 0, m_screen->width_in_pixels, m_screen->height_in_pixels));
+    if (part.isEmpty())
+        return image;
+    xcb_get_image_reply_t *reply = xcb_get_image_reply(
+        m_connection,
+        xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, int16_t(part.x()), int16_t(part.y()),
+                      uint16_t(part.width()), uint16_t(part.height()), ~0u),
+        nullptr);
+    if (!reply)
+        return image;
+    const auto *data = xcb_get_image_data(reply);
+    const int rowBytes = part.width() * 4;
+    if (xcb_get_image_data_length(reply) >= rowBytes * part.height()) {
+        const QPoint at = part.topLeft() - device.topLeft();
+        for (int y = 0; y < part.height(); ++y) {
+            auto *to = reinterpret_cast<quint32 *>(image.scanLine(at.y() + y)) + at.x();
+            const auto *from = reinterpret_cast<const quint32 *>(data + y * rowBytes);
+            // X leaves the top byte of a depth-24 pixel undefined (usually zero) where
+            // Format_RGB32 promises 0xff; painting trusts that promise.
+            for (int x = 0; x < part.width(); ++x)
+                to[x] = from[x] | 0xff000000u;
+        }
+    }
+    std::free(reply);
+    return image;
+}
+
+std::optional<SampledColor> X11ScreenSampler::colorAt(const QPoint &device) const
+{
+    if (!SamplerGeometry::screenIndexAt(m_areas, device) && !m_areas.isEmpty())
+        return std::nullopt;
+    return sampled(SamplerGeometry::sampleAt(readScreen(QRect(device, QSize(1, 1))), device, device));
+}
+
 void X11ScreenSampler::redrawLoupe()
 {
     const auto index = SamplerGeometry::screenIndexAt(m_areas, m_hotspot);
-    const QImage &desktop = m_capture->image();
-    const auto rgb = SamplerGeometry::sampleAt(desktop, QPoint(0, 0), m_hotspot);
-    m_text = rgb ? formatColor(rgb->red, rgb->green, rgb->blue, 1, ColorFormat(m_format)) : QString();
-    for (size_t i = 0; i < m_overlays.size(); ++i) {
-        if (!index || size_t(*index) != i) {
-            m_overlays[i]->hideLoupe();
-            continue;
-        }
-        const SamplerLoupe &loupe = *m_loupes[i];
-        const QImage image = loupe.render(desktop, m_hotspot, m_zoom, m_text);
-        const QRect place = SamplerGeometry::loupePlacement(m_areas[qsizetype(i)].device, m_hotspot,
-                                                            image.size(), loupe.gap());
-        m_overlays[i]->showLoupe(image, place);
+    if (!index) {
+        m_loupeWindow->hide();
+        m_patch = QImage();
+        return;
     }
+    const SamplerLoupe &loupe = *m_loupes[size_t(*index)];
+    const int across = SamplerGeometry::loupePixelsAcross(loupe.lensDiameter(), m_zoom);
+    const QRect square(m_hotspot - QPoint(across / 2, across / 2), QSize(across, across));
+    const QImage patch = readScreen(square);
+    const auto rgb = SamplerGeometry::sampleAt(patch, square.topLeft(), m_hotspot);
+    const QString text = rgb ? formatColor(rgb->red, rgb->green, rgb->blue, 1, ColorFormat(m_format)) : QString();
+    const QImage image = loupe.render(patch, QPoint(across / 2, across / 2), m_zoom, text);
+    const QRect place = SamplerGeometry::loupePlacement(m_areas[*index].device, m_hotspot, image.size(), loupe.gap());
+    m_patch = patch;
+    m_patchRect = square;
+    m_loupeWindow->show(image, place);
 }
 
-void X11ScreenSampler::handleButton(Qt::MouseButton button, const QPoint &device)
+void X11ScreenSampler::refreshLive()
 {
-    if (!m_isPicking || m_isPressed)
+    if (!m_isPicking || m_patch.isNull() || m_isRedrawPending)
         return;
-    if (button == Qt::LeftButton) {
+    // Only the square itself is read; a redraw follows only when something in it changed.
+    if (readScreen(m_patchRect) != m_patch)
+        redrawLoupe();
+}
+
+void X11ScreenSampler::handleButton(const xcb_button_press_event_t *event, bool isPress)
+{
+    const QPoint device(event->root_x, event->root_y);
+    if (!isPress) {
+        // The press decided; the pick ends on its release so that the release reaches nothing else.
+        if (m_pressedButton != 0 && event->detail == m_pressedButton)
+            finish(m_pressedResult);
+        return;
+    }
+    if (m_pressedButton != 0)
+        return;
+    switch (event->detail) {
+    case XCB_BUTTON_INDEX_1:
         m_hotspot = device;
-        const auto rgb = SamplerGeometry::sampleAt(m_capture->image(), QPoint(0, 0), device);
-        m_pressedResult = rgb ? std::optional(SampledColor{rgb->red, rgb->green, rgb->blue, 1}) : std::nullopt;
-        m_isPressed = true;
-    } else if (button == Qt::RightButton) {
+        m_pressedResult = colorAt(device);
+        m_pressedButton = event->detail;
+        break;
+    case XCB_BUTTON_INDEX_3:
         m_pressedResult.reset();
-        m_isPressed = true;
-    }
-}
-
-void X11ScreenSampler::handleKey(int key, Qt::KeyboardModifiers modifiers)
-{
-    if (!m_isPicking)
-        return;
-    const int step = modifiers.testFlag(Qt::ShiftModifier) ? 10 : 1;
-    switch (key) {
-    case Qt::Key_Escape:
-        finish(std::nullopt);
+        m_pressedButton = event->detail;
         break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-        pickAt(m_hotspot);
-        break;
-    case Qt::Key_Left:
-        nudge(-step, 0);
-        break;
-    case Qt::Key_Right:
-        nudge(step, 0);
-        break;
-    case Qt::Key_Up:
-        nudge(0, -step);
-        break;
-    case Qt::Key_Down:
-        nudge(0, step);
-        break;
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
+    case XCB_BUTTON_INDEX_4: // the wheel, one notch a press
         changeZoom(SamplerGeometry::zoomedIn(m_zoom));
         break;
-    case Qt::Key_Minus:
-    case Qt::Key_Underscore:
+    case XCB_BUTTON_INDEX_5:
         changeZoom(SamplerGeometry::zoomedOut(m_zoom));
         break;
     default:
@@ -273,10 +334,51 @@ void X11ScreenSampler::handleKey(int key, Qt::KeyboardModifiers modifiers)
     }
 }
 
-void X11ScreenSampler::pickAt(const QPoint &device)
+bool X11ScreenSampler::handleKey(const xcb_key_press_event_t *event)
 {
-    const auto rgb = SamplerGeometry::sampleAt(m_capture->image(), QPoint(0, 0), device);
-    finish(rgb ? std::optional(SampledColor{rgb->red, rgb->green, rgb->blue, 1}) : std::nullopt);
+    if (!m_symbols)
+        return false;
+    const xcb_keysym_t keysym = xcb_key_symbols_get_keysym(m_symbols, event->detail, 0);
+    const int step = (event->state & XCB_MOD_MASK_SHIFT) ? 10 : 1;
+    switch (keysym) {
+    case 0xff1b: // Escape
+        finish(std::nullopt);
+        return true;
+    case 0xff0d: // Return
+    case 0xff8d: // KP_Enter
+    case 0x0020: // space
+        finish(colorAt(m_hotspot));
+        return true;
+    case 0xff51: // Left
+    case 0xff96: // KP_Left
+        nudge(-step, 0);
+        return true;
+    case 0xff53: // Right
+    case 0xff98: // KP_Right
+        nudge(step, 0);
+        return true;
+    case 0xff52: // Up
+    case 0xff97: // KP_Up
+        nudge(0, -step);
+        return true;
+    case 0xff54: // Down
+    case 0xff99: // KP_Down
+        nudge(0, step);
+        return true;
+    case 0x002b: // plus
+    case 0x003d: // equal, plus's own key on most layouts
+    case 0xffab: // KP_Add
+        changeZoom(SamplerGeometry::zoomedIn(m_zoom));
+        return true;
+    case 0x002d: // minus
+    case 0x005f: // underscore
+    case 0xffad: // KP_Subtract
+        changeZoom(SamplerGeometry::zoomedOut(m_zoom));
+        return true;
+    default:
+        // Not ours: a global shortcut pressed while the loupe is up still reaches its handler.
+        return false;
+    }
 }
 
 void X11ScreenSampler::finish(std::optional<SampledColor> result)
@@ -285,17 +387,19 @@ void X11ScreenSampler::finish(std::optional<SampledColor> result)
         return;
     m_isPicking = false;
     m_grabRetry.stop();
+    m_liveRefresh.stop();
     QCoreApplication::instance()->removeNativeEventFilter(this);
     if (m_hasGrab) {
         xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
         xcb_ungrab_pointer(m_connection, XCB_CURRENT_TIME);
         m_hasGrab = false;
     }
-    for (const auto &overlay : m_overlays) {
-        overlay->hide();
-        overlay->release();
-    }
+    m_loupeWindow->hide();
+    m_loupeWindow->release();
+    xcb_unmap_window(m_connection, m_inputWindow);
     xcb_flush(m_connection);
+    m_patch = QImage();
+    m_loupes.clear();
     // The state is clear before the completion runs: it may start the next pick.
     Completion completion = std::move(m_completion);
     m_completion = nullptr;
@@ -304,25 +408,50 @@ void X11ScreenSampler::finish(std::optional<SampledColor> result)
 
 bool X11ScreenSampler::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
 {
-    if (eventType != "xcb_generic_event_t" || !m_hasGrab)
+    if (eventType != "xcb_generic_event_t" || !m_isPicking)
         return false;
     const auto *event = static_cast<const xcb_generic_event_t *>(message);
-    const uint8_t type = event->response_type & ~0x80;
-    if (type != XCB_FOCUS_IN && type != XCB_FOCUS_OUT)
-        return false;
-    const auto *focus = reinterpret_cast<const xcb_focus_in_event_t *>(event);
-    bool isOurs = false;
-    for (const auto &overlay : m_overlays)
-        isOurs = isOurs || xcb_window_t(overlay->winId()) == focus->event;
-    if (!isOurs || focus->detail == XCB_NOTIFY_DETAIL_POINTER)
-        return false;
-    if (type == XCB_FOCUS_IN && focus->mode == XCB_NOTIFY_MODE_GRAB) {
-        m_hasFocusFromGrab = true;
-    } else if (type == XCB_FOCUS_OUT && m_hasFocusFromGrab
-               && (focus->mode == XCB_NOTIFY_MODE_GRAB || focus->mode == XCB_NOTIFY_MODE_UNGRAB)) {
-        // Our keyboard grab went elsewhere (another client broke it, or our window lost its
-        // visibility): the user can no longer be sure where the keys go, so the pick ends.
-        QMetaObject::invokeMethod(this, [this] { finish(std::nullopt); }, Qt::QueuedConnection);
+    switch (event->response_type & ~0x80) {
+    case XCB_MOTION_NOTIFY: {
+        const auto *motion = reinterpret_cast<const xcb_motion_notify_event_t *>(event);
+        if (motion->event != m_inputWindow)
+            return false;
+        moveHotspot(QPoint(motion->root_x, motion->root_y));
+        return true;
     }
-    return false;
+    case XCB_BUTTON_PRESS:
+    case XCB_BUTTON_RELEASE: {
+        const auto *button = reinterpret_cast<const xcb_button_press_event_t *>(event);
+        if (button->event != m_inputWindow)
+            return false;
+        handleButton(button, (event->response_type & ~0x80) == XCB_BUTTON_PRESS);
+        return true;
+    }
+    case XCB_KEY_PRESS: {
+        const auto *key = reinterpret_cast<const xcb_key_press_event_t *>(event);
+        return key->event == m_inputWindow && handleKey(key);
+    }
+    case XCB_EXPOSE:
+        if (reinterpret_cast<const xcb_expose_event_t *>(event)->window != m_loupeWindow->id())
+            return false;
+        m_loupeWindow->repaint();
+        return true;
+    case XCB_FOCUS_IN:
+    case XCB_FOCUS_OUT: {
+        const auto *focus = reinterpret_cast<const xcb_focus_in_event_t *>(event);
+        if (focus->event != m_inputWindow || focus->detail == XCB_NOTIFY_DETAIL_POINTER)
+            return false;
+        if ((event->response_type & ~0x80) == XCB_FOCUS_IN && focus->mode == XCB_NOTIFY_MODE_GRAB) {
+            m_hasFocusFromGrab = true;
+        } else if ((event->response_type & ~0x80) == XCB_FOCUS_OUT && m_hasFocusFromGrab
+                   && (focus->mode == XCB_NOTIFY_MODE_GRAB || focus->mode == XCB_NOTIFY_MODE_UNGRAB)) {
+            // Our keyboard grab went elsewhere (another client broke it): the user can no
+            // longer be sure where the keys go, so the pick ends.
+            QMetaObject::invokeMethod(this, [this] { finish(std::nullopt); }, Qt::QueuedConnection);
+        }
+        return true;
+    }
+    default:
+        return false;
+    }
 }

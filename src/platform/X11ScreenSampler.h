@@ -4,26 +4,32 @@
 #include "platform/SamplerGeometry.h"
 
 #include <QAbstractNativeEventFilter>
+#include <QImage>
 #include <QObject>
 #include <QPoint>
 #include <QTimer>
 #include <memory>
 #include <vector>
 
-class SamplerLoupe;
-class SamplerOverlay;
-class SettingsStore;
-class X11DesktopCapture;
-struct xcb_connection_t;
+#include <xcb/xcb.h>
 
-// Vantle's own sampler for X11 desktops, which have none: a freeze-frame of the whole desktop
-// covers every screen, a loupe follows the pointer, and pointer and keyboard are grabbed so
-// that no click or key reaches another application while the user aims.
+class SamplerLoupe;
+class SettingsStore;
+class X11LoupeWindow;
+struct _XCBKeySymbols;
+
+// Vantle's own sampler for X11 desktops, which have none. While the user aims:
+// - an input-only window covers the whole desktop and holds the pointer and keyboard grabs,
+//   so no click or key reaches another application; it draws nothing, so nothing of ours is
+//   ever between the user and the pixels;
+// - on each pointer move the loupe reads only the small square of the screen it magnifies
+//   (a few KiB through GetImage) and shows it in a small shaped window placed beside the
+//   hotspot, never over the square it reads; a slow refresh keeps it live while the pointer
+//   rests (an animation, a window repainting after the popup closed).
 //
-// The hotspot is kept in device pixels (the X root's coordinates), which reaches every pixel
-// of a screen at any scale factor. Nothing runs between picks: the overlay windows and the
-// capture's memory shared with the X server are kept, hidden and idle, only so that the next
-// pick shows its first frame sooner.
+// Positions come from the X events themselves (root coordinates, which are device pixels), so
+// every pixel of a screen can be reached and picked exactly at any scale factor. Between picks
+// nothing runs and nothing of the screen is kept: the two windows stay, unmapped and empty.
 class X11ScreenSampler : public QObject, public ScreenColorSampler, private QAbstractNativeEventFilter {
     Q_OBJECT
 public:
@@ -33,37 +39,49 @@ public:
 
     void pick(Completion completion) override;
 
-    // For benchmarks and tests: the overlays of the pick under way.
-    std::vector<SamplerOverlay *> overlays() const;
+    // For benchmarks and tests: the loupe window while a pick is under way (0 otherwise), and
+    // the hotspot moved as a pointer move would.
+    xcb_window_t loupeWindow() const;
+    void moveHotspot(const QPoint &device);
 
 private:
-    void prepareOverlays(const QList<SamplerGeometry::ScreenArea> &areas);
+    void ensureWindows();
     bool tryGrab();
-    void moveHotspot(const QPoint &device);
     void nudge(int dx, int dy);
     void changeZoom(int zoom);
+    void scheduleRedraw();
     void redrawLoupe();
-    void handleButton(Qt::MouseButton button, const QPoint &device);
-    void handleKey(int key, Qt::KeyboardModifiers modifiers);
-    void pickAt(const QPoint &device);
+    void refreshLive();
+    QImage readScreen(const QRect &device) const;
+    std::optional<SampledColor> colorAt(const QPoint &device) const;
+    void handleButton(const xcb_button_press_event_t *event, bool isPress);
+    bool handleKey(const xcb_key_press_event_t *event);
     void finish(std::optional<SampledColor> result);
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
     xcb_connection_t *m_connection;
+    const xcb_screen_t *m_screen;
     const SettingsStore &m_store;
+    bool m_isReadable = false; // the root's pixels are 32-bit 0xRRGGBB
+    xcb_window_t m_inputWindow = XCB_NONE;
+    xcb_cursor_t m_cursor = XCB_NONE;
+    std::unique_ptr<X11LoupeWindow> m_loupeWindow;
+    _XCBKeySymbols *m_symbols = nullptr;
+
     Completion m_completion;
     bool m_isPicking = false;
-    std::unique_ptr<X11DesktopCapture> m_capture;
-    std::vector<std::unique_ptr<SamplerOverlay>> m_overlays;
-    std::vector<std::unique_ptr<SamplerLoupe>> m_loupes; // one per overlay, for its scale
     QList<SamplerGeometry::ScreenArea> m_areas;
+    std::vector<std::unique_ptr<SamplerLoupe>> m_loupes; // one per screen, for its scale
     QPoint m_hotspot;
     int m_zoom = SamplerGeometry::defaultZoom;
-    QString m_text;
     int m_format = 0;
+    QImage m_patch; // the square the loupe shows, centred on the hotspot
+    QRect m_patchRect;
+    bool m_isRedrawPending = false;
+    QTimer m_liveRefresh;
     // A pick decided on a button press ends on its release, so the release stays ours too.
     std::optional<SampledColor> m_pressedResult;
-    bool m_isPressed = false;
+    quint8 m_pressedButton = 0;
     // Grabs can fail for a moment while the key that started the pick is still held by
     // whoever bound it; a few retries while the pick runs, never afterwards.
     QTimer m_grabRetry;

@@ -40,9 +40,9 @@ windows() {
 }
 popup_shown() { windows | awk '$2 == 320 {found=1} END {exit !found}'; }
 popup_hidden() { ! popup_shown; }
-# The loupe: Vantle's window over the whole screen. Its grabs follow the map at once; the short
-# pause after it leaves them time on a slow (sanitizer) build.
-loupe_shown() { windows | awk '$2 >= 1000 && $4 == 0 && $5 == 0 {found=1} END {exit !found}'; }
+# The loupe: Vantle's small window beside the pointer. Its grabs follow the map at once; the
+# short pause after it leaves them time on a slow (sanitizer) build.
+loupe_shown() { xdotool search --onlyvisible --classname '^vantle-loupe$' >/dev/null 2>&1; }
 loupe_hidden() { ! loupe_shown; }
 wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; sleep 0.5; }
 # Vantle processes on this test's display (other tests may run their own).

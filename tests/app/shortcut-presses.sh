@@ -1,0 +1,113 @@
+#!/usr/bin/env bash
+# The shortcuts at a person's pace, inside the private X desktop of tests/desktop/x11-session.sh:
+# keys held 80 ms as a hand holds them, many picks in a row ended in every way, with the welcome
+# window open all along, both shortcuts while the popup holds the keyboard, and a pick from the
+# popup's own button, which must not see the popup.
+#   VANTLE_BIN=... x11-session.sh shortcut-presses.sh [SHOT_DIR]
+set -euo pipefail
+
+vantle=${VANTLE_BIN:?}
+shots=${1:-}
+for tool in xdotool xclip xwininfo xsetroot import; do
+    command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }
+done
+
+home=$(mktemp -d)
+export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_RUNTIME_DIR=$home/run
+mkdir -p "$XDG_CONFIG_HOME/Vantle" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+pid=
+cleanup() {
+    [[ -n $pid ]] && kill "$pid" 2>/dev/null || true
+    rm -rf "$home"
+}
+trap cleanup EXIT
+fail() {
+    [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/failure.png" 2>/dev/null
+    echo "FAIL: $*" >&2
+    exit 1
+}
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
+
+press() { xdotool key --delay 80 "$1"; } # a person's press: each key held 80 ms
+loupe_shown() { xdotool search --onlyvisible --classname '^vantle-loupe$' >/dev/null 2>&1; }
+loupe_hidden() { ! loupe_shown; }
+popup_geometry() { # "x y w h" of the popup: Vantle's visible window 320 wide
+    local id
+    for id in $(xdotool search --onlyvisible --pid "$pid" 2>/dev/null); do
+        xwininfo -id "$id" | awk '/Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4}
+            /Width:/ {w=$2} /Height:/ {h=$2} END {if (w == 320) print x, y, w, h}'
+    done | head -n1 | grep .
+}
+popup_shown() { popup_geometry >/dev/null; }
+popup_hidden() { ! popup_shown; }
+clipboard_is() { [[ $(xclip -o -selection clipboard 2>/dev/null) == "$1" ]]; }
+
+"$vantle" &
+pid=$!
+wait_for 20 xdotool search --onlyvisible --name '^Welcome to vantle$' || fail "no welcome window"
+
+# Twelve picks in a row, the welcome window open throughout, each ended another way; a new
+# desktop colour for each, so every copy is told from the one before.
+ends=(click Return space Escape click right-click Return click Escape space click Return)
+for i in "${!ends[@]}"; do
+    colour=$(printf '#%02X%02X%02X' $((20 * i + 10)) $((200 - 15 * i)) $((90 + 7 * i)))
+    xsetroot -solid "$colour"
+    echo "sentinel $i" | xclip -selection clipboard
+    xdotool mousemove $((60 + 20 * i)) 700 # clear of the welcome window
+    press alt+shift+c
+    wait_for 10 loupe_shown || fail "press $((i + 1)) of the pick shortcut opened no loupe"
+    sleep 0.2 # the grabs follow the map: a person's next action comes later still
+    case ${ends[$i]} in
+        click) xdotool click 1 ;;
+        right-click) xdotool click 3 ;;
+        *) press "${ends[$i]}" ;;
+    esac
+    wait_for 10 loupe_hidden || fail "pick $((i + 1)) (${ends[$i]}) did not end"
+    case ${ends[$i]} in
+        Escape | right-click)
+            sleep 0.3
+            clipboard_is "sentinel $i" || fail "cancelled pick $((i + 1)) changed the clipboard" ;;
+        *) wait_for 10 clipboard_is "$colour" \
+            || fail "pick $((i + 1)) (${ends[$i]}) copied \"$(xclip -o -selection clipboard)\", not $colour" ;;
+    esac
+done
+
+# The popup takes the keyboard while it is open: its shortcut still closes it, the pick
+# shortcut still picks (and the popup makes way), and `vantle toggle` does the same.
+for round in 1 2; do
+    press alt+shift+x
+    wait_for 10 popup_shown || fail "round $round: Alt+Shift+X did not open the popup"
+    sleep 0.3
+    press alt+shift+x
+    wait_for 10 popup_hidden || fail "round $round: Alt+Shift+X did not close the open popup"
+    "$vantle" toggle
+    wait_for 10 popup_shown || fail "round $round: vantle toggle did not open the popup"
+    "$vantle" toggle
+    wait_for 10 popup_hidden || fail "round $round: vantle toggle did not close the popup"
+done
+press alt+shift+x
+wait_for 10 popup_shown || fail "the popup did not open"
+sleep 0.3
+press alt+shift+c
+wait_for 10 loupe_shown || fail "Alt+Shift+C did nothing while the popup was open"
+wait_for 10 popup_hidden || fail "the popup stayed over the loupe"
+press Escape
+wait_for 10 loupe_hidden || fail "Escape did not end the pick"
+
+# The popup's own Pick Color button: the popup goes before the loupe reads the screen, so a
+# click where the popup was picks the desktop, not the popup.
+xsetroot -solid '#2E8B57'
+press alt+shift+x
+wait_for 10 popup_shown || fail "the popup did not open"
+read -r px py pw ph < <(popup_geometry)
+sleep 0.5
+[[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/popup-before-pick.png"
+# The button spans the popup's width just below its header.
+xdotool mousemove $((px + pw / 2)) $((py + 62)) click 1
+wait_for 10 loupe_shown || fail "the popup's Pick Color button opened no loupe"
+xdotool mousemove $((px + pw / 2)) $((py + ph / 2))
+sleep 0.3
+[[ -n $shots ]] && import -window root "$shots/loupe-where-the-popup-was.png"
+xdotool click 1
+wait_for 10 clipboard_is '#2E8B57' || fail "a pick where the popup was copied \"$(xclip -o -selection clipboard)\""
+echo "PASS"

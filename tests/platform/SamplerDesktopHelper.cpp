@@ -5,6 +5,7 @@
 //   wait-grab SECONDS                            exits 0 once another client holds the pointer grab
 //   pattern                                      paints the root window with patternAt(x, y), the
 //                                                way most X clients store pixels: top byte zero
+//   pattern-hex X Y                              prints patternAt(X, Y) as #RRGGBB
 //   check-loupe SHOT HX HY                       exits 0 when the screenshot SHOT shows the loupe
 //                                                for hotspot (HX, HY) over the pattern, every cell
 //                                                the magnified pattern pixel (beyond the screen:
@@ -196,13 +197,17 @@ int main(int argc, char **argv)
         return waitForGrab(std::atof(argv[2]));
     if (argc == 2 && QByteArray(argv[1]) == "pattern")
         return paintPattern();
+    if (argc == 4 && QByteArray(argv[1]) == "pattern-hex") {
+        std::printf("%s\n", qPrintable(QColor(patternAt(std::atoi(argv[2]), std::atoi(argv[3]))).name().toUpper()));
+        return 0;
+    }
     if (argc == 5 && QByteArray(argv[1]) == "check-loupe") {
         QGuiApplication app(argc, argv); // fonts, for the size of the loupe's text
         return checkLoupe(QString::fromLocal8Bit(argv[2]), QPoint(std::atoi(argv[3]), std::atoi(argv[4])));
     }
     if (argc != 9 || QByteArray(argv[1]) != "target") {
         std::fprintf(stderr, "usage: %s target X Y W H LEFT RIGHT FILE | wait-grab SECONDS | pattern"
-                             " | check-loupe SHOT HX HY\n", argv[0]);
+                             " | pattern-hex X Y | check-loupe SHOT HX HY\n", argv[0]);
         return 2;
     }
     QApplication app(argc, argv);

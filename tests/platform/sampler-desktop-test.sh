@@ -97,6 +97,27 @@ expect_loupe 1277 797
 xdotool key Escape
 finish_pick 1
 
+# At every scale factor a click picks the very device pixel under the pointer (odd ones too,
+# which a logical position rounds away) and a nudge moves exactly one device pixel.
+for scale in 1.25 1.5 2; do
+    for at in "501 301" "777 333" "1001 599"; do
+        read -r x y <<<"$at"
+        xdotool mousemove "$x" "$y"
+        QT_SCALE_FACTOR=$scale start_pick hex
+        xdotool click 1
+        finish_pick 0
+        expected=$("$helper" pattern-hex "$x" "$y")
+        [[ "$(cat "$work/out")" == "$expected" ]] \
+            || fail "at scale $scale a click on $x,$y picked $(cat "$work/out"), expected $expected"
+        QT_SCALE_FACTOR=$scale start_pick hex
+        xdotool key Right Down Return
+        finish_pick 0
+        expected=$("$helper" pattern-hex $((x + 1)) $((y + 1)))
+        [[ "$(cat "$work/out")" == "$expected" ]] \
+            || fail "at scale $scale Right, Down from $x,$y picked $(cat "$work/out"), expected $expected"
+    done
+done
+
 # Without --print the running Vantle is asked to pick; with none running, the command says so.
 status=0
 "$vantle" pick 2>"$work/err" >/dev/null || status=$?

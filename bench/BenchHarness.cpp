@@ -258,6 +258,13 @@ public:
             }
             if (done())
                 return true;
+            // done() may make round trips, and xcb keeps the events that arrive with their
+            // replies in its own queue, where poll() on the socket never sees them.
+            if (xcb_generic_event_t *event = xcb_poll_for_queued_event(m_connection)) {
+                handle(event, nowMs());
+                std::free(event);
+                continue;
+            }
             const double left = deadline - nowMs();
             if (left <= 0)
                 return false;

@@ -37,6 +37,8 @@ SamplerLoupe::SamplerLoupe(double scale)
 
 QSize SamplerLoupe::boxSize(const QString &text) const
 {
+    if (text.isEmpty())
+        return {m_diameter, m_diameter}; // no label, and no font loaded for one
     const QFontMetrics metrics(m_font);
     const int labelWidth = metrics.horizontalAdvance(text) + 2 * m_labelPadding;
     const int labelHeight = metrics.height() + m_labelPadding;
@@ -94,6 +96,10 @@ QImage SamplerLoupe::render(const QImage &frozen, const QPoint &centre, int zoom
     painter.setPen(QPen(QColor(0, 0, 0, 160), std::max(1.0, m_scale)));
     painter.drawEllipse(QRectF(lens).adjusted(0.5, 0.5, -0.5, -0.5));
 
+    if (text.isEmpty()) {
+        painter.end();
+        return image;
+    }
     const QFontMetrics metrics(m_font);
     const QSize label(metrics.horizontalAdvance(text) + 2 * m_labelPadding, metrics.height() + m_labelPadding);
     const QRectF pill(QPointF((box.width() - label.width()) / 2.0, m_diameter + m_labelSpacing), label);

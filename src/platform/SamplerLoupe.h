@@ -16,7 +16,7 @@ public:
     // Lens diameter and text size in logical pixels, turned into device pixels for `scale`.
     explicit SamplerLoupe(double scale);
 
-    // The device size of the whole loupe box for a text.
+    // The device size of the whole loupe box for a text; an empty text draws no label.
     QSize boxSize(const QString &text) const;
 
     // The loupe for the hotspot `centre` (in `frozen`'s pixel coordinates) at `zoom` device

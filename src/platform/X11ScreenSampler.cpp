@@ -285,7 +285,24 @@ void X11ScreenSampler::redrawLoupe()
     const QRect square(m_hotspot - QPoint(across / 2, across / 2), QSize(across, across));
     const QImage patch = readScreen(square);
     const auto rgb = SamplerGeometry::sampleAt(patch, square.topLeft(), m_hotspot);
-    const QString text = rgb ? formatColor(rgb->red, rgb->green, rgb->blue, 1, ColorFormat(m_format)) : QString();
+    QString text;
+    if (m_isLabelReady) {
+        text = rgb ? formatColor(rgb->red, rgb->green, rgb->blue, 1, ColorFormat(m_format)) : QString();
+    } else if (!m_isLabelPending) {
+        // The label needs the desktop's fonts, and loading them (fontconfig, FreeType, HarfBuzz)
+        // costs 15-30 ms the first time. Vantle does not load them at launch, to stay small
+        // in the background; the first pick shows its lens at once and the label a moment
+        // later, once they are loaded.
+        m_isLabelPending = true;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                m_isLabelReady = true;
+                if (m_isPicking)
+                    redrawLoupe();
+            },
+            Qt::QueuedConnection);
+    }
     const QImage image = loupe.render(patch, QPoint(across / 2, across / 2), m_zoom, text);
     const QRect place = SamplerGeometry::loupePlacement(m_areas[*index].device, m_hotspot, image.size(), loupe.gap());
     m_patch = patch;

@@ -78,6 +78,8 @@ private:
     QImage m_patch; // the square the loupe shows, centred on the hotspot
     QRect m_patchRect;
     bool m_isRedrawPending = false;
+    bool m_isLabelReady = false; // the label's fonts are loaded
+    bool m_isLabelPending = false;
     QTimer m_liveRefresh;
     // A pick decided on a button press ends on its release, so the release stays ours too.
     std::optional<SampledColor> m_pressedResult;

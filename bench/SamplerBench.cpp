@@ -7,15 +7,12 @@
 // Records each measure's runs through BenchOutput.h.
 #include "BenchOutput.h"
 #include "platform/X11ScreenSampler.h"
-#include "services/SettingsStore.h"
-#include "services/SettingsViewModel.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QScreen>
 #include <QSocketNotifier>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QtGui/qguiapplication_platform.h>
 #include <xcb/xcb.h>
@@ -71,9 +68,6 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "sampler bench: needs an X server (QT_QPA_PLATFORM=xcb)\n");
         return 1;
     }
-    QTemporaryDir dir;
-    SettingsStore store(dir.filePath(QStringLiteral("Vantle.conf")));
-    SettingsViewModel::registerDefaults(store);
 
     ColourfulScene scene;
     scene.setGeometry(QGuiApplication::primaryScreen()->geometry());
@@ -96,7 +90,7 @@ int main(int argc, char **argv)
     xcb_warp_pointer(x11->connection(), XCB_NONE, root, 0, 0, 0, 0, int16_t(hotspot.x()), int16_t(hotspot.y()));
     xcb_flush(x11->connection());
 
-    X11ScreenSampler sampler(x11->connection(), store);
+    X11ScreenSampler sampler(x11->connection());
     std::vector<double> mapped, firstFrame, redraw, worst;
     QElapsedTimer clock;
     for (int run = 0; run < runs + 1; ++run) { // the first run warms caches and is not counted
@@ -113,7 +107,7 @@ int main(int argc, char **argv)
         };
         QObject::connect(&notifier, &QSocketNotifier::activated, drain);
         clock.start();
-        sampler.pick([&](std::optional<SampledColor>) { done = true; });
+        sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor>) { done = true; });
         while (mapMs < 0 && clock.elapsed() < 5000) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
             drain();

@@ -6,6 +6,7 @@
 #include "history/ColorListViewModel.h"
 #include "hotkeys/HotkeyManager.h"
 #include "platform/AppearanceMonitor.h"
+#include "platform/WindowCompositing.h"
 #include "screens/ColorListView.h"
 #include "screens/OnboardingWindow.h"
 #include "screens/SettingsWindow.h"
@@ -88,7 +89,8 @@ void AppDelegate::applicationDidFinishLaunching()
 
     // 10. The welcome window on a first run.
     if (!store.boolForKey(onboardingShown)) {
-        m_onboardingWindow = std::make_unique<OnboardingWindow>(store, [this] { completeOnboarding(); });
+        m_onboardingWindow = std::make_unique<OnboardingWindow>(
+            store, [this] { completeOnboarding(); }, !desktopShowsTranslucentWindows());
         m_onboardingWindow->present();
     }
 

@@ -38,9 +38,10 @@ int runPickPrintCommand(const QStringList &args, CommandContext &context)
         }
     }
 
-    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(context.store);
+    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler();
     int status = ExitStatus::failure;
-    sampler->pick([&](std::optional<SampledColor> color) {
+    // The loupe's label already says what will be printed.
+    sampler->pick(format.value_or(SettingsViewModel::currentFormat(context.store)), [&](std::optional<SampledColor> color) {
         if (color) {
             // Read when the pick ends, as the tray program does, so a change made meanwhile counts.
             const ColorFormat shown = format.value_or(SettingsViewModel::currentFormat(context.store));

@@ -4,6 +4,7 @@
 #include "app/InstanceClient.h"
 #include "app/InstanceServer.h"
 #include "history/CopyHud.h"
+#include "platform/WindowCompositing.h"
 #include "history/FileExportDialogs.h"
 #include "hotkeys/GlobalShortcutBackend.h"
 #include "platform/AppearanceMonitor.h"
@@ -80,9 +81,9 @@ int runTrayApplication()
 
     // The facilities, each chosen once for this session, then the delegate that uses them.
     SettingsStore store(SettingsStore::standardFilePath());
-    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(store);
+    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler();
     std::unique_ptr<Clipboard> clipboard = makeClipboard();
-    CopyHud confirmation;
+    CopyHud confirmation(desktopShowsTranslucentWindows);
     FileExportDialogs exportDialogs;
     std::unique_ptr<GlobalShortcutBackend> shortcuts = createGlobalShortcutBackend();
     XdgAutostartService loginItems(XdgAutostartService::standardEntryPath(),

@@ -87,7 +87,8 @@ void ColorListViewModel::pickColor()
         return;
     setIsPicking(true);
     // The sampler may answer after the model is gone (at quit, with the picker still open).
-    m_sampler.pick([self = QPointer<ColorListViewModel>(this)](std::optional<SampledColor> sample) {
+    const ColorFormat format = SettingsViewModel::currentFormat(m_store);
+    m_sampler.pick(format, [self = QPointer<ColorListViewModel>(this)](std::optional<SampledColor> sample) {
         if (self)
             self->finishPick(sample);
     });

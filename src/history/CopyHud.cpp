@@ -1,6 +1,5 @@
 #include "history/CopyHud.h"
 
-#include "platform/WindowCompositing.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -34,7 +33,7 @@ QFont capsuleFont()
 // the rounded ends leave free, as a darker rim below the curve.
 class CapsuleWindow : public QWidget {
 public:
-    explicit CapsuleWindow(const QString &message)
+    CapsuleWindow(const QString &message, bool isCutToShape)
         : QWidget(nullptr, windowFlagsForPlatform())
         , m_message(message)
     {
@@ -44,7 +43,7 @@ public:
         setFocusPolicy(Qt::NoFocus);
         setFont(capsuleFont());
         setFixedSize(CopyHud::capsuleSize(message));
-        if (!desktopShowsTranslucentWindows()) {
+        if (isCutToShape) {
             // Cut the window to the capsule so the ends are round rather than black corners
             // (without the shadow, which would lie outside the cut).
             QPainterPath capsule;
@@ -110,8 +109,9 @@ private:
 
 } // namespace
 
-CopyHud::CopyHud(QObject *parent)
+CopyHud::CopyHud(std::function<bool()> showsTranslucentWindows, QObject *parent)
     : QObject(parent)
+    , m_showsTranslucentWindows(std::move(showsTranslucentWindows))
 {
     m_dismissal.setSingleShot(true);
     m_dismissal.setInterval(holdMs);
@@ -157,7 +157,7 @@ void CopyHud::showHUD(const QString &message)
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return;
 
-    auto *window = new CapsuleWindow(message);
+    auto *window = new CapsuleWindow(message, !m_showsTranslucentWindows());
     QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
     if (!screen)
         screen = QGuiApplication::primaryScreen();

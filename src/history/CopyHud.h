@@ -3,6 +3,7 @@
 #include "history/CopyConfirmation.h"
 
 #include <QObject>
+#include <functional>
 #include <QPointer>
 #include <QTimer>
 
@@ -19,7 +20,9 @@ class QWidget;
 class CopyHud : public QObject, public CopyConfirmation {
     Q_OBJECT
 public:
-    explicit CopyHud(QObject *parent = nullptr);
+    // `showsTranslucentWindows` answers, at each message, whether the desktop composites:
+    // without that, the capsule's window is cut to its shape instead.
+    explicit CopyHud(std::function<bool()> showsTranslucentWindows, QObject *parent = nullptr);
     ~CopyHud() override;
 
     void showHUD(const QString &message) override;
@@ -35,6 +38,7 @@ public:
 private:
     void dismiss();
 
+    std::function<bool()> m_showsTranslucentWindows;
     QPointer<QWidget> m_current;
     // Runs only while a capsule is on screen: nothing ticks while the program sits idle.
     QTimer m_dismissal;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/ColorFormat.h"
+
 #include <functional>
 #include <optional>
 
@@ -24,5 +26,6 @@ public:
     using Completion = std::function<void(std::optional<SampledColor>)>;
 
     virtual ~ScreenColorSampler() = default;
-    virtual void pick(Completion completion) = 0;
+    // `labelFormat`: how a picker that labels the colour under the pointer writes it.
+    virtual void pick(ColorFormat labelFormat, Completion completion) = 0;
 };

@@ -1,6 +1,6 @@
 #include "platform/NullScreenSampler.h"
 
-void NullScreenSampler::pick(Completion completion)
+void NullScreenSampler::pick(ColorFormat, Completion completion)
 {
     QMetaObject::invokeMethod(this, [c = std::move(completion)] { c(std::nullopt); }, Qt::QueuedConnection);
 }

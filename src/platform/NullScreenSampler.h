@@ -9,5 +9,5 @@
 class NullScreenSampler : public QObject, public ScreenColorSampler {
     Q_OBJECT
 public:
-    void pick(Completion completion) override;
+    void pick(ColorFormat labelFormat, Completion completion) override;
 };

@@ -56,7 +56,7 @@ QString PortalScreenSampler::requestPath(const QString &uniqueName, const QStrin
     return QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, token);
 }
 
-void PortalScreenSampler::pick(Completion completion)
+void PortalScreenSampler::pick(ColorFormat, Completion completion)
 {
     if (m_isPicking || !m_bus.isConnected()) {
         QMetaObject::invokeMethod(this, [c = std::move(completion)] { c(std::nullopt); }, Qt::QueuedConnection);

@@ -20,7 +20,7 @@ public:
     explicit PortalScreenSampler(const QDBusConnection &bus);
     ~PortalScreenSampler() override;
 
-    void pick(Completion completion) override;
+    void pick(ColorFormat labelFormat, Completion completion) override;
 
     // The request path the portal will use for `token` on a connection named `uniqueName`.
     static QString requestPath(const QString &uniqueName, const QString &token);

@@ -26,7 +26,7 @@ SamplerBackend chooseSamplerBackend(const QString &override, const QString &plat
                                                                                    : SamplerBackend::none;
 }
 
-std::unique_ptr<ScreenColorSampler> makeScreenColorSampler(const SettingsStore &store)
+std::unique_ptr<ScreenColorSampler> makeScreenColorSampler()
 {
     xcb_connection_t *connection = nullptr;
     if (auto *x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr)
@@ -38,7 +38,7 @@ std::unique_ptr<ScreenColorSampler> makeScreenColorSampler(const SettingsStore &
     case SamplerBackend::portal:
         return std::make_unique<PortalScreenSampler>(QDBusConnection::sessionBus());
     case SamplerBackend::x11:
-        return std::make_unique<X11ScreenSampler>(connection, store);
+        return std::make_unique<X11ScreenSampler>(connection);
     case SamplerBackend::none:
         break;
     }

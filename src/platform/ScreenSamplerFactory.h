@@ -5,8 +5,6 @@
 #include <QString>
 #include <memory>
 
-class SettingsStore;
-
 // The one place that decides which screen sampler the program uses.
 
 enum class SamplerBackend { portal, x11, none };
@@ -17,5 +15,4 @@ SamplerBackend chooseSamplerBackend(const QString &override, const QString &plat
                                     const QString &sessionType, bool hasX11Connection);
 
 // The sampler for this process, from the environment and the running QGuiApplication.
-// `store` gives the preferred format of the loupe's text.
-std::unique_ptr<ScreenColorSampler> makeScreenColorSampler(const SettingsStore &store);
+std::unique_ptr<ScreenColorSampler> makeScreenColorSampler();

@@ -3,7 +3,6 @@
 #include "model/ColorFormat.h"
 #include "platform/SamplerLoupe.h"
 #include "platform/X11LoupeWindow.h"
-#include "services/SettingsViewModel.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -54,10 +53,9 @@ std::optional<SampledColor> sampled(const std::optional<SamplerGeometry::Rgb> &r
 
 } // namespace
 
-X11ScreenSampler::X11ScreenSampler(xcb_connection_t *connection, const SettingsStore &store)
+X11ScreenSampler::X11ScreenSampler(xcb_connection_t *connection)
     : m_connection(connection)
     , m_screen(xcb_setup_roots_iterator(xcb_get_setup(connection)).data)
-    , m_store(store)
     , m_isReadable(m_screen && isRgb32(connection, m_screen))
 {
     m_grabRetry.setInterval(grabRetryMilliseconds);
@@ -125,7 +123,7 @@ void X11ScreenSampler::ensureWindows()
                          geometry);
 }
 
-void X11ScreenSampler::pick(Completion completion)
+void X11ScreenSampler::pick(ColorFormat labelFormat, Completion completion)
 {
     if (m_isPicking || !m_isReadable) {
         QMetaObject::invokeMethod(this, [c = std::move(completion)] { c(std::nullopt); }, Qt::QueuedConnection);
@@ -133,7 +131,7 @@ void X11ScreenSampler::pick(Completion completion)
     }
     m_completion = std::move(completion);
     m_isPicking = true;
-    m_format = int(SettingsViewModel::currentFormat(m_store));
+    m_format = labelFormat;
     m_zoom = SamplerGeometry::defaultZoom;
     m_pressedResult.reset();
     m_pressedButton = 0;
@@ -287,7 +285,7 @@ void X11ScreenSampler::redrawLoupe()
     const auto rgb = SamplerGeometry::sampleAt(patch, square.topLeft(), m_hotspot);
     QString text;
     if (m_isLabelReady) {
-        text = rgb ? formatColor(rgb->red, rgb->green, rgb->blue, 1, ColorFormat(m_format)) : QString();
+        text = rgb ? formatColor(rgb->red, rgb->green, rgb->blue, 1, m_format) : QString();
     } else if (!m_isLabelPending) {
         // The label needs the desktop's fonts, and loading them (fontconfig, FreeType, HarfBuzz)
         // costs 15-30 ms the first time. Vantle does not load them at launch, to stay small

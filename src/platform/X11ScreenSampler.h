@@ -14,7 +14,6 @@
 #include <xcb/xcb.h>
 
 class SamplerLoupe;
-class SettingsStore;
 class X11LoupeWindow;
 struct _XCBKeySymbols;
 
@@ -33,11 +32,10 @@ struct _XCBKeySymbols;
 class X11ScreenSampler : public QObject, public ScreenColorSampler, private QAbstractNativeEventFilter {
     Q_OBJECT
 public:
-    // `store` gives the preferred format of the loupe's text, read at every pick.
-    X11ScreenSampler(xcb_connection_t *connection, const SettingsStore &store);
+    explicit X11ScreenSampler(xcb_connection_t *connection);
     ~X11ScreenSampler() override;
 
-    void pick(Completion completion) override;
+    void pick(ColorFormat labelFormat, Completion completion) override;
 
     // For benchmarks and tests: the loupe window while a pick is under way (0 otherwise), and
     // the hotspot moved as a pointer move would.
@@ -61,7 +59,6 @@ private:
 
     xcb_connection_t *m_connection;
     const xcb_screen_t *m_screen;
-    const SettingsStore &m_store;
     bool m_isReadable = false; // the root's pixels are 32-bit 0xRRGGBB
     xcb_window_t m_inputWindow = XCB_NONE;
     xcb_cursor_t m_cursor = XCB_NONE;
@@ -74,7 +71,7 @@ private:
     std::vector<std::unique_ptr<SamplerLoupe>> m_loupes; // one per screen, for its scale
     QPoint m_hotspot;
     int m_zoom = SamplerGeometry::defaultZoom;
-    int m_format = 0;
+    ColorFormat m_format = ColorFormat::hex;
     QImage m_patch; // the square the loupe shows, centred on the hotspot
     QRect m_patchRect;
     bool m_isRedrawPending = false;

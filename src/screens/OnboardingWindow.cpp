@@ -1,6 +1,5 @@
 #include "screens/OnboardingWindow.h"
 
-#include "platform/WindowCompositing.h"
 #include "screens/OnboardingView.h"
 
 #include <QCloseEvent>
@@ -10,8 +9,10 @@
 #include <QToolButton>
 #include <QWindow>
 
-OnboardingWindow::OnboardingWindow(SettingsStore &store, std::function<void()> onComplete, QWidget *parent)
+OnboardingWindow::OnboardingWindow(
+    SettingsStore &store, std::function<void()> onComplete, bool isCutToShape, QWidget *parent)
     : QWidget(parent, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+    , m_isCutToShape(isCutToShape)
     , m_view(new OnboardingView(store, std::move(onComplete), this))
     , m_closeButton(new QToolButton(this))
 {
@@ -41,7 +42,7 @@ void OnboardingWindow::present()
         move(available.center() - QPoint(width() / 2, height() / 2));
     }
     show();
-    if (!desktopShowsTranslucentWindows()) {
+    if (m_isCutToShape) {
         // No compositor: cut the window to the view's rounded frame so the corners show the
         // desktop rather than black.
         QPainterPath frame;

@@ -16,7 +16,10 @@ class SettingsStore;
 class OnboardingWindow : public QWidget {
     Q_OBJECT
 public:
-    OnboardingWindow(SettingsStore &store, std::function<void()> onComplete, QWidget *parent = nullptr);
+    // `isCutToShape`: the desktop shows no translucent windows (no compositor), so the window
+    // is cut to its rounded frame instead.
+    OnboardingWindow(SettingsStore &store, std::function<void()> onComplete, bool isCutToShape,
+        QWidget *parent = nullptr);
 
     OnboardingView *view() const { return m_view; }
 
@@ -33,6 +36,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    bool m_isCutToShape;
     OnboardingView *m_view;
     QToolButton *m_closeButton;
     // Where the pointer grabbed the window, while dragging without the window manager's help.

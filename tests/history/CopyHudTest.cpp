@@ -52,7 +52,7 @@ QRect expectedGeometry(const QString &message)
 class CopyHudTest : public ::testing::Test {
 protected:
     void SetUp() override { QCursor::setPos(QGuiApplication::primaryScreen()->geometry().center()); }
-    CopyHud hud;
+    CopyHud hud{[] { return true; }};
 };
 
 TEST(CopyHudGeometry, CentredOnTheUsableAreaAHundredPixelsAboveItsMiddle)

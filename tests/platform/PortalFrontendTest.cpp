@@ -99,7 +99,7 @@ TEST(PortalFrontend, PickColorBringsTheComponentsUnrounded)
         desktop.backend.pickResponse = c.response;
         int calls = 0;
         std::optional<SampledColor> color;
-        sampler.pick([&](std::optional<SampledColor> result) {
+        sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor> result) {
             ++calls;
             color = result;
         });

@@ -19,7 +19,7 @@ PickOutcome pickOnce(PortalScreenSampler &sampler)
 {
     PickOutcome outcome;
     bool insidePick = true;
-    sampler.pick([&](std::optional<SampledColor> color) {
+    sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor> color) {
         ++outcome.calls;
         outcome.ranInsidePick = insidePick;
         outcome.color = color;
@@ -94,8 +94,8 @@ TEST(PortalScreenSampler, SecondPickWhileOneRunsEndsWithNothing)
     PortalScreenSampler sampler(QDBusConnection::sessionBus());
     int firstCalls = 0, secondCalls = 0;
     std::optional<SampledColor> first, second = SampledColor{};
-    sampler.pick([&](std::optional<SampledColor> c) { ++firstCalls, first = c; });
-    sampler.pick([&](std::optional<SampledColor> c) { ++secondCalls, second = c; });
+    sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor> c) { ++firstCalls, first = c; });
+    sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor> c) { ++secondCalls, second = c; });
     EXPECT_TRUE(QTest::qWaitFor([&] { return firstCalls && secondCalls; }, 10000));
     EXPECT_TRUE(first);
     EXPECT_FALSE(second);

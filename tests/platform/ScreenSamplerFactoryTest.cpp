@@ -35,7 +35,7 @@ TEST(ScreenSamplerFactory, NullBackendEndsWithNothingAfterPickReturns)
     NullScreenSampler sampler;
     int calls = 0;
     std::optional<SampledColor> result = SampledColor{};
-    sampler.pick([&](std::optional<SampledColor> color) {
+    sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor> color) {
         ++calls;
         result = color;
     });

@@ -235,7 +235,7 @@ TEST_F(Onboarding, PaintsTheScreensInTheirColours)
 TEST(OnboardingWindowTest, IsAFramelessFloatingWindowOfItsSize)
 {
     TempSettings settings;
-    OnboardingWindow window(*settings.store, [] {});
+    OnboardingWindow window(*settings.store, [] {}, false);
     EXPECT_EQ(window.size(), QSize(520, 420));
     EXPECT_TRUE(window.windowFlags().testFlag(Qt::FramelessWindowHint));
     EXPECT_TRUE(window.windowFlags().testFlag(Qt::WindowStaysOnTopHint));

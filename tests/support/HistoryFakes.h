@@ -16,7 +16,7 @@
 // which models the real samplers: the answer always comes after pick() returned.
 class FakeScreenColorSampler : public ScreenColorSampler {
 public:
-    void pick(Completion completion) override
+    void pick(ColorFormat, Completion completion) override
     {
         ++pickCount;
         pending = std::move(completion);

@@ -1,7 +1,6 @@
 #include "hotkeys/HotkeyRecorderView.h"
 
 #include "hotkeys/KeyCodes.h"
-#include "screens/Symbols.h"
 #include "services/SettingsStore.h"
 
 #include <QApplication>
@@ -60,13 +59,15 @@ QString rgba(const QColor &color, double opacity)
 } // namespace
 
 HotkeyRecorderView::HotkeyRecorderView(const QString &label, SettingsStore &store, const QString &keyCodeKey,
-    const QString &modifiersKey, const QString &keyCharKey, std::function<void()> onChanged, QWidget *parent)
+    const QString &modifiersKey, const QString &keyCharKey, std::function<void()> onChanged, IconMaker clearIcon,
+    QWidget *parent)
     : QWidget(parent)
     , m_store(store)
     , m_keyCodeKey(keyCodeKey)
     , m_modifiersKey(modifiersKey)
     , m_keyCharKey(keyCharKey)
     , m_onChanged(std::move(onChanged))
+    , m_clearIcon(std::move(clearIcon))
     , m_caption(new QLabel(label, this))
     , m_field(new QPushButton(this))
     , m_clearButton(new QToolButton(this))
@@ -227,6 +228,7 @@ void HotkeyRecorderView::updateField()
     m_field->setStyleSheet(style);
     m_field->setToolTip(display.isEmpty() ? QString() : KeyCodes::shortcutDesktopText(modifiers, keyChar));
 
-    m_clearButton->setIcon(Symbols::icon(QStringLiteral("xmark.circle.fill"), 14, secondary));
+    if (m_clearIcon)
+        m_clearButton->setIcon(m_clearIcon(secondary));
     m_clearButton->setVisible(isSet);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QString>
 #include <QWidget>
 #include <functional>
@@ -20,9 +21,11 @@ class SettingsStore;
 class HotkeyRecorderView : public QWidget {
     Q_OBJECT
 public:
+    // `clearIcon` draws the clear button's icon in a colour (the screens own the symbols).
+    using IconMaker = std::function<QIcon(const QColor &)>;
     HotkeyRecorderView(const QString &label, SettingsStore &store, const QString &keyCodeKey,
         const QString &modifiersKey, const QString &keyCharKey, std::function<void()> onChanged,
-        QWidget *parent = nullptr);
+        IconMaker clearIcon = {}, QWidget *parent = nullptr);
     ~HotkeyRecorderView() override;
 
     void setOnRecordingChanged(std::function<void(bool isRecording)> onRecordingChanged);
@@ -49,6 +52,7 @@ private:
     const QString m_modifiersKey;
     const QString m_keyCharKey;
     std::function<void()> m_onChanged;
+    IconMaker m_clearIcon;
     std::function<void(bool)> m_onRecordingChanged;
     bool m_isRecording = false;
 

@@ -253,11 +253,14 @@ QWidget *SettingsView::makeGeneralPage()
     // being recorded the manager lets go of its grabs so the press reaches the recorder.
     const auto reregister = [this] { m_hotkeyManager.reregisterAll(); };
     const auto suspend = [this](bool isRecording) { m_hotkeyManager.setSuspended(isRecording); };
+    const auto clearIcon = [](const QColor &color) {
+        return Symbols::icon(QStringLiteral("xmark.circle.fill"), 14, color);
+    };
     m_pickRecorder = new HotkeyRecorderView(tr("Pick color"), m_store, PreferenceKeys::pickKeyCode,
-        PreferenceKeys::pickModifiers, PreferenceKeys::pickKeyChar, reregister);
+        PreferenceKeys::pickModifiers, PreferenceKeys::pickKeyChar, reregister, clearIcon);
     m_pickRecorder->setOnRecordingChanged(suspend);
     m_popoverRecorder = new HotkeyRecorderView(tr("Toggle popover"), m_store, PreferenceKeys::popoverKeyCode,
-        PreferenceKeys::popoverModifiers, PreferenceKeys::popoverKeyChar, reregister);
+        PreferenceKeys::popoverModifiers, PreferenceKeys::popoverKeyChar, reregister, clearIcon);
     m_popoverRecorder->setOnRecordingChanged(suspend);
     // The clear button keeps its place while hidden, so both fields end at the same edge.
     for (HotkeyRecorderView *recorder : { m_pickRecorder, m_popoverRecorder }) {

@@ -25,7 +25,7 @@ struct Pane {
         settings.store->setInteger(pickModifiers, 262144);
         settings.store->setString(pickKeyChar, QStringLiteral("X"));
         recorder = new HotkeyRecorderView(QStringLiteral("Pick color"), *settings.store, pickKeyCode, pickModifiers,
-            pickKeyChar, [this] { ++changes; }, &window);
+            pickKeyChar, [this] { ++changes; }, {}, &window);
         recorder->setOnRecordingChanged([this](bool isRecording) { recordingChanges << isRecording; });
         sibling = new QLineEdit(&window);
         auto *layout = new QVBoxLayout(&window);

@@ -90,7 +90,7 @@ void AppDelegate::applicationDidFinishLaunching()
     DiskImageCleanup(DiskImageCleanup::currentEnvironment(), std::make_shared<ProcessCommandRunner>())
         .start();
 
-    // The quiet update checks (when automatic downloads are on) begin once Vantle runs.
+    // The quiet update checks begin once Vantle runs.
     m_updaterController->startUpdater();
 }
 

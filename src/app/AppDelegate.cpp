@@ -98,7 +98,7 @@ void AppDelegate::applicationDidFinishLaunching()
     DiskImageCleanup(DiskImageCleanup::currentEnvironment(), std::make_shared<ProcessCommandRunner>())
         .start();
 
-    // The quiet update checks (when automatic downloads are on) begin once Vantle runs.
+    // The quiet update checks begin once Vantle runs.
     m_updaterController->startUpdater();
 }
 
@@ -139,7 +139,7 @@ void AppDelegate::createStatusItem()
     m_statusMenu->addAction(tr("Pick Color"), this, &AppDelegate::pickColor);
     m_statusMenu->addAction(tr("Settings…"), this, &AppDelegate::openSettings);
     m_statusMenu->addSeparator();
-    m_statusMenu->addAction(tr("Quit Vantle"), qApp, &QCoreApplication::quit);
+    m_statusMenu->addAction(tr("Quit vantle"), qApp, &QCoreApplication::quit);
     m_statusItem->setContextMenu(m_statusMenu.get());
     connect(m_statusItem.get(), &QSystemTrayIcon::activated, this,
         [this](QSystemTrayIcon::ActivationReason reason) {

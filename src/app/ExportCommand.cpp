@@ -6,6 +6,8 @@
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
+#include <QFileInfo>
+
 int runExportCommand(const QStringList &args, CommandContext &context)
 {
     bool pinnedOnly = false;
@@ -49,9 +51,12 @@ int runExportCommand(const QStringList &args, CommandContext &context)
         std::optional<QList<PickedColor>> decoded = decodeColorHistory(*stored);
         if (!decoded) {
             // The tray program starts empty on such a value; here an empty palette would look
-            // like a lost history, so say so.
+            // like a lost history, so say so, and where it lies: in a file of its own, or still
+            // in the settings file where earlier versions kept it.
+            const QString dataPath = context.store.dataFilePath(PreferenceKeys::colorHistory);
             context.err << "vantle export: the stored colour history cannot be read ("
-                        << context.store.filePath() << ")" << Qt::endl;
+                        << (QFileInfo::exists(dataPath) ? dataPath : context.store.filePath()) << ")"
+                        << Qt::endl;
             return ExitStatus::failure;
         }
         colors = std::move(*decoded);

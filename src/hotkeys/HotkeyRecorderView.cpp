@@ -7,6 +7,7 @@
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
@@ -15,7 +16,7 @@ namespace {
 
 // What the key types without Control, Alt or Super, upper-cased: follows the layout, so a
 // French keyboard shows the letter printed on its key. Keys that type nothing printable get a
-// name from the key table.
+// name from the key table, else Qt's (media and launch keys), else their keysym's.
 QString keyText(const QKeyEvent &event, int keyCode)
 {
     const int qtKey = event.key();
@@ -28,7 +29,11 @@ QString keyText(const QKeyEvent &event, int keyCode)
     const QString typed = event.text();
     if (!typed.isEmpty() && typed.at(0).isPrint() && !typed.at(0).isSpace())
         return typed.toUpper();
-    return KeyCodes::keyNameForKeyCode(keyCode);
+    if (QString name = KeyCodes::keyNameForKeyCode(keyCode); !name.isEmpty())
+        return name;
+    if (QString name = QKeySequence(qtKey).toString(QKeySequence::NativeText); !name.isEmpty())
+        return name;
+    return KeyCodes::keysymNameForKeyCode(keyCode);
 }
 
 // The stored key code of the pressed physical key: the native scan code is the X key code on
@@ -39,7 +44,8 @@ std::optional<int> keyCodeOf(const QKeyEvent &event)
         if (auto keyCode = KeyCodes::keyCodeForXKeycode(event.nativeScanCode()))
             return keyCode;
     }
-    return KeyCodes::keyCodeForQtKey(event.key());
+    return KeyCodes::keyCodeForQtKey(
+        QKeyCombination(event.modifiers() & Qt::KeypadModifier, Qt::Key(event.key())).toCombined());
 }
 
 QColor orange()

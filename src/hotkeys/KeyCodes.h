@@ -6,9 +6,11 @@
 #include <optional>
 
 // The one key table of the program. A shortcut is stored as a virtual key code of the
-// original Mac keyboard (8 = C, 7 = X, 53 = Escape, ...) plus modifier flag bits, so the
-// preferences stay compatible with the values the product has always written. Everything that
-// meets a real keyboard (Qt key events, X keysyms, X key codes, the portal's notation)
+// original Mac keyboard (8 = C, 7 = X, 53 = Escape, 83 = keypad 1, ...) plus modifier flag
+// bits, so the preferences stay compatible with the values the product has always written;
+// keys Macs have no code for are stored as 0x100 plus their Linux input event code. The table
+// holds every key the standard X keymap gives a keysym, modifiers and locks aside. Everything
+// that meets a real keyboard (Qt key events, X keysyms, X key codes, the portal's notation)
 // converts through here.
 namespace KeyCodes {
 
@@ -26,6 +28,8 @@ inline constexpr int escapeKeyCode = 53;
 bool isShortcutSet(qint64 keyCode, qint64 modifiers);
 
 // Conversions between stored key codes and platform keys. A key outside the table has none.
+// Keypad keys are Qt keys with Qt::KeypadModifier added (keypad 1 is not the 1 key); keys Qt
+// has no key of its own for are found by their scan code only.
 std::optional<int> qtKeyForKeyCode(qint64 keyCode);
 std::optional<int> keyCodeForQtKey(int qtKey);
 std::optional<quint32> keysymForKeyCode(qint64 keyCode);
@@ -34,10 +38,10 @@ std::optional<int> keyCodeForKeysym(quint32 keysym);
 // Wayland): the physical key, independent of the layout.
 std::optional<int> keyCodeForXKeycode(quint32 xKeycode);
 std::optional<quint32> xKeycodeForKeyCode(qint64 keyCode);
-// The keysym name as the xkb tools spell it ("c", "F1", "bracketleft").
+// The keysym name as the xkb tools spell it ("c", "F1", "bracketleft", "XF86AudioPlay").
 QString keysymNameForKeyCode(qint64 keyCode);
-// What to show for a key that types no character ("F1", "Space", "←"); empty for keys that
-// type one.
+// What to show for a key that types no character ("F1", "Space", "←", "1" for keypad 1 with
+// Num Lock off); empty for keys that type one and for those Qt names better ("Media Play").
 QString keyNameForKeyCode(qint64 keyCode);
 
 // The X modifier mask bits of the four stored flags, as found in the server's mapping.

@@ -121,7 +121,7 @@ bool isCanonicalUuidText(const QString &text)
         if (i == 8 || i == 13 || i == 18 || i == 23) {
             if (c != u'-')
                 return false;
-        } else if (!(c.isDigit() || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F'))) {
+        } else if (hexValue(c.unicode()) < 0) {
             return false;
         }
     }
@@ -318,8 +318,9 @@ bool HistoryReader::toColor(const Value (&fields)[fieldCount], PickedColor &colo
             return false;
         color.id = *uuid;
     } else {
-        // Escaped, or not 36 bytes: checked as characters. QChar::isDigit lets any decimal digit
-        // through, and QUuid::fromString then gives the null id; histories have always read so.
+        // Escaped, or not 36 bytes: checked as characters. Only ASCII hex digits count: any other
+        // digit would reach QUuid::fromString as the null id, and records sharing it would be
+        // pinned, renamed and deleted together.
         const QString text = valueText(id.text);
         if (!isCanonicalUuidText(text))
             return false;

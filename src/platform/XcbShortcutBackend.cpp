@@ -188,19 +188,33 @@ void XcbShortcutBackend::releaseAllGrabs()
 void XcbShortcutBackend::registerShortcut(const GlobalShortcut &shortcut)
 {
     unregisterShortcut(shortcut.id);
-    const std::optional<quint32> keysym = KeyCodes::keysymForKeyCode(shortcut.keyCode);
-    if (!keysym || !m_symbols)
+    if (!KeyCodes::keysymForKeyCode(shortcut.keyCode) || !m_symbols)
         return;
-    Registration registration{shortcut.id, *keysym, shortcut.modifiers, {}};
+    m_registrations.push_back(
+        Registration { shortcut.id, shortcut.keyCode, shortcut.modifiers, keycodesForKey(shortcut.keyCode) });
+    syncGrabs();
+}
+
+QList<xcb_keycode_t> XcbShortcutBackend::keycodesForKey(qint64 keyCode) const
+{
+    QList<xcb_keycode_t> result;
+    const std::optional<quint32> keysym = KeyCodes::keysymForKeyCode(keyCode);
+    if (!keysym || !m_symbols)
+        return result;
     if (xcb_keycode_t *keycodes = xcb_key_symbols_get_keycode(m_symbols, *keysym)) {
         for (xcb_keycode_t *keycode = keycodes; *keycode != XCB_NO_SYMBOL; ++keycode) {
-            if (!registration.keycodes.contains(*keycode))
-                registration.keycodes << *keycode;
+            if (!result.contains(*keycode))
+                result << *keycode;
         }
         std::free(keycodes);
     }
-    m_registrations.push_back(registration);
-    syncGrabs();
+    // A keymap that gives the key no keysym at all (F19 and F24 in the standard one) still
+    // delivers its presses: grab the key itself.
+    if (result.isEmpty()) {
+        if (const std::optional<quint32> physical = KeyCodes::xKeycodeForKeyCode(keyCode))
+            result << xcb_keycode_t(*physical);
+    }
+    return result;
 }
 
 void XcbShortcutBackend::unregisterShortcut(int id)
@@ -224,16 +238,8 @@ void XcbShortcutBackend::refreshMapping()
     m_isRefreshPending = false;
     releaseAllGrabs(); // with the old lock bits and key codes
     readKeyboardMapping();
-    for (Registration &registration : m_registrations) {
-        registration.keycodes.clear();
-        if (xcb_keycode_t *keycodes = xcb_key_symbols_get_keycode(m_symbols, registration.keysym)) {
-            for (xcb_keycode_t *keycode = keycodes; *keycode != XCB_NO_SYMBOL; ++keycode) {
-                if (!registration.keycodes.contains(*keycode))
-                    registration.keycodes << *keycode;
-            }
-            std::free(keycodes);
-        }
-    }
+    for (Registration &registration : m_registrations)
+        registration.keycodes = keycodesForKey(registration.keyCode);
     syncGrabs();
 }
 

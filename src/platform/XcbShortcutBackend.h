@@ -13,7 +13,8 @@ struct _XCBKeySymbols;
 
 // Global shortcuts on an X11 desktop: passive key grabs on the root window.
 //
-// - Each shortcut is grabbed for every key code its keysym sits on, and for every combination
+// - Each shortcut is grabbed for every key code its keysym sits on (the key itself when the
+//   keymap gives its keysym to none), and for every combination
 //   of Caps Lock, Num Lock and Scroll Lock, so it fires whatever lock is on. Which modifier
 //   bits Num Lock, Scroll Lock, Alt and Super use is read from the server's modifier mapping.
 // - A keyboard mapping change (another layout, xmodmap) grabs everything again.
@@ -39,10 +40,13 @@ public:
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
+    // The X key codes a shortcut on the stored `keyCode` grabs with the current keymap.
+    QList<xcb_keycode_t> keycodesForKey(qint64 keyCode) const;
+
 private:
     struct Registration {
         int id;
-        quint32 keysym;
+        qint64 keyCode; // stored
         qint64 modifiers; // stored flags
         QList<xcb_keycode_t> keycodes;
     };

@@ -11,6 +11,7 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <utility>
 
 AppcastUpdater::AppcastUpdater(SettingsStore &store, QNetworkAccessManager &network, UpdateUserInterface &ui,
     UpdateBundle bundle, QObject *parent)
@@ -41,11 +42,8 @@ AppcastUpdater::~AppcastUpdater()
 
 void AppcastUpdater::setAutomaticallyDownloadsUpdates(bool automatic)
 {
+    // Only what a found release leads to changes; the checks go on either way.
     m_automatic = automatic;
-    if (!automatic)
-        m_nextCheck.stop();
-    else if (m_started && !m_nextCheck.isActive() && canCheckForUpdates())
-        scheduleNextCheck();
 }
 
 void AppcastUpdater::startUpdater()
@@ -53,34 +51,53 @@ void AppcastUpdater::startUpdater()
     if (m_started)
         return;
     m_started = true;
-    if (m_automatic)
-        runBackgroundCheck();
+    runBackgroundCheck();
 }
 
 void AppcastUpdater::scheduleNextCheck()
 {
-    if (m_started && m_automatic)
+    if (m_started)
         m_nextCheck.start(m_bundle.checkInterval);
 }
 
 void AppcastUpdater::runBackgroundCheck()
 {
     const QUrl url(m_bundle.feedUrl, QUrl::StrictMode);
-    if (!m_automatic || !canCheckForUpdates() || !url.isValid() || url.host().isEmpty())
+    if (!canCheckForUpdates() || !url.isValid() || url.host().isEmpty())
         return scheduleNextCheck();
     beginCheck();
     m_feedReply = BoundedFetch::get(m_network, url, m_bundle.transferTimeout, BoundedFetch::maximumFeedSize,
         this, [this](const BoundedFetch::Result &result) {
             endCheck();
+            scheduleNextCheck();
+            // The user asked meanwhile: the answer is theirs to see, as if they had fetched it.
+            if (const auto onFeed = std::exchange(m_onRunningFeed, {}))
+                return onFeed(result);
             std::optional<AppcastItem> update;
             if (result.ok && result.status == 200)
                 update = Appcast::newestUpdate(result.body, m_bundle.version);
             const auto skipped = m_store.stringForKey(PreferenceKeys::skippedUpdateVersion);
-            if (update && m_automatic && (!skipped || *skipped != update->version))
+            if (!update || (skipped && *skipped == update->version))
+                return;
+            if (m_automatic)
                 startDownload(*update, true);
             else
-                scheduleNextCheck();
+                offerUpdate(*update);
         });
+}
+
+bool AppcastUpdater::followRunningCheck(std::function<void(const BoundedFetch::Result &)> onFeed)
+{
+    if (m_feedReply) {
+        m_onRunningFeed = std::move(onFeed);
+        return true;
+    }
+    if (m_download && m_download->automatic && !m_download->watched && m_download->reply) {
+        m_download->watched = true;
+        watchDownload(m_download->reply);
+        return true;
+    }
+    return false;
 }
 
 void AppcastUpdater::presentUpdate(const QByteArray &feed)
@@ -90,16 +107,21 @@ void AppcastUpdater::presentUpdate(const QByteArray &feed)
         m_ui.showUpToDate(m_bundle.name, m_bundle.version);
         return;
     }
+    offerUpdate(*update);
+}
+
+void AppcastUpdater::offerUpdate(const AppcastItem &update)
+{
     beginCheck(); // no second check while the user decides
-    const UpdateUserInterface::Choice choice = m_ui.askAboutUpdate(*update, m_bundle.name, m_bundle.version);
+    const UpdateUserInterface::Choice choice = m_ui.askAboutUpdate(update, m_bundle.name, m_bundle.version);
     endCheck();
     switch (choice) {
     case UpdateUserInterface::Choice::download:
         if (canCheckForUpdates())
-            startDownload(*update, false);
+            startDownload(update, false);
         break;
     case UpdateUserInterface::Choice::skipThisVersion:
-        m_store.setString(PreferenceKeys::skippedUpdateVersion, update->version);
+        m_store.setString(PreferenceKeys::skippedUpdateVersion, update.version);
         break;
     case UpdateUserInterface::Choice::remindLater:
         break;
@@ -133,6 +155,7 @@ void AppcastUpdater::startDownload(const AppcastItem &update, bool automatic)
     auto download = std::make_unique<Download>();
     download->update = update;
     download->automatic = automatic;
+    download->watched = !automatic;
     QDir().mkpath(m_bundle.downloadFolder);
     const QString fallback = QStringLiteral("%1-%2.update").arg(m_bundle.name, update.version);
     const QString name = DownloadFileName::safeFileName(
@@ -167,16 +190,19 @@ void AppcastUpdater::startDownload(const AppcastItem &update, bool automatic)
             reply->abort();
         }
     });
-    if (!automatic) {
-        connect(reply, &QNetworkReply::downloadProgress, this, [this](qint64 received, qint64) {
-            m_ui.downloadProgressed(received, m_download->update.length);
-        });
-        m_ui.downloadStarted(update, [guard = QPointer<AppcastUpdater>(this), reply] {
-            if (guard && guard->m_download && guard->m_download->reply == reply)
-                guard->cancelDownload();
-        });
-    }
+    if (!automatic)
+        watchDownload(reply);
     connect(reply, &QNetworkReply::finished, this, &AppcastUpdater::finishDownload);
+}
+
+void AppcastUpdater::watchDownload(QNetworkReply *reply)
+{
+    connect(reply, &QNetworkReply::downloadProgress, this,
+        [this](qint64 received, qint64) { m_ui.downloadProgressed(received, m_download->update.length); });
+    m_ui.downloadStarted(m_download->update, [guard = QPointer<AppcastUpdater>(this), reply] {
+        if (guard && guard->m_download && guard->m_download->reply == reply)
+            guard->cancelDownload();
+    });
 }
 
 void AppcastUpdater::cancelDownload()
@@ -200,7 +226,7 @@ void AppcastUpdater::finishDownload()
     const bool flushed = d->file.flush();
     d->file.close();
     endCheck();
-    if (!d->automatic)
+    if (d->watched)
         m_ui.downloadEnded();
 
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
@@ -225,7 +251,7 @@ void AppcastUpdater::finishDownload()
         d->file.remove();
         // Quiet background checks still speak up when a file was refused: that may be an attack.
         const bool networkOnly = reply->error() != QNetworkReply::NoError && !d->tooLong;
-        if (!d->automatic || !networkOnly)
+        if (d->watched || !networkOnly)
             m_ui.showDownloadFailed(failure);
     } else if (!d->cancelled) {
         m_ui.showDownloadReady(d->update, d->file.fileName(), d->automatic);

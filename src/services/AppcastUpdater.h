@@ -1,12 +1,14 @@
 #pragma once
 
 #include "services/Appcast.h"
+#include "services/BoundedFetch.h"
 #include "services/UpdateBundle.h"
 
 #include <QFile>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 class QNetworkAccessManager;
@@ -18,9 +20,10 @@ class UpdateUserInterface;
 // it into the download folder and checks its length and signature before anyone may open it.
 // Nothing is ever installed behind the user's back; a verified file is only offered.
 //
-// While updates download automatically, a quiet check runs when the updater starts and once a
-// day after that (one single-shot timer; nothing runs in between). Everything on the main
-// thread; the network work is asynchronous.
+// A quiet check runs when the updater starts and once a day after that (one single-shot timer;
+// nothing runs in between). A release it finds, unless skipped, is downloaded without asking
+// while updates download automatically, and offered in the update dialog otherwise. Everything
+// on the main thread; the network work is asynchronous.
 class AppcastUpdater : public QObject {
     Q_OBJECT
 public:
@@ -34,7 +37,7 @@ public:
     void setAutomaticallyDownloadsUpdates(bool automatic);
     bool automaticallyDownloadsUpdates() const { return m_automatic; }
 
-    // Starts the background checks (when automatic downloads are on). Called once at launch.
+    // Starts the background checks. Called once at launch.
     void startUpdater();
 
     // The user asked, and `feed` is the appcast just fetched: show the newest release (or that
@@ -45,13 +48,21 @@ public:
     void beginCheck();
     void endCheck();
 
+    // The user asked while the updater is busy. A background check under way hands its feed to
+    // `onFeed` instead of acting on it; a quiet download under way shows its progress and its
+    // outcome from now on. False when neither runs (the user is already looking at the
+    // update dialog).
+    bool followRunningCheck(std::function<void(const BoundedFetch::Result &)> onFeed);
+
 Q_SIGNALS:
     void canCheckForUpdatesChanged(bool canCheck);
 
 private:
     void scheduleNextCheck();
     void runBackgroundCheck();
+    void offerUpdate(const AppcastItem &update);
     void startDownload(const AppcastItem &update, bool automatic);
+    void watchDownload(QNetworkReply *reply);
     void finishDownload();
     void cancelDownload();
     QString verificationFailure(int verdict) const;
@@ -65,10 +76,12 @@ private:
     int m_busyCount = 0;
     QTimer m_nextCheck;
     QPointer<QNetworkReply> m_feedReply;
+    std::function<void(const BoundedFetch::Result &)> m_onRunningFeed;
 
     struct Download {
         AppcastItem update;
         bool automatic = false;
+        bool watched = false; // by the user: progress and every failure shown
         bool cancelled = false;
         bool tooLong = false;
         bool writeFailed = false;

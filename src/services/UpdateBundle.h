@@ -13,7 +13,7 @@ struct UpdateBundle {
     QString downloadFolder;
     // A transfer that receives nothing for this long is given up.
     std::chrono::milliseconds transferTimeout { std::chrono::seconds(30) };
-    // Between background checks while updates download automatically.
+    // Between background checks.
     std::chrono::milliseconds checkInterval { std::chrono::hours(24) };
 
     // The values fixed when the program was built; downloads go to the user's download folder.

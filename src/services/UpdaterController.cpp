@@ -57,32 +57,44 @@ void UpdaterController::setCanCheckForUpdates(bool canCheck)
 
 void UpdaterController::checkForUpdates()
 {
-    if (!m_updater->canCheckForUpdates())
-        return;
     const QUrl url(m_bundle.feedUrl, QUrl::StrictMode);
     const bool web = url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
     if (!url.isValid() || !web || url.host().isEmpty()) {
         showUpToDateAlert();
         return;
     }
+    // A check of the user's own already under way answers this one too.
+    if (m_precheck)
+        return;
+    // A background check or download under way: its outcome is shown when it comes, instead of
+    // a second fetch racing it.
+    if (!m_updater->canCheckForUpdates()) {
+        m_updater->followRunningCheck([this](const BoundedFetch::Result &result) { showOutcome(result); });
+        return;
+    }
     m_updater->beginCheck();
     m_precheck = BoundedFetch::get(m_network, url, m_bundle.transferTimeout, BoundedFetch::maximumFeedSize,
         this, [this](const BoundedFetch::Result &result) {
             m_updater->endCheck();
-            if (!result.ok || result.status != 200 || result.body.isEmpty()) {
-                showUpToDateAlert();
-                return;
-            }
-            // Text that is not UTF-8 counts as empty: no release in it.
-            QStringDecoder decoder(QStringDecoder::Utf8);
-            QString text = decoder.decode(result.body);
-            if (decoder.hasError())
-                text.clear();
-            if (text.contains(QLatin1String("<item>")) || text.contains(QLatin1String("<item ")))
-                m_updater->presentUpdate(result.body);
-            else
-                showUpToDateAlert();
+            showOutcome(result);
         });
+}
+
+void UpdaterController::showOutcome(const BoundedFetch::Result &result)
+{
+    if (!result.ok || result.status != 200 || result.body.isEmpty()) {
+        showUpToDateAlert();
+        return;
+    }
+    // Text that is not UTF-8 counts as empty: no release in it.
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    QString text = decoder.decode(result.body);
+    if (decoder.hasError())
+        text.clear();
+    if (text.contains(QLatin1String("<item>")) || text.contains(QLatin1String("<item ")))
+        m_updater->presentUpdate(result.body);
+    else
+        showUpToDateAlert();
 }
 
 void UpdaterController::showUpToDateAlert()

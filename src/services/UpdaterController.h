@@ -1,5 +1,6 @@
 #pragma once
 
+#include "services/BoundedFetch.h"
 #include "services/UpdateBundle.h"
 
 #include <QObject>
@@ -39,7 +40,9 @@ public:
     void startUpdater();
 
     // Without a valid feed address the up-to-date box shows at once (before this returns) and
-    // the network is not touched; otherwise the outcome follows when the feed has arrived.
+    // the network is not touched; otherwise the outcome follows when the feed has arrived. Asked
+    // while a background check runs, the outcome is that check's; while a quiet download runs,
+    // the download's progress and result.
     void checkForUpdates();
     void showUpToDateAlert();
 
@@ -49,6 +52,7 @@ Q_SIGNALS:
 
 private:
     void setCanCheckForUpdates(bool canCheck);
+    void showOutcome(const BoundedFetch::Result &result);
 
     SettingsStore &m_store;
     QNetworkAccessManager &m_network;

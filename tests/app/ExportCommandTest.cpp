@@ -108,6 +108,7 @@ TEST_F(ExportCommandTest, RefusesWhatItCannotDo)
     const CommandRun run = runExport({ QStringLiteral("--json") }, *t.store);
     EXPECT_EQ(run.status, ExitStatus::failure);
     EXPECT_EQ(run.out, QString());
+    EXPECT_TRUE(run.err.contains(t.store->dataFilePath(PreferenceKeys::colorHistory))) << qPrintable(run.err);
 
     t.store->removeObject(PreferenceKeys::colorHistory);
     EXPECT_EQ(runExport({ QStringLiteral("--json") }, *t.store).out, u"[\n\n]\n");

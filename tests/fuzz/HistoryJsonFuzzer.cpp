@@ -1,7 +1,8 @@
 // The stored colour history as read from the settings file. The reader must accept exactly the
-// documents the QJsonDocument-based reader below accepted, with equal records, since that one
-// read every history saved so far. Whatever decodes must write back and read again to the very
-// same records and the very same bytes.
+// documents the QJsonDocument-based reader below accepts, with equal records, since that one
+// read every history saved so far (it once also took digits beyond ASCII in an id, as the null
+// id; those histories are refused now). Whatever decodes must write back and read again to the
+// very same records and the very same bytes.
 #include "FuzzCheck.h"
 
 #include "model/PickedColor.h"
@@ -22,7 +23,7 @@ bool isCanonicalUuidText(const QString &text)
         if (i == 8 || i == 13 || i == 18 || i == 23) {
             if (c != u'-')
                 return false;
-        } else if (!(c.isDigit() || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F'))) {
+        } else if (!((c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F'))) {
             return false;
         }
     }
@@ -51,6 +52,9 @@ std::optional<PickedColor> referenceRecord(const QJsonValue &value)
     if (!id.isString() || !isCanonicalUuidText(id.toString()))
         return std::nullopt;
     color.id = QUuid::fromString(id.toString());
+    // The id read is the id stored: no other text may stand for it (a digit beyond ASCII would
+    // read as the null id, shared by every record written so).
+    FUZZ_CHECK(color.id.toString(QUuid::WithoutBraces) == id.toString().toLower());
 
     const auto red = finiteNumber(object, QLatin1StringView("red"));
     const auto green = finiteNumber(object, QLatin1StringView("green"));

@@ -135,6 +135,7 @@ TEST(PickedColor, OneBadElementRejectsTheWholeHistory)
         R"({"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":1,"blue":1,"alpha":1,"isPinned":false})", // no timestamp
         R"({"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","green":1,"blue":1,"alpha":1,"isPinned":false,"timestamp":0})",
         R"({"id":"not-a-uuid","red":1,"green":1,"blue":1,"alpha":1,"isPinned":false,"timestamp":0})",
+        R"({"id":"\u0661F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":1,"blue":1,"alpha":1,"isPinned":false,"timestamp":0})",
         R"({"id":"{6F9619FF-8B86-D011-B42D-00C04FC964FF}","red":1,"green":1,"blue":1,"alpha":1,"isPinned":false,"timestamp":0})",
         R"({"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":"1","green":1,"blue":1,"alpha":1,"isPinned":false,"timestamp":0})",
         R"({"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":1,"blue":1,"alpha":1,"isPinned":0,"timestamp":0})",

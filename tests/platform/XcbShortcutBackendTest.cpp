@@ -1,7 +1,8 @@
 // Global shortcuts on a real X server (run inside tests/desktop/x11-session.sh): real grabs,
 // real key presses from xdotool through the XTest extension.
-#include "hotkeys/HotkeyManager.h"
 #include "platform/XcbShortcutBackend.h"
+#include "hotkeys/HotkeyManager.h"
+#include "hotkeys/KeyCodes.h"
 #include "services/PreferenceKeys.h"
 #include "support/TempSettings.h"
 
@@ -263,6 +264,21 @@ TEST_F(XcbShortcuts, CombinationHeldByAnotherClientLeavesTheOtherShortcutWorking
     EXPECT_EQ(pick->count(), 1);
     helper.closeWriteChannel();
     EXPECT_TRUE(helper.waitForFinished(10000));
+}
+
+TEST_F(XcbShortcuts, EveryRecordableKeyIsGrabbedOnItself)
+{
+    // The recorder stores the physical key; the grab goes by keysym. A key whose keysym the
+    // server's keymap puts elsewhere could be recorded and never fire.
+    int keys = 0;
+    for (int code = 0; code < 0x200; ++code) {
+        const std::optional<quint32> xKeycode = KeyCodes::xKeycodeForKeyCode(code);
+        if (!xKeycode)
+            continue;
+        ++keys;
+        EXPECT_TRUE(backend->keycodesForKey(code).contains(xcb_keycode_t(*xKeycode))) << code;
+    }
+    EXPECT_GT(keys, 200);
 }
 
 TEST_F(XcbShortcuts, SameCombinationForBothGoesToPick)

@@ -186,17 +186,43 @@ TEST_F(UpdaterControllerTest, AStalledServerEndsInTheUpToDateBox)
     EXPECT_EQ(ui.upToDateTexts.size(), 1);
 }
 
-TEST_F(UpdaterControllerTest, NoSecondCheckWhileOneRuns)
+TEST_F(UpdaterControllerTest, ACheckDuringAnotherShowsThatOnesOutcome)
 {
     server.serve(QStringLiteral("/appcast.xml"), { 200, appcast("") });
-    auto controller = makeController(bundle());
-    EXPECT_TRUE(controller->canCheckForUpdates());
+    for (const bool background : { false, true }) {
+        SCOPED_TRACE(background ? "background check" : "user's check");
+        ui = RecordingUpdateInterface();
+        const int requests = server.requestCount();
+        auto controller = makeController(bundle());
+        EXPECT_TRUE(controller->canCheckForUpdates());
+        if (background)
+            controller->startUpdater();
+        else
+            controller->checkForUpdates();
+        EXPECT_FALSE(controller->canCheckForUpdates());
+        controller->checkForUpdates();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return controller->canCheckForUpdates(); }, 10000));
+        EXPECT_EQ(server.requestCount(), requests + 1);
+        EXPECT_EQ(ui.upToDateTexts.size(), 1);
+    }
+
+    // During a quiet download the user sees it through, a failure included.
+    server.serve(QStringLiteral("/Vantle-2.0.tar.gz"), { 200, "", "", true });
+    server.serve(QStringLiteral("/appcast.xml"),
+        { 200,
+            appcast(release(QStringLiteral("2.0"), server.url(QStringLiteral("/Vantle-2.0.tar.gz")), 5,
+                QStringLiteral("c2ln"))) });
+    UpdateBundle b = bundle();
+    b.transferTimeout = 300ms;
+    auto controller = makeController(b);
+    controller->startUpdater();
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return server.requestedPaths().contains(QStringLiteral("/Vantle-2.0.tar.gz")); }, 10000));
     controller->checkForUpdates();
-    EXPECT_FALSE(controller->canCheckForUpdates());
-    controller->checkForUpdates();
+    EXPECT_TRUE(ui.downloading);
     ASSERT_TRUE(QTest::qWaitFor([&] { return controller->canCheckForUpdates(); }, 10000));
-    EXPECT_EQ(server.requestCount(), 1);
-    EXPECT_EQ(ui.upToDateTexts.size(), 1);
+    EXPECT_FALSE(ui.downloading);
+    EXPECT_EQ(ui.failures.size(), 1);
 }
 
 TEST_F(UpdaterControllerTest, SkippingRemembersTheVersion)
@@ -303,26 +329,30 @@ TEST_F(UpdaterControllerTest, AutomaticDownloadsFetchWithoutAskingAtStart)
     EXPECT_EQ(ui.progressReports, 0);
 }
 
-TEST_F(UpdaterControllerTest, AutomaticChecksStayQuietWhenOffOrSkipped)
+TEST_F(UpdaterControllerTest, BackgroundChecksOfferWhenNotDownloadingAndStayQuietWhenSkipped)
 {
     const QByteArray installer = UpdateSigning::someInstaller(5000);
     serveSignedInstaller(installer, installer.size(), UpdateSigning::sign(installer, keys));
-    {
-        settings.store->setBool(PreferenceKeys::automaticallyUpdate, false);
-        auto controller = makeController(bundle());
-        controller->startUpdater();
-        QTest::qWait(200);
-        EXPECT_EQ(server.requestCount(), 0);
-    }
-    {
-        settings.store->setBool(PreferenceKeys::automaticallyUpdate, true);
-        settings.store->setString(PreferenceKeys::skippedUpdateVersion, QStringLiteral("2.0"));
+    struct Case {
+        bool automatic;
+        bool skipped;
+        qsizetype offered;
+    };
+    for (const Case c : { Case { false, false, 1 }, Case { false, true, 0 }, Case { true, true, 0 } }) {
+        SCOPED_TRACE(testing::Message() << "automatic " << c.automatic << ", skipped " << c.skipped);
+        ui = RecordingUpdateInterface();
+        settings.store->setBool(PreferenceKeys::automaticallyUpdate, c.automatic);
+        if (c.skipped)
+            settings.store->setString(PreferenceKeys::skippedUpdateVersion, QStringLiteral("2.0"));
+        const int requests = server.requestCount();
         auto controller = makeController(bundle());
         controller->startUpdater();
         ASSERT_TRUE(QTest::qWaitFor(
-            [&] { return server.requestCount() == 1 && controller->canCheckForUpdates(); }, 10000));
+            [&] { return server.requestCount() == requests + 1 && controller->canCheckForUpdates(); },
+            10000));
         QTest::qWait(100);
-        EXPECT_EQ(ui.outcomes(), 0);
+        EXPECT_EQ(ui.offered.size(), c.offered);
+        EXPECT_EQ(ui.outcomes(), c.offered);
         EXPECT_TRUE(downloadedFiles().isEmpty());
     }
 }

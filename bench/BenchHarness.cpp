@@ -9,6 +9,7 @@
 //
 // Writes one JSON object a line to FILE: {"figure", "program", "size", "unit", "samples"}.
 // bench_report turns these into the tables.
+#include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"

@@ -8,6 +8,7 @@
 #include "HistoryFakes.h"
 #include "app/PopupWindow.h"
 #include "history/ColorListViewModel.h"
+#include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
 #include "screens/ColorListView.h"
 #include "services/PreferenceKeys.h"
@@ -16,6 +17,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -76,38 +78,44 @@ int main(int argc, char **argv)
     FakeCopyConfirmation confirmation;
     FakeExportDialogs dialogs;
 
-    const QString large = dir.filePath(QStringLiteral("large.conf"));
-    writeHistory(large, 10000);
-    std::vector<double> load, save, loadSave;
-    for (int run = 0; run <= runs; ++run) { // the first run brings the file into the cache
-        // QSettings keeps the files it parsed for the rest of the process: a copy under a new
-        // name is read from disk, as at a launch.
-        const QString copy = dir.filePath(QStringLiteral("launch-%1.conf").arg(run));
-        QFile::copy(large, copy);
-        QElapsedTimer clock;
-        clock.start();
-        SettingsStore store(copy);
-        SettingsViewModel::registerDefaults(store);
-        ColorListViewModel model(store, sampler, clipboard, confirmation, dialogs);
-        const double loaded = clock.nsecsElapsed() / 1e6;
-        // A change the user makes, saved as every change is (the history unchanged would not
-        // be written at all).
-        model.togglePin(model.colors().at(1));
-        const double total = clock.nsecsElapsed() / 1e6;
-        if (model.colors().size() != 10000) {
-            std::fprintf(
-                stderr, "history bench: %lld colours loaded, not 10000\n", (long long)model.colors().size());
-            return 1;
+    // A history as people keep it (the limit and a palette) and one far beyond any real use.
+    for (const int count : {500, 10000}) {
+        QDir(dir.path()).mkdir(QString::number(count));
+        const QString folder = dir.filePath(QString::number(count));
+        const QString original = folder + QStringLiteral("/original.conf");
+        writeHistory(original, count);
+        std::vector<double> load, save, loadSave;
+        for (int run = 0; run <= runs; ++run) { // the first run brings the file into the cache
+            // QSettings keeps the files it parsed for the rest of the process: a copy under a
+            // new name is read from disk, as at a launch.
+            const QString copy = folder + QStringLiteral("/launch-%1.conf").arg(run);
+            QFile::copy(original, copy);
+            QElapsedTimer clock;
+            clock.start();
+            SettingsStore store(copy);
+            SettingsViewModel::registerDefaults(store);
+            ColorListViewModel model(store, sampler, clipboard, confirmation, dialogs);
+            const double loaded = clock.nsecsElapsed() / 1e6;
+            // A change the user makes, saved as every change is (the history unchanged would
+            // not be written at all).
+            model.togglePin(model.colors().at(1));
+            const double total = clock.nsecsElapsed() / 1e6;
+            if (model.colors().size() != count) {
+                std::fprintf(stderr, "history bench: %lld colours loaded, not %d\n", (long long)model.colors().size(),
+                    count);
+                return 1;
+            }
+            if (run == 0)
+                continue;
+            load.push_back(loaded);
+            save.push_back(total - loaded);
+            loadSave.push_back(total);
         }
-        if (run == 0)
-            continue;
-        load.push_back(loaded);
-        save.push_back(total - loaded);
-        loadSave.push_back(total);
+        const QString suffix = QStringLiteral("_%1").arg(count);
+        bench::record(QStringLiteral("history_load_save") + suffix, QStringLiteral("ms"), loadSave, QString());
+        bench::record(QStringLiteral("history_load") + suffix, QStringLiteral("ms"), load, QString());
+        bench::record(QStringLiteral("history_save") + suffix, QStringLiteral("ms"), save, QString());
     }
-    bench::record(QStringLiteral("history_load_save_10000"), QStringLiteral("ms"), loadSave, QString());
-    bench::record(QStringLiteral("history_load_10000"), QStringLiteral("ms"), load, QString());
-    bench::record(QStringLiteral("history_save_10000"), QStringLiteral("ms"), save, QString());
 
     const QString hundred = dir.filePath(QStringLiteral("hundred.conf"));
     writeHistory(hundred, 100);

@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 #include "history/PaletteExport.h"
 #include "services/AtomicFile.h"
+#include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"

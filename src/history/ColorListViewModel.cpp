@@ -1,5 +1,6 @@
 #include "history/ColorListViewModel.h"
 
+#include "model/ColorHistoryCodec.h"
 #include "history/Clipboard.h"
 #include "history/CopyConfirmation.h"
 #include "history/ExportDialogs.h"

@@ -1,5 +1,6 @@
 #include "history/PaletteExport.h"
 
+#include "model/ColorHistoryCodec.h"
 
 QByteArray exportText(const QList<PickedColor> &colors, ColorFormat format)
 {

@@ -1,4 +1,5 @@
 #include "app/CommandLine.h"
+#include "model/ColorHistoryCodec.h"
 #include "history/PaletteExport.h"
 #include "services/PreferenceKeys.h"
 #include "support/TempSettings.h"

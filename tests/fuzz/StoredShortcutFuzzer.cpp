@@ -4,6 +4,7 @@
 #include "FuzzCheck.h"
 
 #include "hotkeys/KeyCodes.h"
+#include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"

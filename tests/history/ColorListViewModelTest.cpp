@@ -1,4 +1,5 @@
 #include "history/ColorListViewModel.h"
+#include "model/ColorHistoryCodec.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
 #include "support/HistoryFakes.h"

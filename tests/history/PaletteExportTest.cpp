@@ -1,4 +1,5 @@
 #include "history/PaletteExport.h"
+#include "model/ColorHistoryCodec.h"
 #include "history/ColorListViewModel.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"

@@ -1,3 +1,4 @@
+#include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
 
 #include <QDateTime>

@@ -1,5 +1,6 @@
 // A save cut short by SIGKILL loses nothing that was reported saved, never leaves a
 // half-written settings file, and never leaves a lock behind that stops the next start.
+#include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"

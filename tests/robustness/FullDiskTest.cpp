@@ -2,6 +2,7 @@
 // memory, the file on disk stays as it was, the next save that can succeed writes every colour,
 // and an export says it failed and leaves no partial file.
 #include "history/ColorListViewModel.h"
+#include "model/ColorHistoryCodec.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
 #include "services/XdgAutostartService.h"

@@ -4,6 +4,7 @@
 //   ready
 //   saved <UUID>
 // The crash-safety test kills it with SIGKILL at random moments.
+#include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"

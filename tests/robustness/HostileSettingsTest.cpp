@@ -2,6 +2,7 @@
 // 200,000 levels deep, numbers JSON cannot hold, values of the wrong type), the program opens
 // it, an unreadable history goes aside, picks work and are saved, and `vantle export` answers.
 #include "app/CommandLine.h"
+#include "model/ColorHistoryCodec.h"
 #include "history/ColorListViewModel.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"

@@ -1,4 +1,5 @@
 #include "history/ColorListViewModel.h"
+#include "model/ColorHistoryCodec.h"
 #include "screens/ColorDetailView.h"
 #include "screens/ColorListView.h"
 #include "screens/ColorRowView.h"

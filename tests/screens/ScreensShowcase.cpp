@@ -5,6 +5,7 @@
 //
 // Prints "view <width>x<height>" of the colour list view so the calling script can check it.
 #include "history/ColorListViewModel.h"
+#include "model/ColorHistoryCodec.h"
 #include "screens/ColorDetailView.h"
 #include "screens/ColorListView.h"
 #include "screens/ColorRowView.h"

@@ -67,14 +67,17 @@ ColorDetailView::ColorDetailView(const PickedColor &color, CopyCallback onCopy, 
             m_onBack();
     });
     bar->addWidget(back);
-    bar->addStretch(1);
+    if (!color.hasName())
+        bar->addStretch(1);
     if (color.hasName()) {
         auto *name = new ElidedLabel(*color.name, Theme::font(14, QFont::Medium), &Theme::text, this);
         name->setObjectName(QStringLiteral("nameLabel"));
         name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        // A long name takes a second line rather than losing its end.
+        name->setWrapping(true);
         bar->addWidget(name, 1);
     }
-    root->addLayout(bar);
+    root->addWidget(m_topBar);
     root->addWidget(new Divider(this));
 
     auto *content = new QWidget;

@@ -44,6 +44,7 @@ ColorRowView::ColorRowView(const PickedColor &color, ColorFormat format, std::fu
     }
     auto *value = new ElidedLabel(color.formatted(format), Theme::monospacedFont(13), &Theme::text, this);
     value->setObjectName(QStringLiteral("valueLabel"));
+    value->setElideMode(Qt::ElideMiddle); // a code initialiser keeps its opening and its end
     texts->addWidget(value);
     row->addLayout(texts, 1);
 

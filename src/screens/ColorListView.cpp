@@ -18,9 +18,10 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QVariantAnimation>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <QVariantAnimation>
+#include <algorithm>
 
 namespace {
 
@@ -280,12 +281,38 @@ void ColorListView::rebuildColors()
     addSection(tr("RECENT"), QStringLiteral("recentHeader"), recent);
     stack->addStretch(1);
     m_scroll->setWidget(content);
-    m_scroll->setFixedHeight(qMin(content->sizeHint().height(), maximumListHeight));
+    fitListHeight();
 
     for (ColorRowView *row : std::as_const(m_rows)) {
         if (focusedId && row->color().id == *focusedId)
             row->setFocus(Qt::OtherFocusReason);
     }
+}
+
+void ColorListView::setHeightLimit(int heightLimit)
+{
+    m_heightLimit = heightLimit;
+    fitListHeight();
+    if (m_detail)
+        m_detail->setHeightLimit(heightLimit);
+}
+
+void ColorListView::fitListHeight()
+{
+    const QWidget *content = m_scroll->widget();
+    if (!content)
+        return;
+    // Header, pick button, footer and dividers: what the list has besides its rows.
+    int chrome = 0;
+    for (const QObject *child : m_listScreen->children()) {
+        const auto *widget = qobject_cast<const QWidget *>(child);
+        if (widget && widget != m_scroll && !widget->isHidden() && widget->parentWidget() == m_listScreen)
+            chrome += widget->sizeHint().height();
+    }
+    // A few rows stay visible however little room there is.
+    constexpr int fewestRowsHeight = 96;
+    const int room = qMax(fewestRowsHeight, m_heightLimit - chrome);
+    m_scroll->setFixedHeight(std::min({ content->sizeHint().height(), maximumListHeight, room }));
 }
 
 void ColorListView::updatePicking()
@@ -307,6 +334,7 @@ void ColorListView::openColor(const PickedColor &color)
         color, [this](const PickedColor &shown, ColorFormat format) { m_viewModel.copyColor(shown, format); },
         [this] { closeDetail(); }, this);
     m_detail->setFixedWidth(viewWidth);
+    m_detail->setHeightLimit(m_heightLimit);
     m_listScreen->hide();
     layout()->addWidget(m_detail);
     m_detail->show();

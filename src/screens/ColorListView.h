@@ -50,6 +50,9 @@ public:
     void openColor(const PickedColor &color);
     // Back to the list, as the detail screen's "Back" does.
     void closeDetail();
+    // The tallest the view may be (the room the popup has beside the tray icon): the colour
+    // list and the detail screen scroll within it.
+    void setHeightLimit(int heightLimit);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -62,6 +65,7 @@ private:
     QWidget *buildSectionHeader(const QString &title, const QString &objectName);
     ColorRowView *buildRow(const PickedColor &color, ColorFormat format);
     void rebuildColors();
+    void fitListHeight();
     void updatePicking();
     void fadeIn(QWidget *screen);
     void moveRowFocus(ColorRowView *from, int step);
@@ -71,6 +75,7 @@ private:
     std::function<void()> m_onOpenSettings;
     std::function<void()> m_onQuit;
     std::optional<PickedColor> m_selectedColor;
+    int m_heightLimit = QWIDGETSIZE_MAX;
 
     QWidget *m_listScreen = nullptr;
     QPointer<ColorDetailView> m_detail;

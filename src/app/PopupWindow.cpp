@@ -168,9 +168,11 @@ void PopupWindow::popUp(const QRect &anchor)
         const QRect space = room(anchor, screen->geometry(), screen->availableGeometry());
         m_heightLimit = space.height();
         Q_EMIT heightLimitChanged(m_heightLimit);
+        m_placed = Placed { anchor, pointer, space };
         adjustSize();
-        move(placement(anchor, pointer, sizeHint().expandedTo(size()), space));
+        move(placement(anchor, pointer, size(), space));
     } else {
+        m_placed.reset();
         adjustSize();
     }
     show();
@@ -200,6 +202,15 @@ void PopupWindow::hideEvent(QHideEvent *event)
     if (!m_standalone)
         m_closedAtMs = QDateTime::currentMSecsSinceEpoch();
     Q_EMIT closed();
+}
+
+void PopupWindow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    // Grown or shrunk while open (list to detail screen and back): still against the icon, so
+    // above a bottom panel's icon the window grows upwards.
+    if (m_placed && !m_standalone)
+        move(placement(m_placed->anchor, m_placed->pointer, size(), m_placed->room));
 }
 
 bool PopupWindow::event(QEvent *event)

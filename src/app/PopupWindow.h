@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 // The window under the tray icon that hosts the colour list. Frameless; it closes when the user
 // clicks elsewhere or presses Escape, and takes keyboard focus when it opens.
@@ -51,6 +52,7 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
@@ -60,5 +62,13 @@ private:
     QPointer<QWidget> m_content;
     bool m_standalone = false;
     int m_heightLimit = QWIDGETSIZE_MAX;
+    // Where the last opening placed the window, to place it again when its content changes
+    // size (the detail screen is taller than a short list).
+    struct Placed {
+        QRect anchor;
+        QPoint pointer;
+        QRect room;
+    };
+    std::optional<Placed> m_placed;
     qint64 m_closedAtMs = 0;
 };

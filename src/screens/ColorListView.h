@@ -2,6 +2,7 @@
 
 #include "model/PickedColor.h"
 #include "screens/ColorDetailView.h"
+#include "screens/RenameColorSheet.h"
 
 #include <QList>
 #include <QPointer>
@@ -50,6 +51,10 @@ public:
     void openColor(const PickedColor &color);
     // Back to the list, as the detail screen's "Back" does.
     void closeDetail();
+    // The rename sheet of a row's "Rename…", in place of the list until it is saved or
+    // cancelled; the list then shows again, with the new name.
+    RenameColorSheet *openRenameSheet(const PickedColor &color);
+    RenameColorSheet *renameSheet() const { return m_renameSheet; }
     // The tallest the view may be (the room the popup has beside the tray icon): the colour
     // list and the detail screen scroll within it.
     void setHeightLimit(int heightLimit);
@@ -68,6 +73,7 @@ private:
     void fitListHeight();
     void updatePicking();
     void fadeIn(QWidget *screen);
+    void closeRenameSheet();
     void moveRowFocus(ColorRowView *from, int step);
 
     ColorListViewModel &m_viewModel;
@@ -79,6 +85,7 @@ private:
 
     QWidget *m_listScreen = nullptr;
     QPointer<ColorDetailView> m_detail;
+    QPointer<RenameColorSheet> m_renameSheet;
     CapsuleLabel *m_countBadge = nullptr;
     SymbolButton *m_pickButton = nullptr;
     QWidget *m_content = nullptr; // empty state or the scrolling list

@@ -2,7 +2,6 @@
 
 #include "screens/ColorSwatch.h"
 #include "screens/ElidedLabel.h"
-#include "screens/RenameColorSheet.h"
 #include "screens/Symbols.h"
 #include "screens/Theme.h"
 
@@ -85,7 +84,7 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
                 if (onPin)
                     onPin();
             });
-    connect(menu->addAction(tr("Rename…")), &QAction::triggered, this, [this] { openRenameSheet(); });
+    connect(menu->addAction(tr("Rename…")), &QAction::triggered, this, &ColorRowView::renameRequested);
     menu->addSeparator();
     QAction *remove = menu->addAction(tr("Delete"));
     remove->setObjectName(QStringLiteral("deleteAction"));
@@ -96,16 +95,6 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
     // Not exec(): a nested event loop would run the whole program inside this call.
     menu->popup(globalPosition);
     return menu;
-}
-
-RenameColorSheet *ColorRowView::openRenameSheet()
-{
-    if (m_renameSheet)
-        return m_renameSheet;
-    // The sheet belongs to the popup, not the row: a rebuilt list must not take it away.
-    m_renameSheet = new RenameColorSheet(m_color, m_onRename, window());
-    m_renameSheet->open();
-    return m_renameSheet;
 }
 
 void ColorRowView::paintEvent(QPaintEvent *)

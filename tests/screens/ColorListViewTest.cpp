@@ -284,7 +284,8 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         clickAction(openContextMenu(view->rows().first()), QStringLiteral("Rename…"));
         RenameColorSheet *sheet = nullptr;
         QTRY_VERIFY((sheet = view->findChild<RenameColorSheet *>()) && sheet->isVisible());
-        EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
+        // A sheet inside the popup, not a window of its own that would close it.
+        EXPECT_EQ(sheet->window(), view.get());
         EXPECT_EQ(sheet->nameField()->text(), c.name.value_or(QString()));
         EXPECT_EQ(sheet->nameField()->placeholderText(), u"Color name (optional)");
         EXPECT_EQ(sheet->nameField()->width(), 240);
@@ -313,6 +314,11 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         }
         QTRY_VERIFY(!guard);
         EXPECT_EQ(stored(color.id)->name, c.expected);
+        // Back on the list, which shows the name as stored.
+        EXPECT_TRUE(shown("pickButton"));
+        const auto *name = rowFor(color.id)->findChild<ElidedLabel *>(QStringLiteral("nameLabel"));
+        EXPECT_EQ(name && name->isVisibleTo(view.get()) ? std::optional(name->text()) : std::nullopt,
+            c.expected && !c.expected->isEmpty() ? c.expected : std::nullopt);
     }
 }
 
@@ -320,12 +326,11 @@ TEST_F(ColorListViewTest, RenameSheetShowsUpperCaseHexWhateverTheFormat)
 {
     const PickedColor color = makeColor(1.0, 0.42, 0.21);
     build({color}, QStringLiteral("Hex (lowercase)"));
-    RenameColorSheet *sheet = view->rows().first()->openRenameSheet();
+    RenameColorSheet *sheet = view->openRenameSheet(color);
     EXPECT_EQ(view->rows().first()->valueText(), u"#ff6b36");
     const auto *hex = sheet->findChild<ElidedLabel *>(QStringLiteral("hexLabel"));
     ASSERT_NE(hex, nullptr);
     EXPECT_EQ(hex->text(), u"#FF6B36");
-    sheet->reject();
 }
 
 TEST_F(ColorListViewTest, PickButtonReadsPickingAndRefusesWhileAPickRuns)

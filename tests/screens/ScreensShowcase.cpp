@@ -146,7 +146,7 @@ int main(int argc, char **argv)
             view.openColor(colors.at(1));
             view.detailView()->copy(ColorFormat::rgb);
         } else if (screen == u"rename") {
-            view.rows().first()->openRenameSheet();
+            view.openRenameSheet(view.rows().first()->color());
         }
     });
     // Past the 0.2 s screen change and the 0.15 s check mark, well before its 1.5 s reset.

@@ -1,6 +1,7 @@
 #include "screens/ColorRowView.h"
 
 #include "screens/ColorSwatch.h"
+#include "screens/DestructiveMenuStyle.h"
 #include "screens/ElidedLabel.h"
 #include "screens/Symbols.h"
 #include "screens/Theme.h"
@@ -88,6 +89,9 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
     menu->addSeparator();
     QAction *remove = menu->addAction(tr("Delete"));
     remove->setObjectName(QStringLiteral("deleteAction"));
+    auto *style = new DestructiveMenuStyle(remove);
+    style->setParent(menu);
+    menu->setStyle(style);
     connect(remove, &QAction::triggered, menu, [onDelete = m_onDelete] {
         if (onDelete)
             onDelete();

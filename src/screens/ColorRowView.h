@@ -20,7 +20,9 @@ public:
                  std::function<void()> onDelete, QWidget *parent = nullptr);
 
     const PickedColor &color() const { return m_color; }
-    bool isHovered() const { return m_isHovered; }
+    // Under the pointer and not since left by the keyboard for another row: the pointer takes
+    // the keyboard focus along, so only one row ever looks selected.
+    bool isHovered() const { return m_isHovered && hasFocus(); }
     QString valueText() const;
 
     // The context menu, shown at a global position; it deletes itself when closed.
@@ -33,6 +35,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -49,4 +52,5 @@ private:
     std::function<void()> m_onDelete;
     bool m_isHovered = false;
     bool m_isPressed = false;
+    bool m_focusFromKeyboard = false;
 };

@@ -92,7 +92,7 @@ void FormatLine::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QPalette pal = palette();
-    if (isHovered() || isDown() || (showsFocusRing())) {
+    if (isHovered() || isDown() || showsFocusRing()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(Theme::withAlpha(Theme::text(pal), isDown() ? 0.1 : 0.06));
         painter.drawRect(rect());

@@ -221,6 +221,30 @@ TEST_F(ColorListViewTest, KeyboardWalksRowsOpensAndBacksOut)
     EXPECT_TRUE(rowFor(colors[1].id)->hasFocus());
 }
 
+TEST_F(ColorListViewTest, OneRowLooksSelectedFollowingThePointerOrTheKeys)
+{
+    build({ makeColor(1, 0, 0), makeColor(0, 1, 0), makeColor(0, 0, 1) });
+    const QList<ColorRowView *> rows = view->rows();
+    const auto pointAt = [&](int row, int x) {
+        QTest::mouseMove(
+            view->windowHandle(), rows[row]->mapTo(view.get(), QPoint(x, rows[row]->height() / 2)));
+    };
+    const auto selected = [&] {
+        QList<int> looks;
+        for (int i = 0; i < rows.size(); ++i) {
+            if (rows[i]->isHovered() || rows[i]->hasFocus())
+                looks.append(i);
+        }
+        return looks;
+    };
+    pointAt(0, 40);
+    EXPECT_EQ(selected(), QList<int> { 0 });
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down); // the pointer stays on row 0
+    EXPECT_EQ(selected(), QList<int> { 1 });
+    pointAt(0, 60);
+    EXPECT_EQ(selected(), QList<int> { 0 });
+}
+
 TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
 {
     const struct {

@@ -304,12 +304,13 @@ void ColorListView::fitListHeight()
     const QWidget *content = m_scroll->widget();
     if (!content)
         return;
-    // Header, pick button, footer and dividers: what the list has besides its rows.
-    int chrome = 0;
-    for (const QObject *child : m_listScreen->children()) {
-        const auto *widget = qobject_cast<const QWidget *>(child);
-        if (widget && widget != m_scroll && !widget->isHidden() && widget->parentWidget() == m_listScreen)
-            chrome += widget->sizeHint().height();
+    // Header, pick button, footer and dividers: what the list screen has besides its rows.
+    QLayout *screen = m_listScreen->layout();
+    int chrome = screen->contentsMargins().top() + screen->contentsMargins().bottom();
+    for (int i = 0; i < screen->count(); ++i) {
+        QLayoutItem *item = screen->itemAt(i);
+        if (item->widget() != m_scroll && !item->isEmpty())
+            chrome += item->sizeHint().height();
     }
     // A few rows stay visible however little room there is.
     constexpr int fewestRowsHeight = 96;

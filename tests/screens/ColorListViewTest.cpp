@@ -107,6 +107,13 @@ TEST_F(ColorListViewTest, IsThreeHundredTwentyPixelsWideAndListScrollsWithinItsL
     EXPECT_EQ(view->width(), 320);
     EXPECT_LE(view->height(), ColorListView::maximumListHeight + 200);
     EXPECT_EQ(view->rows().size(), 40);
+
+    // Little room beside the tray icon (a small screen): the list and the detail screen
+    // scroll within it.
+    view->setHeightLimit(300);
+    QTRY_COMPARE(view->height(), 300);
+    view->openColor(many.first());
+    QTRY_VERIFY(view->height() <= 300);
 }
 
 TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)

@@ -192,7 +192,7 @@ void AppDelegate::refreshPopoverContent()
     m_popover->setContent([self]() -> QWidget * {
         if (!self)
             return nullptr;
-        return new ColorListView(
+        auto *view = new ColorListView(
             *self->m_viewModel, self->m_facilities.store,
             [self] {
                 if (self)
@@ -202,6 +202,11 @@ void AppDelegate::refreshPopoverContent()
                 if (self)
                     qApp->quit();
             });
+        // The popup's room beside the tray icon bounds the view; its lists scroll within it.
+        view->setHeightLimit(self->m_popover->heightLimit());
+        connect(
+            self->m_popover.get(), &PopupWindow::heightLimitChanged, view, &ColorListView::setHeightLimit);
+        return view;
     });
 }
 

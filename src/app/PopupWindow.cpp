@@ -13,7 +13,8 @@ namespace {
 // A click on the tray icon while the popup is open first closes the popup (a click outside)
 // and then reaches the icon; within this window it counts as the same click.
 constexpr qint64 outsideClickWindowMs = 350;
-constexpr int gapBelowAnchor = 4;
+// Between the tray icon and the popup.
+constexpr int gapToAnchor = 4;
 
 bool isWayland()
 {
@@ -77,35 +78,103 @@ void PopupWindow::ensureContent()
     }
 }
 
+namespace {
+
+enum class Edge { top, bottom, left, right };
+
+// The screen edge the tray's panel lies along. A panel that reserves its space shows as the
+// one side the available area leaves out; otherwise the icon's nearest edge, a horizontal one
+// on a tie (an icon in the corner of a top panel touches the right edge too).
+Edge panelEdge(const QRect &anchor, const QRect &screen, const QRect &available)
+{
+    const int reservedTop = available.top() - screen.top();
+    const int reservedBottom = screen.bottom() - available.bottom();
+    const int reservedLeft = available.left() - screen.left();
+    const int reservedRight = screen.right() - available.right();
+    if (reservedTop > 0 && anchor.top() < available.top())
+        return Edge::top;
+    if (reservedBottom > 0 && anchor.bottom() > available.bottom())
+        return Edge::bottom;
+    if (reservedLeft > 0 && anchor.left() < available.left())
+        return Edge::left;
+    if (reservedRight > 0 && anchor.right() > available.right())
+        return Edge::right;
+    const int toTop = anchor.top() - screen.top();
+    const int toBottom = screen.bottom() - anchor.bottom();
+    const int toLeft = anchor.left() - screen.left();
+    const int toRight = screen.right() - anchor.right();
+    const int vertical = qMin(toTop, toBottom);
+    if (vertical <= qMin(toLeft, toRight))
+        return toTop <= toBottom ? Edge::top : Edge::bottom;
+    return toLeft <= toRight ? Edge::left : Edge::right;
+}
+
+} // namespace
+
+QRect PopupWindow::room(const QRect &anchor, const QRect &screen, const QRect &available)
+{
+    if (!anchor.isValid() || anchor.isEmpty())
+        return available;
+    QRect room = available;
+    switch (panelEdge(anchor, screen, available)) {
+    case Edge::top:
+        room.setTop(qMax(available.top(), anchor.bottom() + 1 + gapToAnchor));
+        break;
+    case Edge::bottom:
+        room.setBottom(qMin(available.bottom(), anchor.top() - 1 - gapToAnchor));
+        break;
+    case Edge::left:
+        room.setLeft(qMax(available.left(), anchor.right() + 1 + gapToAnchor));
+        break;
+    case Edge::right:
+        room.setRight(qMin(available.right(), anchor.left() - 1 - gapToAnchor));
+        break;
+    }
+    return room;
+}
+
 QPoint PopupWindow::placement(
-    const QRect &anchor, const QPoint &pointer, const QSize &size, const QRect &available)
+    const QRect &anchor, const QPoint &pointer, const QSize &size, const QRect &room)
 {
     QPoint origin;
     if (anchor.isValid() && !anchor.isEmpty()) {
-        origin = QPoint(anchor.center().x() - size.width() / 2, anchor.bottom() + 1 + gapBelowAnchor);
-        // A panel at the bottom of the screen: open above the icon instead.
-        if (origin.y() + size.height() > available.bottom() + 1)
-            origin.setY(anchor.top() - gapBelowAnchor - size.height());
+        const QPoint centre = anchor.center();
+        origin = QPoint(centre.x() - size.width() / 2, centre.y() - size.height() / 2);
+        // Against the icon: the room starts or ends beside it.
+        if (room.top() > anchor.bottom())
+            origin.setY(room.top());
+        else if (room.bottom() < anchor.top())
+            origin.setY(room.bottom() + 1 - size.height());
+        else if (room.left() > anchor.right())
+            origin.setX(room.left());
+        else if (room.right() < anchor.left())
+            origin.setX(room.right() + 1 - size.width());
     } else {
-        origin = QPoint(pointer.x() - size.width() / 2, pointer.y() + gapBelowAnchor);
+        origin = QPoint(pointer.x() - size.width() / 2, pointer.y() + gapToAnchor);
     }
-    origin.setX(
-        qBound(available.left(), origin.x(), qMax(available.left(), available.right() + 1 - size.width())));
-    origin.setY(
-        qBound(available.top(), origin.y(), qMax(available.top(), available.bottom() + 1 - size.height())));
+    origin.setX(qBound(room.left(), origin.x(), qMax(room.left(), room.right() + 1 - size.width())));
+    origin.setY(qBound(room.top(), origin.y(), qMax(room.top(), room.bottom() + 1 - size.height())));
     return origin;
 }
 
 void PopupWindow::popUp(const QRect &anchor)
 {
     ensureContent();
-    adjustSize();
     const QPoint pointer = QCursor::pos();
     QScreen *screen = QGuiApplication::screenAt(anchor.isValid() ? anchor.center() : pointer);
     if (!screen)
         screen = QGuiApplication::primaryScreen();
-    if (screen && !m_standalone)
-        move(placement(anchor, pointer, sizeHint().expandedTo(size()), screen->availableGeometry()));
+    if (screen && !m_standalone) {
+        const QRect space = room(anchor, screen->geometry(), screen->availableGeometry());
+        m_heightLimit = space.height();
+        Q_EMIT heightLimitChanged(m_heightLimit);
+        m_placed = Placed { anchor, pointer, space };
+        adjustSize();
+        move(placement(anchor, pointer, size(), space));
+    } else {
+        m_placed.reset();
+        adjustSize();
+    }
     show();
     raise();
     activateWindow();
@@ -135,6 +204,15 @@ void PopupWindow::hideEvent(QHideEvent *event)
     if (!m_standalone)
         m_closedAtMs = QGuiApplication::mouseButtons() != Qt::NoButton ? QDateTime::currentMSecsSinceEpoch() : 0;
     Q_EMIT closed();
+}
+
+void PopupWindow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    // Grown or shrunk while open (list to detail screen and back): still against the icon, so
+    // above a bottom panel's icon the window grows upwards.
+    if (m_placed && !m_standalone)
+        move(placement(m_placed->anchor, m_placed->pointer, size(), m_placed->room));
 }
 
 bool PopupWindow::event(QEvent *event)

@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 // The window under the tray icon that hosts the colour list. Frameless; it closes when the user
 // clicks elsewhere or presses Escape, and takes keyboard focus when it opens.
@@ -23,24 +24,35 @@ public:
     void setStandalone(bool standalone);
     bool isStandalone() const { return m_standalone; }
 
-    // Shows the window below `anchor` (the tray icon's screen rectangle), or near the pointer
-    // when the anchor is unknown, kept inside the available area of that screen.
+    // Shows the window next to `anchor` (the tray icon's screen rectangle) on the side away
+    // from the panel, or near the pointer when the anchor is unknown, kept inside the
+    // available area of that screen and off the icon.
     void popUp(const QRect &anchor);
+    // The height the content may take at the last opening; the content scrolls within it.
+    int heightLimit() const { return m_heightLimit; }
 
     // True for a short moment after the popup closed because of a click outside it: the click
     // on the tray icon that closed it must not open it again at once.
     bool justClosedByOutsideClick() const;
 
-    // Where the window goes for an anchor, pure geometry for a screen's available area.
-    static QPoint placement(
-        const QRect &anchor, const QPoint &pointer, const QSize &size, const QRect &available);
+    // Pure geometry. `room` is where the popup may lie for an anchor on a screen: beside the
+    // icon on the side away from the panel (the screen edge the icon is nearest to, or the one
+    // whose panel the available area leaves out), within the available area; the whole
+    // available area near the pointer when the anchor is unknown. `placement` is where a popup
+    // of `size` goes in that room: against the icon, centred on it where the room allows.
+    static QRect room(const QRect &anchor, const QRect &screen, const QRect &available);
+    static QPoint placement(const QRect &anchor, const QPoint &pointer, const QSize &size, const QRect &room);
 
 Q_SIGNALS:
     void closed();
+    // Before the window sizes itself to its content at an opening: the content must not be
+    // taller than this.
+    void heightLimitChanged(int heightLimit);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     bool event(QEvent *event) override;
 
 private:
@@ -49,5 +61,14 @@ private:
     std::function<QWidget *()> m_makeContent;
     QPointer<QWidget> m_content;
     bool m_standalone = false;
+    int m_heightLimit = QWIDGETSIZE_MAX;
+    // Where the last opening placed the window, to place it again when its content changes
+    // size (the detail screen is taller than a short list).
+    struct Placed {
+        QRect anchor;
+        QPoint pointer;
+        QRect room;
+    };
+    std::optional<Placed> m_placed;
     qint64 m_closedAtMs = 0;
 };

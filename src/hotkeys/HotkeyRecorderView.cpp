@@ -4,7 +4,6 @@
 #include "services/SettingsStore.h"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -205,7 +204,7 @@ void HotkeyRecorderView::updateField()
     const qint64 modifiers = m_store.integerForKey(m_modifiersKey);
     const QString keyChar = m_store.stringForKey(m_keyCharKey).value_or(QString());
     const bool isSet = keyCode >= 0;
-    const QString display = isSet ? KeyCodes::shortcutDisplayText(modifiers, keyChar) : QString();
+    const QString display = isSet ? KeyCodes::shortcutDesktopText(modifiers, keyChar) : QString();
 
     const QPalette palette = this->palette();
     const QColor secondary = palette.color(QPalette::PlaceholderText);
@@ -219,7 +218,6 @@ void HotkeyRecorderView::updateField()
                     .arg(box, orange().name(), rgba(orange(), 0.15), rgba(orange(), 0.4));
     } else if (!display.isEmpty()) {
         text = display;
-        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
         style = QStringLiteral("QPushButton { %1 color: %2; background: %3; border: none; }")
                     .arg(box, palette.color(QPalette::WindowText).name(), rgba(secondary, 0.1));
     } else {
@@ -232,7 +230,6 @@ void HotkeyRecorderView::updateField()
     m_field->setFont(font);
     m_field->setText(text);
     m_field->setStyleSheet(style);
-    m_field->setToolTip(display.isEmpty() ? QString() : KeyCodes::shortcutDesktopText(modifiers, keyChar));
 
     if (m_clearIcon)
         m_clearButton->setIcon(m_clearIcon(secondary));

@@ -255,15 +255,14 @@ const Key *byKeyCode(qint64 keyCode)
 // Fixed display order: control, option, shift, command.
 struct Modifier {
     qint64 flag;
-    const char *symbol;
     const char *word;
     const char *portalName;
 };
-constexpr std::array modifierOrder{
-    Modifier{controlFlag, "⌃", "Ctrl", "CTRL"},
-    Modifier{optionFlag, "⌥", "Alt", "ALT"},
-    Modifier{shiftFlag, "⇧", "Shift", "SHIFT"},
-    Modifier{commandFlag, "⌘", "Super", "LOGO"},
+constexpr std::array modifierOrder {
+    Modifier { controlFlag, "Ctrl", "CTRL" },
+    Modifier { optionFlag, "Alt", "ALT" },
+    Modifier { shiftFlag, "Shift", "SHIFT" },
+    Modifier { commandFlag, "Super", "LOGO" },
 };
 
 } // namespace
@@ -384,20 +383,9 @@ QString portalTrigger(qint64 keyCode, qint64 modifiers)
     return parts.join(QLatin1Char('+'));
 }
 
-QString shortcutDisplayText(qint64 modifiers, const QString &keyChar)
-{
-    if (keyChar.isEmpty() || modifiers < 0)
-        return {};
-    QString text;
-    for (const Modifier &modifier : modifierOrder) {
-        if (modifiers & modifier.flag)
-            text += QString::fromUtf8(modifier.symbol);
-    }
-    return text + keyChar;
-}
-
 QString shortcutDesktopText(qint64 modifiers, const QString &keyChar)
 {
+    // Empty when there is nothing to show: no key text, or negative modifiers (no shortcut).
     if (keyChar.isEmpty() || modifiers < 0)
         return {};
     // Desktops list Ctrl, Alt, Shift, Super in this order too (GNOME, KDE).

@@ -60,10 +60,9 @@ qint64 storedModifiersForQt(Qt::KeyboardModifiers modifiers);
 // "ALT+SHIFT+c": the shortcut in the notation of the desktop's GlobalShortcuts portal.
 QString portalTrigger(qint64 keyCode, qint64 modifiers);
 
-// "⌥⇧C": symbols in the fixed order control, option, shift, command, then the key text.
-// Empty when the key text is empty or the modifiers are negative.
-QString shortcutDisplayText(qint64 modifiers, const QString &keyChar);
-// "Alt+Shift+C": the same shortcut in the words Linux desktops use.
+// "Alt+Shift+C": the shortcut in the words Linux desktops use, modifiers in the fixed order
+// Ctrl, Alt, Shift, Super, then the key text. Empty when the key text is empty or the
+// modifiers are negative.
 QString shortcutDesktopText(qint64 modifiers, const QString &keyChar);
 
 } // namespace KeyCodes

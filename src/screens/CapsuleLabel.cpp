@@ -1,6 +1,7 @@
 #include "screens/CapsuleLabel.h"
 
 #include <QPainter>
+#include <cmath>
 
 CapsuleLabel::CapsuleLabel(const QString &text, const QFont &font, ColorRole textColor, ColorRole fillColor,
                            QMargins padding, QWidget *parent)
@@ -28,7 +29,9 @@ void CapsuleLabel::setText(const QString &text)
 QSize CapsuleLabel::sizeHint() const
 {
     const QFontMetrics metrics(font());
-    const int width = metrics.horizontalAdvance(m_text) + m_padding.left() + m_padding.right();
+    // Rounded up: the fractional advances of DejaVu and Noto would otherwise lose a pixel.
+    const int width = int(std::ceil(QFontMetricsF(font()).horizontalAdvance(m_text))) + m_padding.left()
+        + m_padding.right();
     const int height = metrics.height() + m_padding.top() + m_padding.bottom();
     // Never narrower than tall, so a one-digit count is a circle rather than a sliver.
     return {qMax(width, height), height};

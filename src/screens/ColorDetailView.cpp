@@ -14,6 +14,7 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 
@@ -51,7 +52,8 @@ ColorDetailView::ColorDetailView(const PickedColor &color, CopyCallback onCopy, 
     root->setSpacing(0);
 
     // Top bar: back on the left, the name (when there is one) on the right.
-    auto *bar = new QHBoxLayout;
+    m_topBar = new QWidget(this);
+    auto *bar = new QHBoxLayout(m_topBar);
     bar->setContentsMargins(12, 9, 16, 9);
     SymbolButton::Style backStyle;
     backStyle.symbol = QStringLiteral("chevron.left");
@@ -67,14 +69,17 @@ ColorDetailView::ColorDetailView(const PickedColor &color, CopyCallback onCopy, 
             m_onBack();
     });
     bar->addWidget(back);
-    bar->addStretch(1);
+    if (!color.hasName())
+        bar->addStretch(1);
     if (color.hasName()) {
         auto *name = new ElidedLabel(*color.name, Theme::font(14, QFont::Medium), &Theme::text, this);
         name->setObjectName(QStringLiteral("nameLabel"));
         name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        // A long name takes a second line rather than losing its end.
+        name->setWrapping(true);
         bar->addWidget(name, 1);
     }
-    root->addLayout(bar);
+    root->addWidget(m_topBar);
     root->addWidget(new Divider(this));
 
     auto *content = new QWidget;
@@ -117,18 +122,27 @@ ColorDetailView::ColorDetailView(const PickedColor &color, CopyCallback onCopy, 
     contrast->addWidget(m_blackBadge);
     stack->addLayout(contrast);
 
-    auto *scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll->setWidgetResizable(true);
-    scroll->viewport()->setAutoFillBackground(false);
+    m_scroll = new QScrollArea(this);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
-    scroll->setWidget(content);
-    scroll->setFixedHeight(qMin(content->sizeHint().height(), maximumContentHeight));
-    root->addWidget(scroll);
+    m_scroll->setWidget(content);
+    setHeightLimit(QWIDGETSIZE_MAX);
+    root->addWidget(m_scroll);
 
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Color details"));
+}
+
+void ColorDetailView::setHeightLimit(int heightLimit)
+{
+    const int bar
+        = m_topBar->hasHeightForWidth() ? m_topBar->heightForWidth(width()) : m_topBar->sizeHint().height();
+    const int room = heightLimit - bar - 1; // the divider under the bar
+    m_scroll->setFixedHeight(
+        std::min({ m_scroll->widget()->sizeHint().height(), maximumContentHeight, qMax(room, 120) }));
 }
 
 FormatLine *ColorDetailView::line(ColorFormat format) const

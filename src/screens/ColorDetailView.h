@@ -36,6 +36,8 @@ public:
     ContrastBadge *blackBadge() const { return m_blackBadge; }
 
     void setScheduler(Scheduler scheduler) { m_scheduler = std::move(scheduler); }
+    // The tallest the screen may be; its content scrolls within it.
+    void setHeightLimit(int heightLimit);
 
     // Copies one format as a click on its line does.
     void copy(ColorFormat format);
@@ -55,4 +57,6 @@ private:
     std::array<FormatLine *, allColorFormats.size()> m_lines {};
     ContrastBadge *m_whiteBadge = nullptr;
     ContrastBadge *m_blackBadge = nullptr;
+    QWidget *m_topBar = nullptr;
+    QScrollArea *m_scroll = nullptr;
 };

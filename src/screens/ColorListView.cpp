@@ -1,26 +1,28 @@
 #include "screens/ColorListView.h"
 
 #include "history/ColorListViewModel.h"
-#include "services/PreferenceKeys.h"
-#include "services/SettingsStore.h"
-#include "services/SettingsViewModel.h"
 #include "screens/CapsuleLabel.h"
 #include "screens/ColorDetailView.h"
 #include "screens/ColorRowView.h"
 #include "screens/Divider.h"
 #include "screens/ElidedLabel.h"
+#include "screens/RenameColorSheet.h"
 #include "screens/SymbolButton.h"
 #include "screens/Symbols.h"
 #include "screens/Theme.h"
+#include "services/PreferenceKeys.h"
+#include "services/SettingsStore.h"
+#include "services/SettingsViewModel.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
-#include <QVariantAnimation>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <QVariantAnimation>
+#include <algorithm>
 
 namespace {
 
@@ -224,6 +226,7 @@ ColorRowView *ColorListView::buildRow(const PickedColor &color, ColorFormat form
         [&model, color](const QString &name) { model.renameColor(color, name); },
         [&model, color] { model.deleteColor(color); });
     connect(row, &ColorRowView::activated, this, [this, color] { openColor(color); });
+    connect(row, &ColorRowView::renameRequested, this, [this, color] { openRenameSheet(color); });
     row->installEventFilter(this);
     return row;
 }
@@ -280,12 +283,39 @@ void ColorListView::rebuildColors()
     addSection(tr("RECENT"), QStringLiteral("recentHeader"), recent);
     stack->addStretch(1);
     m_scroll->setWidget(content);
-    m_scroll->setFixedHeight(qMin(content->sizeHint().height(), maximumListHeight));
+    fitListHeight();
 
     for (ColorRowView *row : std::as_const(m_rows)) {
         if (focusedId && row->color().id == *focusedId)
             row->setFocus(Qt::OtherFocusReason);
     }
+}
+
+void ColorListView::setHeightLimit(int heightLimit)
+{
+    m_heightLimit = heightLimit;
+    fitListHeight();
+    if (m_detail)
+        m_detail->setHeightLimit(heightLimit);
+}
+
+void ColorListView::fitListHeight()
+{
+    const QWidget *content = m_scroll->widget();
+    if (!content)
+        return;
+    // Header, pick button, footer and dividers: what the list screen has besides its rows.
+    QLayout *screen = m_listScreen->layout();
+    int chrome = screen->contentsMargins().top() + screen->contentsMargins().bottom();
+    for (int i = 0; i < screen->count(); ++i) {
+        QLayoutItem *item = screen->itemAt(i);
+        if (item->widget() != m_scroll && !item->isEmpty())
+            chrome += item->sizeHint().height();
+    }
+    // A few rows stay visible however little room there is.
+    constexpr int fewestRowsHeight = 96;
+    const int room = qMax(fewestRowsHeight, m_heightLimit - chrome);
+    m_scroll->setFixedHeight(std::min({ content->sizeHint().height(), maximumListHeight, room }));
 }
 
 void ColorListView::updatePicking()
@@ -307,6 +337,7 @@ void ColorListView::openColor(const PickedColor &color)
         color, [this](const PickedColor &shown, ColorFormat format) { m_viewModel.copyColor(shown, format); },
         [this] { closeDetail(); }, this);
     m_detail->setFixedWidth(viewWidth);
+    m_detail->setHeightLimit(m_heightLimit);
     m_listScreen->hide();
     layout()->addWidget(m_detail);
     m_detail->show();
@@ -332,6 +363,45 @@ void ColorListView::closeDetail()
         }
     }
     m_pickButton->setFocus(Qt::OtherFocusReason);
+}
+
+RenameColorSheet *ColorListView::openRenameSheet(const PickedColor &color)
+{
+    if (m_renameSheet)
+        return m_renameSheet;
+    ColorListViewModel &model = m_viewModel;
+    // Inside the popup, in place of the list: a window of its own would take the focus from the
+    // popup, which closes then, and the new name would never be seen.
+    m_renameSheet = new RenameColorSheet(
+        color, [&model, color](const QString &name) { model.renameColor(color, name); }, this);
+    m_renameSheet->setFixedWidth(viewWidth);
+    connect(m_renameSheet, &RenameColorSheet::finished, this, &ColorListView::closeRenameSheet);
+    m_listScreen->hide();
+    layout()->addWidget(m_renameSheet);
+    m_renameSheet->show();
+    m_renameSheet->setFocus(Qt::OtherFocusReason);
+    fadeIn(m_renameSheet);
+    return m_renameSheet;
+}
+
+void ColorListView::closeRenameSheet()
+{
+    if (!m_renameSheet)
+        return;
+    const QUuid renamed = m_renameSheet->color().id;
+    // Called from the sheet's own button or key: delete it once that event is handled.
+    m_renameSheet->hide();
+    m_renameSheet->deleteLater();
+    m_renameSheet = nullptr;
+    m_listScreen->show();
+    fadeIn(m_listScreen);
+    for (ColorRowView *row : std::as_const(m_rows)) {
+        if (row->color().id == renamed) {
+            row->setFocus(Qt::OtherFocusReason);
+            m_scroll->ensureWidgetVisible(row, 0, 4);
+            return;
+        }
+    }
 }
 
 void ColorListView::fadeIn(QWidget *screen)

@@ -2,6 +2,7 @@
 
 #include "model/PickedColor.h"
 #include "screens/ColorDetailView.h"
+#include "screens/RenameColorSheet.h"
 
 #include <QList>
 #include <QPointer>
@@ -50,6 +51,13 @@ public:
     void openColor(const PickedColor &color);
     // Back to the list, as the detail screen's "Back" does.
     void closeDetail();
+    // The rename sheet of a row's "Rename…", in place of the list until it is saved or
+    // cancelled; the list then shows again, with the new name.
+    RenameColorSheet *openRenameSheet(const PickedColor &color);
+    RenameColorSheet *renameSheet() const { return m_renameSheet; }
+    // The tallest the view may be (the room the popup has beside the tray icon): the colour
+    // list and the detail screen scroll within it.
+    void setHeightLimit(int heightLimit);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -62,8 +70,10 @@ private:
     QWidget *buildSectionHeader(const QString &title, const QString &objectName);
     ColorRowView *buildRow(const PickedColor &color, ColorFormat format);
     void rebuildColors();
+    void fitListHeight();
     void updatePicking();
     void fadeIn(QWidget *screen);
+    void closeRenameSheet();
     void moveRowFocus(ColorRowView *from, int step);
 
     ColorListViewModel &m_viewModel;
@@ -71,9 +81,11 @@ private:
     std::function<void()> m_onOpenSettings;
     std::function<void()> m_onQuit;
     std::optional<PickedColor> m_selectedColor;
+    int m_heightLimit = QWIDGETSIZE_MAX;
 
     QWidget *m_listScreen = nullptr;
     QPointer<ColorDetailView> m_detail;
+    QPointer<RenameColorSheet> m_renameSheet;
     CapsuleLabel *m_countBadge = nullptr;
     SymbolButton *m_pickButton = nullptr;
     QWidget *m_content = nullptr; // empty state or the scrolling list

@@ -1,8 +1,8 @@
 #include "screens/ColorRowView.h"
 
 #include "screens/ColorSwatch.h"
+#include "screens/DestructiveMenuStyle.h"
 #include "screens/ElidedLabel.h"
-#include "screens/RenameColorSheet.h"
 #include "screens/Symbols.h"
 #include "screens/Theme.h"
 
@@ -27,6 +27,7 @@ ColorRowView::ColorRowView(const PickedColor &color, ColorFormat format, std::fu
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setAttribute(Qt::WA_Hover);
+    setMouseTracking(true); // see mouseMoveEvent
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
     auto *row = new QHBoxLayout(this);
@@ -44,6 +45,7 @@ ColorRowView::ColorRowView(const PickedColor &color, ColorFormat format, std::fu
     }
     auto *value = new ElidedLabel(color.formatted(format), Theme::monospacedFont(13), &Theme::text, this);
     value->setObjectName(QStringLiteral("valueLabel"));
+    value->setElideMode(Qt::ElideMiddle); // a code initialiser keeps its opening and its end
     texts->addWidget(value);
     row->addLayout(texts, 1);
 
@@ -55,6 +57,11 @@ ColorRowView::ColorRowView(const PickedColor &color, ColorFormat format, std::fu
         pin->setFixedSize(9, 9);
         row->addWidget(pin, 0, Qt::AlignVCenter);
     }
+
+    // Moves over the swatch and texts reach the row only when they track the pointer too: a
+    // widget that does not drops them.
+    for (QWidget *child : findChildren<QWidget *>())
+        child->setMouseTracking(true);
 
     QString accessible = color.formatted(format);
     if (color.hasName())
@@ -84,10 +91,13 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
                 if (onPin)
                     onPin();
             });
-    connect(menu->addAction(tr("Rename…")), &QAction::triggered, this, [this] { openRenameSheet(); });
+    connect(menu->addAction(tr("Rename…")), &QAction::triggered, this, &ColorRowView::renameRequested);
     menu->addSeparator();
     QAction *remove = menu->addAction(tr("Delete"));
     remove->setObjectName(QStringLiteral("deleteAction"));
+    auto *style = new DestructiveMenuStyle(remove);
+    style->setParent(menu);
+    menu->setStyle(style);
     connect(remove, &QAction::triggered, menu, [onDelete = m_onDelete] {
         if (onDelete)
             onDelete();
@@ -97,19 +107,10 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
     return menu;
 }
 
-RenameColorSheet *ColorRowView::openRenameSheet()
-{
-    if (m_renameSheet)
-        return m_renameSheet;
-    // The sheet belongs to the popup, not the row: a rebuilt list must not take it away.
-    m_renameSheet = new RenameColorSheet(m_color, m_onRename, window());
-    m_renameSheet->open();
-    return m_renameSheet;
-}
-
 void ColorRowView::paintEvent(QPaintEvent *)
 {
-    if (!m_isHovered && !hasFocus() && !m_isPressed)
+    const bool showsFocusRing = hasFocus() && m_focusFromKeyboard;
+    if (!isHovered() && !showsFocusRing && !m_isPressed)
         return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -117,7 +118,7 @@ void ColorRowView::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(Theme::withAlpha(Theme::text(palette()), m_isPressed ? 0.1 : 0.06));
     painter.drawRoundedRect(box, 8, 8);
-    if (hasFocus()) {
+    if (showsFocusRing) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1.5));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(box.adjusted(0.75, 0.75, -0.75, -0.75), 8, 8);
@@ -127,8 +128,19 @@ void ColorRowView::paintEvent(QPaintEvent *)
 void ColorRowView::enterEvent(QEnterEvent *event)
 {
     m_isHovered = true;
+    setFocus(Qt::MouseFocusReason);
     update();
     QWidget::enterEvent(event);
+}
+
+void ColorRowView::mouseMoveEvent(QMouseEvent *event)
+{
+    // The pointer moving again over a row the keyboard has left takes the highlight back.
+    if (!hasFocus()) {
+        setFocus(Qt::MouseFocusReason);
+        update();
+    }
+    QWidget::mouseMoveEvent(event);
 }
 
 void ColorRowView::leaveEvent(QEvent *event)
@@ -187,6 +199,9 @@ void ColorRowView::contextMenuEvent(QContextMenuEvent *event)
 
 void ColorRowView::focusInEvent(QFocusEvent *event)
 {
+    // Arrow keys move focus with the tab reason (the list's moveRowFocus).
+    m_focusFromKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
+        || event->reason() == Qt::ShortcutFocusReason;
     update();
     QWidget::focusInEvent(event);
 }

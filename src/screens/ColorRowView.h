@@ -2,18 +2,16 @@
 
 #include "model/PickedColor.h"
 
-#include <QPointer>
 #include <QWidget>
 #include <functional>
 
 class QMenu;
-class RenameColorSheet;
 
 // One row of the colour list: swatch, optional name over the value in the list's format, and
 // a pin mark for pinned colours. The row highlights under the pointer and offers "Copy",
 // "Pin"/"Unpin", "Rename…" and "Delete" in its context menu; every action is a callback, the
-// row changes nothing itself. A plain click (or Return) only emits `activated`: the list
-// decides what that means.
+// row changes nothing itself. A plain click (or Return) only emits `activated`, and "Rename…"
+// `renameRequested`: the list decides what they mean.
 class ColorRowView : public QWidget {
     Q_OBJECT
 public:
@@ -22,22 +20,22 @@ public:
                  std::function<void()> onDelete, QWidget *parent = nullptr);
 
     const PickedColor &color() const { return m_color; }
-    bool isHovered() const { return m_isHovered; }
-    bool isRenaming() const { return !m_renameSheet.isNull(); }
+    // Under the pointer and not since left by the keyboard for another row: the pointer takes
+    // the keyboard focus along, so only one row ever looks selected.
+    bool isHovered() const { return m_isHovered && hasFocus(); }
     QString valueText() const;
 
     // The context menu, shown at a global position; it deletes itself when closed.
     QMenu *showContextMenu(const QPoint &globalPosition);
-    // The rename sheet over the row's window, the field holding the current name.
-    RenameColorSheet *openRenameSheet();
-
 Q_SIGNALS:
     void activated();
+    void renameRequested();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -54,5 +52,5 @@ private:
     std::function<void()> m_onDelete;
     bool m_isHovered = false;
     bool m_isPressed = false;
-    QPointer<RenameColorSheet> m_renameSheet;
+    bool m_focusFromKeyboard = false;
 };

@@ -17,7 +17,9 @@ ContrastBadge::ContrastBadge(const QString &label, const QString &ratio, const Q
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(8);
 
+    // The label and the ratio are what the line is for: the flexible space gives way, they never.
     auto *labelText = new ElidedLabel(label, Theme::font(13), &Theme::secondaryText, this);
+    labelText->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     row->addWidget(labelText, 0, Qt::AlignVCenter);
     row->addStretch(1);
 

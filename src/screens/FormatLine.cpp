@@ -1,18 +1,22 @@
 #include "screens/FormatLine.h"
 
+#include "screens/ElidedLabel.h"
 #include "screens/Symbols.h"
 #include "screens/Theme.h"
 
 #include <QPainter>
+#include <QVBoxLayout>
 #include <QVariantAnimation>
 
 namespace {
 
 constexpr int horizontalPadding = 12;
-constexpr int verticalPadding = 8;
-constexpr int labelColumn = 100;
+constexpr int verticalPadding = 6;
 constexpr int spacing = 6;
 constexpr int markSize = 10;
+constexpr int valuePixelSize = 13;
+// Fonts wider than DejaVu Sans Mono may step down this far before a text is elided.
+constexpr int smallestValuePixelSize = 11;
 
 } // namespace
 
@@ -25,6 +29,23 @@ FormatLine::FormatLine(ColorFormat format, const QString &value, QWidget *parent
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    auto *texts = new QVBoxLayout(this);
+    texts->setContentsMargins(
+        horizontalPadding, verticalPadding, horizontalPadding + markSize + spacing, verticalPadding);
+    texts->setSpacing(1);
+    auto *label = new ElidedLabel(rawValue(format), Theme::font(11), &Theme::secondaryText, this);
+    label->setObjectName(QStringLiteral("formatLabel"));
+    texts->addWidget(label);
+    m_valueLabel = new ElidedLabel(value, Theme::monospacedFont(valuePixelSize), &Theme::text, this);
+    m_valueLabel->setObjectName(QStringLiteral("valueLabel"));
+    m_valueLabel->setElideMode(Qt::ElideMiddle);
+    m_valueLabel->setSmallestPixelSize(smallestValuePixelSize);
+    // The line's tooltip holds the whole text; the label's own would only repeat it.
+    m_valueLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    texts->addWidget(m_valueLabel);
+
     setAccessibleName(tr("Copy %1").arg(rawValue(format)));
     setAccessibleDescription(value);
     setToolTip(value);
@@ -61,17 +82,9 @@ void FormatLine::setCopied(bool copied, int milliseconds, QEasingCurve::Type eas
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
-QSize FormatLine::sizeHint() const
+QString FormatLine::shownValue() const
 {
-    const QFontMetrics valueMetrics(Theme::monospacedFont(13));
-    return {horizontalPadding * 2 + labelColumn + spacing + valueMetrics.horizontalAdvance(m_value) + spacing
-                + markSize,
-            verticalPadding * 2 + qMax(valueMetrics.height(), QFontMetrics(Theme::font(11)).height())};
-}
-
-QSize FormatLine::minimumSizeHint() const
-{
-    return {horizontalPadding * 2 + labelColumn + spacing * 2 + markSize + 40, sizeHint().height()};
+    return m_valueLabel->shownText();
 }
 
 void FormatLine::paintEvent(QPaintEvent *)
@@ -79,7 +92,7 @@ void FormatLine::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QPalette pal = palette();
-    if (isHovered() || isDown() || (showsFocusRing())) {
+    if (isHovered() || isDown() || showsFocusRing()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(Theme::withAlpha(Theme::text(pal), isDown() ? 0.1 : 0.06));
         painter.drawRect(rect());
@@ -90,22 +103,7 @@ void FormatLine::paintEvent(QPaintEvent *)
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
     }
 
-    const QRect inner = rect().adjusted(horizontalPadding, verticalPadding, -horizontalPadding, -verticalPadding);
-    painter.setFont(Theme::font(11));
-    painter.setPen(Theme::secondaryText(pal));
-    painter.drawText(QRect(inner.x(), inner.y(), labelColumn, inner.height()),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     painter.fontMetrics().elidedText(text(), Qt::ElideRight, labelColumn));
-
-    const int markX = inner.right() + 1 - markSize;
-    const int valueX = inner.x() + labelColumn + spacing;
-    const int valueWidth = markX - spacing - valueX;
-    painter.setFont(Theme::monospacedFont(13));
-    painter.setPen(Theme::text(pal));
-    painter.drawText(QRect(valueX, inner.y(), valueWidth, inner.height()),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     painter.fontMetrics().elidedText(m_value, Qt::ElideRight, valueWidth));
-
+    const int markX = width() - horizontalPadding - markSize;
     const QRectF markRect(markX, height() / 2.0 - markSize / 2.0, markSize, markSize);
     if (m_markProgress < 1.0) {
         painter.setOpacity(1.0 - m_markProgress);

@@ -37,6 +37,8 @@ const QColor success(0x34, 0xC7, 0x59);
 constexpr qreal bulletInset = 60;
 constexpr qreal bulletSymbolFrame = 24;
 constexpr qreal rowSpacing = 14;
+// How far the welcome icon's glow reaches beyond its 120-point disc.
+constexpr qreal glowBlur = 24;
 
 QFont systemFont(int pixelSize, QFont::Weight weight = QFont::Normal)
 {
@@ -83,6 +85,7 @@ qreal wrappedHeight(const QFont &font, const QString &string, qreal width)
 } // namespace
 
 struct OnboardingView::WelcomeLayout {
+    qreal contentHeight; // everything but the two flexible spacers
     QRectF icon;     // the glow's 120-point circle
     QRectF title;
     std::array<QRectF, 3> bullets; // each line's row
@@ -90,6 +93,7 @@ struct OnboardingView::WelcomeLayout {
 };
 
 struct OnboardingView::ConfirmationLayout {
+    qreal contentHeight; // everything but the two flexible spacers
     QPointF checkCentre;
     QRectF headline;
     QRectF subtext;
@@ -136,7 +140,12 @@ OnboardingView::OnboardingView(SettingsStore &store, std::function<void()> onCom
     , m_store(store)
     , m_onComplete(std::move(onComplete))
 {
-    setFixedSize(520, 420);
+    setFixedSize(defaultWidth, defaultHeight);
+    // DejaVu and Noto wrap the feature lines more than the design's font does. Rather than
+    // squeeze the described spacing, the window grows until each screen's flexible spacers keep
+    // the glow's reach: above the icon's glow, and between the content and the button.
+    const qreal content = std::max(welcomeLayout().contentHeight, confirmationLayout().contentHeight);
+    setFixedHeight(std::max(defaultHeight, int(std::ceil(content + 2 * glowBlur))));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -358,6 +367,7 @@ OnboardingView::WelcomeLayout OnboardingView::welcomeLayout() const
     const qreal spacer = qMax(0.0, (height() - fixed) / 2);
 
     WelcomeLayout layout;
+    layout.contentHeight = fixed;
     qreal y = spacer;
     layout.icon = QRectF(w / 2 - 60, y, 120, 120);
     y += 120 + 20;
@@ -390,6 +400,7 @@ OnboardingView::ConfirmationLayout OnboardingView::confirmationLayout() const
     const qreal spacer = qMax(0.0, (height() - fixed) / 2);
 
     ConfirmationLayout layout;
+    layout.contentHeight = fixed;
     qreal y = spacer;
     layout.checkCentre = QPointF(w / 2, y + 50);
     y += 100 + 24;
@@ -453,7 +464,7 @@ void OnboardingView::paintWelcome(QPainter &painter) const
     const QPointF centre = layout.icon.center();
     const qreal glow = 0.08 + (0.25 - 0.08) * pulse;
     // A 120-point disc blurred by 24 points: solid to 36, fading out to 84.
-    constexpr qreal blur = 24;
+    constexpr qreal blur = glowBlur;
     QRadialGradient halo(centre, 60 + blur);
     halo.setColorAt(0, withAlpha(accent, glow));
     halo.setColorAt((60 - blur) / (60 + blur), withAlpha(accent, glow));
@@ -540,7 +551,8 @@ void OnboardingView::paintConfirmation(QPainter &painter) const
     enter(painter, progress(Step::SubtextVisible), 8);
     painter.setFont(systemFont(15));
     painter.setPen(mutedText);
-    painter.drawText(layout.subtext, Qt::AlignCenter, tr("Look for the eyedropper icon in your menu bar."));
+    painter.drawText(
+        layout.subtext, Qt::AlignCenter, tr("Look for the eyedropper icon in your system tray."));
     painter.restore();
 
     // A small picture of the menu-bar popover's controls.

@@ -23,6 +23,9 @@ class OnboardingView : public QWidget {
 public:
     // The rounded frame the view paints; the window is cut to it where nothing composites.
     static constexpr qreal cornerRadius = 20;
+    // 520 × 420, taller only where the desktop's fonts need it to keep the layout's spacing.
+    static constexpr int defaultWidth = 520;
+    static constexpr int defaultHeight = 420;
 
     // Everything that enters or keeps moving; each has a moment it fires and a 0-to-1 progress.
     enum class Step {

@@ -19,7 +19,7 @@ OnboardingWindow::OnboardingWindow(
     // The view paints its own rounded background; the corners stay see-through.
     setAttribute(Qt::WA_TranslucentBackground);
     setWindowTitle(tr("Welcome to vantle"));
-    setFixedSize(520, 420);
+    setFixedSize(m_view->size());
     m_view->move(0, 0);
     m_closeButton->setObjectName(QStringLiteral("onboardingClose"));
     m_closeButton->setAccessibleName(tr("Close"));

@@ -2,6 +2,12 @@
 
 #include <QKeyEvent>
 
+PaintedButton::PaintedButton(QWidget *parent)
+    : QAbstractButton(parent)
+{
+    setMouseTracking(true); // see mouseMoveEvent
+}
+
 void PaintedButton::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
@@ -18,12 +24,31 @@ void PaintedButton::focusInEvent(QFocusEvent *event)
     m_focusFromKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
         || event->reason() == Qt::ShortcutFocusReason;
     QAbstractButton::focusInEvent(event);
+    update();
+}
+
+void PaintedButton::focusOutEvent(QFocusEvent *event)
+{
+    QAbstractButton::focusOutEvent(event);
+    update(); // a hover look that follows the focus
 }
 
 void PaintedButton::enterEvent(QEnterEvent *event)
 {
+    if (takesFocusFromPointer())
+        setFocus(Qt::MouseFocusReason);
     update();
     QAbstractButton::enterEvent(event);
+}
+
+void PaintedButton::mouseMoveEvent(QMouseEvent *event)
+{
+    // The pointer moving again over a button the keyboard has left takes the highlight back.
+    if (takesFocusFromPointer() && !hasFocus()) {
+        setFocus(Qt::MouseFocusReason);
+        update();
+    }
+    QAbstractButton::mouseMoveEvent(event);
 }
 
 void PaintedButton::leaveEvent(QEvent *event)

@@ -8,19 +8,26 @@
 class PaintedButton : public QAbstractButton {
     Q_OBJECT
 public:
-    using QAbstractButton::QAbstractButton;
+    explicit PaintedButton(QWidget *parent = nullptr);
 
 protected:
-    bool isHovered() const { return underMouse(); }
-    // Focus reached by the keyboard, not by the window opening or a click.
+    // One highlight at a time, following what the person used last: the pointer takes the
+    // keyboard focus along to the button it enters, and a button the keyboard has since left
+    // shows no hover look even with the pointer resting on it.
+    bool isHovered() const { return underMouse() && (hasFocus() || !takesFocusFromPointer()); }
+    // Focus reached by the keyboard, not by the pointer, the window opening or a click.
     bool showsFocusRing() const { return hasFocus() && m_focusFromKeyboard; }
 
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     // Repaint for the hover look.
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
+    bool takesFocusFromPointer() const { return isEnabled() && (focusPolicy() & Qt::TabFocus); }
+
     bool m_focusFromKeyboard = false;
 };

@@ -5,24 +5,23 @@
 #include "screens/Theme.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-RenameColorSheet::RenameColorSheet(const PickedColor &color, std::function<void(const QString &)> onRename,
-                                   QWidget *parent)
-    : QDialog(parent)
+RenameColorSheet::RenameColorSheet(
+    const PickedColor &color, std::function<void(const QString &)> onRename, QWidget *parent)
+    : QWidget(parent)
+    , m_color(color)
     , m_onRename(std::move(onRename))
 {
-    setWindowTitle(tr("Rename Color"));
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowModality(Qt::WindowModal);
+    setAccessibleName(tr("Rename Color"));
 
     auto *stack = new QVBoxLayout(this);
     stack->setContentsMargins(24, 24, 24, 24);
     stack->setSpacing(16);
-    stack->setSizeConstraint(QLayout::SetFixedSize);
 
     auto *title = new QLabel(tr("Rename Color"), this);
     title->setFont(Theme::font(14, QFont::DemiBold));
@@ -52,7 +51,6 @@ RenameColorSheet::RenameColorSheet(const PickedColor &color, std::function<void(
     m_cancel->setAutoDefault(false);
     m_save = new QPushButton(tr("Save"), this);
     m_save->setDefault(true);
-    m_save->setAutoDefault(true);
     // The prominent button: filled with the theme's accent.
     QPalette prominent = m_save->palette();
     prominent.setColor(QPalette::Button, prominent.color(QPalette::Highlight));
@@ -63,14 +61,28 @@ RenameColorSheet::RenameColorSheet(const PickedColor &color, std::function<void(
     stack->addLayout(buttons);
     stack->setAlignment(buttons, Qt::AlignHCenter);
 
-    // Escape rejects, as in every dialog; Return presses the default button, Save.
-    connect(m_cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(m_save, &QPushButton::clicked, this, [this] {
-        const QString text = m_field->text();
-        const auto onRename = m_onRename;
-        accept();
-        if (onRename)
-            onRename(text);
-    });
-    m_field->setFocus();
+    connect(m_cancel, &QPushButton::clicked, this, &RenameColorSheet::finished);
+    connect(m_save, &QPushButton::clicked, this, &RenameColorSheet::save);
+    connect(m_field, &QLineEdit::returnPressed, this, &RenameColorSheet::save);
+    setFocusProxy(m_field);
+}
+
+void RenameColorSheet::save()
+{
+    const QString text = m_field->text();
+    // The rename rebuilds the list behind the sheet; the host takes the sheet away after.
+    if (m_onRename)
+        m_onRename(text);
+    Q_EMIT finished();
+}
+
+void RenameColorSheet::keyPressEvent(QKeyEvent *event)
+{
+    // Escape cancels the sheet only: the popup around it stays open.
+    if (event->key() == Qt::Key_Escape) {
+        event->accept();
+        Q_EMIT finished();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }

@@ -494,6 +494,9 @@ void SettingsView::requestHistoryLimit(qint64 limit)
     }
     m_colorsToRemoveCount = count - limit;
     m_pendingHistoryLimit = limit;
+    // Until Continue the limit is the stored one, and so is what the picker behind the alert
+    // shows (the person's choice has already moved it).
+    showHistoryLimit();
 
     QMessageBox alert(this);
     alert.setIcon(QMessageBox::Warning);

@@ -1,6 +1,6 @@
-// Where the popup opens: under the tray icon, above it for a bottom panel, near the pointer when
-// the icon's place is unknown, and always whole on the screen's available area; and when its
-// content is built.
+// Where the popup opens: beside the tray icon on the side away from the panel, near the pointer
+// when the icon's place is unknown, always whole on the screen's available area and off the
+// icon; and when its content is built.
 #include "app/PopupWindow.h"
 
 #include <QCoreApplication>
@@ -13,36 +13,42 @@ namespace {
 constexpr int gap = 4; // between the tray icon and the popup
 } // namespace
 
-TEST(PopupWindowPlacement, StaysWholeOnTheAvailableArea)
+TEST(PopupWindowPlacement, BesideTheIconAwayFromThePanelAndWholeOnTheScreen)
 {
-    const QRect available(0, 24, 1280, 776); // a 24-pixel panel at the top
-    const QSize size(320, 400);
+    // A 1280 × 800 screen; a short history makes a 200-pixel popup, a long one would make a
+    // 1000-pixel one and must scroll within the room instead of covering the icon.
+    const QRect screen(0, 0, 1280, 800);
     struct Case {
         const char *what;
         QRect anchor;
-        QPoint pointer;
-        QPoint expected;
+        QRect available;
+        int natural;
+        QRect expected;
     };
     const Case cases[] = {
-        { "icon mid-panel: centred under it", QRect(600, 0, 24, 24), {}, QPoint(451, 24 + gap) },
-        { "icon at the right edge: pulled left", QRect(1256, 0, 24, 24), {}, QPoint(960, 24 + gap) },
-        { "icon at the left edge: pulled right", QRect(0, 0, 24, 24), {}, QPoint(0, 24 + gap) },
-        { "bottom panel: above the icon", QRect(600, 776, 24, 24), {}, QPoint(451, 776 - gap - 400) },
-        { "no icon geometry: under the pointer", QRect(), QPoint(640, 300), QPoint(480, 300 + gap) },
-        { "pointer low on the screen: clamped up", QRect(), QPoint(640, 790), QPoint(480, 800 - 400) },
+        { "top panel, short", QRect(1200, 0, 24, 24), screen, 200, QRect(960, 24 + gap, 320, 200) },
+        { "top panel, long", QRect(1200, 0, 24, 24), screen, 1000, QRect(960, 28, 320, 800 - 28) },
+        { "top panel reserving its space, long", QRect(600, 0, 24, 24), QRect(0, 24, 1280, 776), 1000,
+            QRect(451, 28, 320, 772) },
+        { "bottom panel, short", QRect(600, 776, 24, 24), screen, 200,
+            QRect(451, 776 - gap - 200, 320, 200) },
+        { "bottom panel, long", QRect(600, 776, 24, 24), screen, 1000, QRect(451, 0, 320, 772) },
+        { "left panel, short", QRect(0, 400, 24, 24), screen, 200, QRect(24 + gap, 311, 320, 200) },
+        { "left panel, long", QRect(0, 400, 24, 24), screen, 1000, QRect(28, 0, 320, 800) },
+        { "right panel, short", QRect(1256, 700, 24, 24), screen, 200,
+            QRect(1256 - gap - 320, 600, 320, 200) },
+        { "right panel, long", QRect(1256, 700, 24, 24), screen, 1000, QRect(932, 0, 320, 800) },
+        { "no icon geometry: under the pointer", QRect(), screen, 200, QRect(480, 300 + gap, 320, 200) },
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
-        const QPoint origin = PopupWindow::placement(c.anchor, c.pointer, size, available);
-        EXPECT_EQ(origin, c.expected);
-        EXPECT_TRUE(available.contains(QRect(origin, size)));
+        const QRect room = PopupWindow::room(c.anchor, screen, c.available);
+        const QSize size(320, qMin(c.natural, room.height()));
+        const QRect popup(PopupWindow::placement(c.anchor, QPoint(640, 300), size, room), size);
+        EXPECT_EQ(popup, c.expected);
+        EXPECT_TRUE(c.available.contains(popup));
+        EXPECT_FALSE(popup.intersects(c.anchor));
     }
-}
-
-TEST(PopupWindowPlacement, ALargerPopupThanTheScreenKeepsItsTopLeftVisible)
-{
-    const QRect available(1920, 0, 300, 200);
-    EXPECT_EQ(PopupWindow::placement(QRect(2100, 0, 24, 24), {}, QSize(320, 400), available), QPoint(1920, 0));
 }
 
 TEST(PopupWindowContent, IsBuiltWhenThePopupFirstOpens)

@@ -15,8 +15,13 @@ done
 home=$(mktemp -d)
 export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_RUNTIME_DIR=$home/run
 mkdir -p "$XDG_CONFIG_HOME/Vantle" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
-# Fresh settings but for the dot in the tray, which this test looks at.
+# Fresh settings but for the dot in the tray, which this test looks at, and a history long
+# enough that the popup's list must scroll rather than run over the tray icon.
 printf '[General]\nshowColorDot=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
+for i in $(seq 10 49); do
+    printf '{"id":"%08d-0000-4000-8000-000000000000","red":0.%s,"green":0.5,"blue":0.5,"alpha":1,"isPinned":false,"timestamp":%s}\n' \
+        "$i" "$i" "$((700000000 - i))"
+done | paste -sd, | sed 's/^/[/; s/$/]/' >"$XDG_CONFIG_HOME/Vantle/colorHistory.json"
 
 pid=
 cleanup() {
@@ -104,6 +109,11 @@ read -r icon_w icon_h icon_x icon_y < <(xwininfo -id "$(tray_icon)" | awk '
 xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
 wait_for 10 popup_shown || fail "a click on the tray icon did not open the popup"
 shot popup
+# Below the icon of the top panel, whole on the screen.
+read -r _ _ popup_h _ popup_y < <(windows | awk '$2 == 320' | head -n1)
+screen_h=$(xdpyinfo | awk '/dimensions:/ {split($2, d, "x"); print d[2]}')
+((popup_y >= icon_y + icon_h && popup_y + popup_h <= screen_h)) \
+    || fail "the popup (y $popup_y, $popup_h tall) is not between the tray icon (y $icon_y) and the screen's bottom"
 xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
 wait_for 10 popup_hidden || fail "a second click on the tray icon did not close the popup"
 

@@ -4,7 +4,6 @@
 #include "support/TempSettings.h"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -75,30 +74,26 @@ TEST(HotkeyRecorderView, AcceptedPressesStoreThePhysicalKeyAndTheTextItTypes)
         qint64 storedModifiers;
         QString keyChar;
         QString display;
-        QString tooltip;
     };
     const Row rows[] = {
         { "option-shift-C", Qt::Key_C, Qt::AltModifier | Qt::ShiftModifier, 54, QStringLiteral("C"), 8,
-            655360, QStringLiteral("C"), QStringLiteral("⌥⇧C"), QStringLiteral("Alt+Shift+C") },
+            655360, QStringLiteral("C"), QStringLiteral("Alt+Shift+C") },
         { "command-1", Qt::Key_1, Qt::MetaModifier, 10, QStringLiteral("1"), 18, 1048576, QStringLiteral("1"),
-            QStringLiteral("⌘1"), QStringLiteral("Super+1") },
+            QStringLiteral("Super+1") },
         { "option-K typing lower case", Qt::Key_K, Qt::AltModifier, 45, QStringLiteral("k"), 40, 524288,
-            QStringLiteral("K"), QStringLiteral("⌥K"), QStringLiteral("Alt+K") },
+            QStringLiteral("K"), QStringLiteral("Alt+K") },
         { "control on a French keyboard: the A key types Q", Qt::Key_Q, Qt::ControlModifier, 38,
-            QStringLiteral("\x11"), 0, 262144, QStringLiteral("Q"), QStringLiteral("⌃Q"),
-            QStringLiteral("Ctrl+Q") },
+            QStringLiteral("\x11"), 0, 262144, QStringLiteral("Q"), QStringLiteral("Ctrl+Q") },
         { "keypad flag does not leak", Qt::Key_X, Qt::AltModifier | Qt::KeypadModifier, 53,
-            QStringLiteral("x"), 7, 524288, QStringLiteral("X"), QStringLiteral("⌥X"),
-            QStringLiteral("Alt+X") },
+            QStringLiteral("x"), 7, 524288, QStringLiteral("X"), QStringLiteral("Alt+X") },
         { "a key that types nothing", Qt::Key_F5, Qt::ControlModifier | Qt::AltModifier, 71, QString(), 96,
-            786432, QStringLiteral("F5"), QStringLiteral("⌃⌥F5"), QStringLiteral("Ctrl+Alt+F5") },
+            786432, QStringLiteral("F5"), QStringLiteral("Ctrl+Alt+F5") },
         { "keypad 1 with Num Lock off", Qt::Key_End, Qt::AltModifier | Qt::KeypadModifier, 87, QString(), 83,
-            524288, QStringLiteral("1"), QStringLiteral("⌥1"), QStringLiteral("Alt+1") },
+            524288, QStringLiteral("1"), QStringLiteral("Alt+1") },
         { "F13, which the standard keymap calls Tools", Qt::Key_Tools, Qt::ControlModifier, 191, QString(),
-            105, 262144, QStringLiteral("F13"), QStringLiteral("⌃F13"), QStringLiteral("Ctrl+F13") },
+            105, 262144, QStringLiteral("F13"), QStringLiteral("Ctrl+F13") },
         { "Play, which Macs have no code for", Qt::Key_MediaPlay, Qt::ControlModifier, 172, QString(),
-            0x100 + 164, 262144, QStringLiteral("Media Play"), QStringLiteral("⌃Media Play"),
-            QStringLiteral("Ctrl+Media Play") },
+            0x100 + 164, 262144, QStringLiteral("Media Play"), QStringLiteral("Ctrl+Media Play") },
     };
     for (const Row &row : rows) {
         SCOPED_TRACE(row.what);
@@ -111,18 +106,9 @@ TEST(HotkeyRecorderView, AcceptedPressesStoreThePhysicalKeyAndTheTextItTypes)
         EXPECT_EQ(pane.keyChar(), row.keyChar);
         EXPECT_EQ(pane.changes, 1);
         EXPECT_EQ(pane.fieldText(), row.display);
-        EXPECT_EQ(pane.recorder->field()->toolTip(), row.tooltip);
         EXPECT_EQ(pane.sibling->text(), QString()) << "the press was swallowed";
         EXPECT_EQ(pane.recordingChanges, QList<bool>({true, false}));
     }
-}
-
-TEST(HotkeyRecorderView, ShortcutTextIsMonospaced)
-{
-    Pane pane;
-    EXPECT_EQ(pane.fieldText(), QStringLiteral("⌃X"));
-    EXPECT_EQ(pane.recorder->field()->font().family(), QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
-    EXPECT_EQ(pane.recorder->field()->font().pixelSize(), 12);
 }
 
 TEST(HotkeyRecorderView, PressesWithoutControlAltOrSuperAreSwallowedAndIgnored)
@@ -164,7 +150,7 @@ TEST(HotkeyRecorderView, EscapeSecondClickAndHidingStopWithoutAChange)
         EXPECT_EQ(pane.keyCode(), 7);
         EXPECT_EQ(pane.modifiers(), 262144);
         EXPECT_EQ(pane.keyChar(), QStringLiteral("X"));
-        EXPECT_EQ(pane.fieldText(), QStringLiteral("⌃X"));
+        EXPECT_EQ(pane.fieldText(), QStringLiteral("Ctrl+X"));
         EXPECT_EQ(pane.changes, 0);
         EXPECT_EQ(pane.recordingChanges, QList<bool>({true, false}));
     }

@@ -103,22 +103,18 @@ TEST(KeyCodes, TextsListModifiersInTheFixedOrder)
     struct Row {
         qint64 modifiers;
         QString keyChar;
-        QString display;
-        QString desktop;
+        QString text;
     };
     const Row rows[] = {
-        {655360, QStringLiteral("C"), QStringLiteral("⌥⇧C"), QStringLiteral("Alt+Shift+C")},
-        {allFlags, QStringLiteral("X"), QStringLiteral("⌃⌥⇧⌘X"), QStringLiteral("Ctrl+Alt+Shift+Super+X")},
-        {commandFlag, QStringLiteral("1"), QStringLiteral("⌘1"), QStringLiteral("Super+1")},
-        {655360 | 65536, QStringLiteral("K"), QStringLiteral("⌥⇧K"), QStringLiteral("Alt+Shift+K")},
-        {655360, QString(), QString(), QString()},
-        {-1, QStringLiteral("C"), QString(), QString()},
+        { 655360, QStringLiteral("C"), QStringLiteral("Alt+Shift+C") },
+        { allFlags, QStringLiteral("X"), QStringLiteral("Ctrl+Alt+Shift+Super+X") },
+        { commandFlag, QStringLiteral("1"), QStringLiteral("Super+1") },
+        { 655360 | 65536, QStringLiteral("K"), QStringLiteral("Alt+Shift+K") },
+        { 655360, QString(), QString() },
+        { -1, QStringLiteral("C"), QString() },
     };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.modifiers);
-        EXPECT_EQ(shortcutDisplayText(row.modifiers, row.keyChar), row.display);
-        EXPECT_EQ(shortcutDesktopText(row.modifiers, row.keyChar), row.desktop);
-    }
+    for (const Row &row : rows)
+        EXPECT_EQ(shortcutDesktopText(row.modifiers, row.keyChar), row.text) << row.modifiers;
 }
 
 TEST(KeyCodes, PortalTriggerUsesTheDesktopNotation)

@@ -108,6 +108,13 @@ TEST_F(ColorListViewTest, IsThreeHundredTwentyPixelsWideAndListScrollsWithinItsL
     EXPECT_EQ(view->width(), 320);
     EXPECT_LE(view->height(), ColorListView::maximumListHeight + 200);
     EXPECT_EQ(view->rows().size(), 40);
+
+    // Little room beside the tray icon (a small screen): the list and the detail screen
+    // scroll within it.
+    view->setHeightLimit(300);
+    QTRY_COMPARE(view->height(), 300);
+    view->openColor(many.first());
+    QTRY_VERIFY(view->height() <= 300);
 }
 
 TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
@@ -222,6 +229,30 @@ TEST_F(ColorListViewTest, KeyboardWalksRowsOpensAndBacksOut)
     EXPECT_TRUE(rowFor(colors[1].id)->hasFocus());
 }
 
+TEST_F(ColorListViewTest, OneRowLooksSelectedFollowingThePointerOrTheKeys)
+{
+    build({ makeColor(1, 0, 0), makeColor(0, 1, 0), makeColor(0, 0, 1) });
+    const QList<ColorRowView *> rows = view->rows();
+    const auto pointAt = [&](int row, int x) {
+        QTest::mouseMove(
+            view->windowHandle(), rows[row]->mapTo(view.get(), QPoint(x, rows[row]->height() / 2)));
+    };
+    const auto selected = [&] {
+        QList<int> looks;
+        for (int i = 0; i < rows.size(); ++i) {
+            if (rows[i]->isHovered() || rows[i]->hasFocus())
+                looks.append(i);
+        }
+        return looks;
+    };
+    pointAt(0, 40);
+    EXPECT_EQ(selected(), QList<int> { 0 });
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down); // the pointer stays on row 0
+    EXPECT_EQ(selected(), QList<int> { 1 });
+    pointAt(0, 60);
+    EXPECT_EQ(selected(), QList<int> { 0 });
+}
+
 TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
 {
     const struct {
@@ -285,8 +316,11 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         clickAction(openContextMenu(view->rows().first()), QStringLiteral("Rename…"));
         RenameColorSheet *sheet = nullptr;
         QTRY_VERIFY((sheet = view->findChild<RenameColorSheet *>()) && sheet->isVisible());
-        EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
+        // A sheet inside the popup, not a window of its own that would close it.
+        EXPECT_EQ(sheet->window(), view.get());
         EXPECT_EQ(sheet->nameField()->text(), c.name.value_or(QString()));
+        // The upper-case hex, whatever the list's format.
+        EXPECT_EQ(sheet->findChild<ElidedLabel *>(QStringLiteral("hexLabel"))->text(), u"#FF6B36");
         EXPECT_EQ(sheet->nameField()->placeholderText(), u"Color name (optional)");
         EXPECT_EQ(sheet->nameField()->width(), 240);
         EXPECT_EQ(sheet->cancelButton()->text(), u"Cancel");
@@ -314,19 +348,12 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         }
         QTRY_VERIFY(!guard);
         EXPECT_EQ(stored(color.id)->name, c.expected);
+        // Back on the list, which shows the name as stored.
+        EXPECT_TRUE(shown("pickButton"));
+        const auto *name = rowFor(color.id)->findChild<ElidedLabel *>(QStringLiteral("nameLabel"));
+        EXPECT_EQ(name && name->isVisibleTo(view.get()) ? std::optional(name->text()) : std::nullopt,
+            c.expected && !c.expected->isEmpty() ? c.expected : std::nullopt);
     }
-}
-
-TEST_F(ColorListViewTest, RenameSheetShowsUpperCaseHexWhateverTheFormat)
-{
-    const PickedColor color = makeColor(1.0, 0.42, 0.21);
-    build({color}, QStringLiteral("Hex (lowercase)"));
-    RenameColorSheet *sheet = view->rows().first()->openRenameSheet();
-    EXPECT_EQ(view->rows().first()->valueText(), u"#ff6b36");
-    const auto *hex = sheet->findChild<ElidedLabel *>(QStringLiteral("hexLabel"));
-    ASSERT_NE(hex, nullptr);
-    EXPECT_EQ(hex->text(), u"#FF6B36");
-    sheet->reject();
 }
 
 TEST_F(ColorListViewTest, PickButtonReadsPickingAndRefusesWhileAPickRuns)

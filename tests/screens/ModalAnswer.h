@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <functional>
 
 // Answers the next modal dialog as a person would, by a button's text or with "Escape", and
 // keeps every text it showed. Armed before the call that opens the dialog.
@@ -19,6 +20,8 @@ struct ModalAnswer {
                 return;
             timer.stop();
             wasShown = true;
+            if (whileShown)
+                whileShown();
             texts << dialog->windowTitle();
             if (auto *box = qobject_cast<QMessageBox *>(dialog))
                 texts << box->text() << box->informativeText();
@@ -37,6 +40,7 @@ struct ModalAnswer {
     }
 
     QTimer timer;
+    std::function<void()> whileShown; // runs before the answer, while the dialog is up
     bool wasShown = false;
     QStringList texts;
 };

@@ -168,12 +168,15 @@ TEST(SettingsView, LoweringTheHistoryLimitAsksBeforeRemovingColors)
         SettingsView *view = shell.open();
 
         ModalAnswer alert(QString::fromLatin1(row.answer ? row.answer : "Cancel"));
+        QString limitBehindAlert;
+        alert.whileShown = [&] { limitBehindAlert = view->historyLimitPicker()->currentText(); };
         choose(view->historyLimitPicker(), QString::fromLatin1(row.choice));
 
         EXPECT_EQ(alert.wasShown, row.answer != nullptr);
         if (row.answer) {
             EXPECT_EQ(alert.texts.value(0), QStringLiteral("Reduce History"));
             EXPECT_TRUE(alert.texts.contains(row.message)) << alert.texts.join(u'|').toStdString();
+            EXPECT_EQ(limitBehindAlert, QString::number(row.limit)) << "not yet confirmed";
         }
         EXPECT_EQ(shell.store().integerForKey(historyLimit), row.storedLimit);
         EXPECT_EQ(view->historyLimitPicker()->currentText(), QString::number(row.storedLimit));

@@ -208,26 +208,7 @@ void ColorListViewModel::loadHistory()
     }
     // The next save replaces what cannot be read here; those bytes may still hold the user's
     // colours (a newer version's records, a hand edit gone wrong), so they go aside first.
-    keepUnreadableHistory(*stored);
-}
-
-void ColorListViewModel::keepUnreadableHistory(const QByteArray &bytes)
-{
-    const QDir folder = QFileInfo(m_store.filePath()).absoluteDir();
-    const QStringList pattern { QStringLiteral("colorHistory-unreadable-*.json") };
-    // The same unreadable value is found again at every launch until something is saved.
-    for (const QString &name : folder.entryList(pattern, QDir::Files)) {
-        QFile existing(folder.filePath(name));
-        if (existing.size() == bytes.size() && existing.open(QIODevice::ReadOnly)
-            && existing.readAll() == bytes)
-            return;
-    }
-    const QString stamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-    QString path = folder.filePath(QStringLiteral("colorHistory-unreadable-%1.json").arg(stamp));
-    for (int n = 2; QFileInfo::exists(path); ++n)
-        path = folder.filePath(QStringLiteral("colorHistory-unreadable-%1-%2.json").arg(stamp).arg(n));
-    folder.mkpath(QStringLiteral("."));
-    writeFileAtomically(path, bytes); // nothing more to do if it fails: the failure is silent
+    keepUnreadableAside(m_store.dataFilePath(PreferenceKeys::colorHistory), *stored);
 }
 
 void ColorListViewModel::saveHistory()

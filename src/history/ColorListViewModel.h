@@ -57,7 +57,6 @@ private:
     void finishPick(const std::optional<SampledColor> &sample);
     void copyText(const QString &text);
     qsizetype indexOf(const QUuid &id) const;
-    void keepUnreadableHistory(const QByteArray &bytes);
 
     SettingsStore &m_store;
     ScreenColorSampler &m_sampler;

@@ -1,5 +1,9 @@
 #include "services/AtomicFile.h"
 
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 std::optional<QString> writeFileAtomically(const QString &path, const QByteArray &content)
@@ -18,4 +22,28 @@ std::optional<QString> writeFileAtomically(const QString &path, const QByteArray
     if (!file.commit())
         return file.errorString();
     return std::nullopt;
+}
+
+QString unreadableAsidePath(const QString &path)
+{
+    const QString stamp = path + QStringLiteral(".unreadable-")
+        + QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    QString aside = stamp;
+    for (int n = 2; QFileInfo::exists(aside) || QFileInfo(aside).isSymLink(); ++n)
+        aside = stamp + QLatin1Char('-') + QString::number(n);
+    return aside;
+}
+
+void keepUnreadableAside(const QString &path, const QByteArray &bytes)
+{
+    const QFileInfo info(path);
+    const QDir folder = info.absoluteDir();
+    const QStringList pattern { info.fileName() + QStringLiteral(".unreadable-*") };
+    for (const QString &name : folder.entryList(pattern, QDir::Files)) {
+        QFile kept(folder.filePath(name));
+        if (kept.size() == bytes.size() && kept.open(QIODevice::ReadOnly) && kept.readAll() == bytes)
+            return;
+    }
+    folder.mkpath(QStringLiteral("."));
+    writeFileAtomically(unreadableAsidePath(path), bytes);
 }

@@ -18,18 +18,6 @@ namespace {
 // A history of 10,000 colours takes about 2 MB.
 constexpr qint64 largestReadableFileSize = 16 * 1024 * 1024;
 
-// Where an unreadable file goes aside: "<file>.unreadable-<UTC time>", numbered when that
-// second already put one there.
-QString asidePath(const QString &path)
-{
-    const QString stamp = path + QStringLiteral(".unreadable-")
-        + QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
-    QString aside = stamp;
-    for (int n = 2; QFileInfo::exists(aside) || QFileInfo(aside).isSymLink(); ++n)
-        aside = stamp + QLatin1Char('-') + QString::number(n);
-    return aside;
-}
-
 // QSettings guards every write with "<file>.lock", which holds the writer's process id and,
 // while the writer lives, a file lock. A writer killed in the instant between creating that
 // file and writing its id leaves an empty one, which QSettings counts as stale only after 30
@@ -80,7 +68,7 @@ std::optional<QByteArray> readDataFile(const QString &path)
         ::close(fd);
     if (readable)
         return bytes;
-    QFile::rename(path, asidePath(path));
+    QFile::rename(path, unreadableAsidePath(path));
     return std::nullopt;
 }
 
@@ -94,14 +82,14 @@ SettingsStore::SettingsStore(const QString &filePath, QObject *parent)
     if (QFileInfo(filePath).size() > largestReadableFileSize) {
         // No file of ours comes near this size; parsing one would stall the launch for seconds.
         // It goes aside whole (a rename, instant) and the program starts on fresh settings.
-        QFile::rename(filePath, asidePath(filePath));
+        QFile::rename(filePath, unreadableAsidePath(filePath));
     }
     open();
     m_settings->allKeys(); // QSettings parses sections lazily; parse all now to see errors
     if (m_settings->status() == QSettings::FormatError) {
         // The next write would replace the file with only what could be parsed: keep the
         // original bytes, which may hold the user's colours.
-        QFile::copy(filePath, asidePath(filePath));
+        QFile::copy(filePath, unreadableAsidePath(filePath));
         // Rebuild a clean file from what could be read; a fresh QSettings also clears the
         // error status, which is sticky otherwise. Data kept in the file by earlier versions
         // goes to its own file, unless a newer one is already there.

@@ -332,7 +332,7 @@ TEST_F(ColorListViewModelTest, UnreadableStoredHistoryIsKeptAsideAndTheModelStar
     EXPECT_TRUE(confirmation.messages.isEmpty());
 
     const QDir folder = settings.dir.path();
-    const QStringList pattern { QStringLiteral("colorHistory-unreadable-*.json") };
+    const QStringList pattern { QStringLiteral("colorHistory.json.unreadable-*") };
     QStringList backups = folder.entryList(pattern, QDir::Files);
     ASSERT_EQ(backups.size(), 1);
     QFile backup(folder.filePath(backups.first()));

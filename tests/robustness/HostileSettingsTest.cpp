@@ -102,7 +102,7 @@ TEST_P(HostileSettingsTest, OpensPicksSavesAndExports)
     const qint64 launchMs = launch.elapsed();
     EXPECT_EQ(model.colors().size(), hostile.colorsKept);
     const QStringList aside
-        = QDir(dir.path()).entryList({ QStringLiteral("colorHistory-unreadable-*.json") }, QDir::Files);
+        = QDir(dir.path()).entryList({ QStringLiteral("colorHistory.json.unreadable-*") }, QDir::Files);
     EXPECT_EQ(aside.size(), hostile.historyKeptAside ? 1 : 0);
     const QStringList fileAside
         = QDir(dir.path()).entryList({ QStringLiteral("Vantle.conf.unreadable-*") }, QDir::Files);

@@ -1,7 +1,7 @@
 #include "screens/DialogUpdateInterface.h"
 
 #include "screens/ReleaseNotesView.h"
-#include "screens/SettingsStyle.h"
+#include "screens/Theme.h"
 #include "screens/Symbols.h"
 #include "services/Appcast.h"
 
@@ -79,7 +79,7 @@ UpdateUserInterface::Choice DialogUpdateInterface::askAboutUpdate(
 
     auto *symbol = new QLabel;
     symbol->setPixmap(Symbols::pixmap(
-        QStringLiteral("eyedropper"), 48, SettingsStyle::accent(), dialog.devicePixelRatioF()));
+        QStringLiteral("eyedropper"), 48, Theme::accent(), dialog.devicePixelRatioF()));
     symbol->setFixedSize(48, 48);
     layout->addWidget(symbol, 0, Qt::AlignTop);
 
@@ -87,7 +87,7 @@ UpdateUserInterface::Choice DialogUpdateInterface::askAboutUpdate(
     column->setSpacing(8);
     layout->addLayout(column, 1);
     QLabel *heading = wrappedLabel(QObject::tr("A new version of %1 is available!").arg(name));
-    heading->setFont(SettingsStyle::withPixelSize(heading->font(), 15, true));
+    heading->setFont(Theme::withPixelSize(heading->font(), 15, true));
     column->addWidget(heading);
     column->addWidget(
         wrappedLabel(QObject::tr("%1 %2 is now available — you have %3. Would you like to download it now?")
@@ -95,7 +95,7 @@ UpdateUserInterface::Choice DialogUpdateInterface::askAboutUpdate(
 
     if (!update.releaseNotes.trimmed().isEmpty()) {
         QLabel *notesHeading = wrappedLabel(QObject::tr("Release Notes:"));
-        notesHeading->setFont(SettingsStyle::withPixelSize(notesHeading->font(), 13, true));
+        notesHeading->setFont(Theme::withPixelSize(notesHeading->font(), 13, true));
         column->addSpacing(4);
         column->addWidget(notesHeading);
         auto *notes = new ReleaseNotesView;

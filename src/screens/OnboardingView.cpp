@@ -1,5 +1,7 @@
 #include "screens/OnboardingView.h"
 
+#include "screens/Theme.h"
+
 #include "screens/AnimationCurves.h"
 #include "screens/OnboardingCheckmarkShape.h"
 #include "screens/Symbols.h"
@@ -25,14 +27,8 @@
 
 namespace {
 
-// The welcome window's own palette: fixed, whatever the desktop's theme.
-const QColor background(0x0D, 0x11, 0x17);
-const QColor card(0x16, 0x1B, 0x22);
-const QColor border(0x30, 0x36, 0x3D);
-const QColor text(0xC9, 0xD1, 0xD9);
-const QColor mutedText(0x8B, 0x94, 0x9E);
-const QColor accent(0xFF, 0x6B, 0x35);
-const QColor success(0x34, 0xC7, 0x59);
+using namespace Theme::Welcome;
+using Theme::withAlpha;
 
 constexpr qreal bulletInset = 60;
 constexpr qreal bulletSymbolFrame = 24;
@@ -46,12 +42,6 @@ QFont systemFont(int pixelSize, QFont::Weight weight = QFont::Normal)
     font.setPixelSize(pixelSize);
     font.setWeight(weight);
     return font;
-}
-
-QColor withAlpha(QColor color, qreal alpha)
-{
-    color.setAlphaF(float(qBound(0.0, alpha, 1.0)));
-    return color;
 }
 
 // An element that rises into place while fading in: `distance` points lower until shown.

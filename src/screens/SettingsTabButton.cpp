@@ -1,6 +1,6 @@
 #include "screens/SettingsTabButton.h"
 
-#include "screens/SettingsStyle.h"
+#include "screens/Theme.h"
 #include "screens/Symbols.h"
 
 #include <QPainter>
@@ -54,7 +54,7 @@ void SettingsTabButton::paintEvent(QPaintEvent *)
     if (selected) {
         QPainterPath plate;
         plate.addRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
-        painter.fillPath(plate, SettingsStyle::accent());
+        painter.fillPath(plate, Theme::accent());
     } else if (underMouse()) {
         QPainterPath plate;
         plate.addRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
@@ -62,7 +62,7 @@ void SettingsTabButton::paintEvent(QPaintEvent *)
         hover.setAlphaF(0.06);
         painter.fillPath(plate, hover);
     }
-    const QColor ink = selected ? QColor(Qt::white) : SettingsStyle::secondary(palette());
+    const QColor ink = selected ? QColor(Qt::white) : Theme::secondaryText(palette());
 
     const QRectF symbolRect(
         (width() - symbolSize) / 2.0, padding + (symbolFrame - symbolSize) / 2.0, symbolSize, symbolSize);
@@ -76,7 +76,7 @@ void SettingsTabButton::paintEvent(QPaintEvent *)
     // The ring only after keyboard navigation, so the tab focused at opening does not look
     // selected as well.
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
-        QPen focus(SettingsStyle::accent());
+        QPen focus(Theme::accent());
         focus.setWidthF(1.5);
         painter.setPen(selected ? QPen(Qt::white) : focus);
         painter.setBrush(Qt::NoBrush);

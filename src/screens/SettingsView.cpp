@@ -5,7 +5,7 @@
 #include "hotkeys/HotkeyManager.h"
 #include "hotkeys/HotkeyRecorderView.h"
 #include "model/ColorFormat.h"
-#include "screens/SettingsStyle.h"
+#include "screens/Theme.h"
 #include "screens/SettingsTabButton.h"
 #include "screens/Symbols.h"
 #include "services/LaunchAtLogin.h"
@@ -63,7 +63,7 @@ QLabel *textLabel(const QString &text, int pixelSize, bool bold = false, QWidget
 {
     auto *label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
-    label->setFont(SettingsStyle::withPixelSize(label->font(), pixelSize, bold));
+    label->setFont(Theme::withPixelSize(label->font(), pixelSize, bold));
     return label;
 }
 
@@ -77,7 +77,7 @@ void applyTone(QWidget *widget, const QPalette &window)
     if (tone.isEmpty())
         return;
     QColor color = window.color(QPalette::WindowText);
-    color.setAlphaF(tone == QLatin1String("divider") ? 0.15 : SettingsStyle::secondary(window).alphaF());
+    color.setAlphaF(tone == QLatin1String("divider") ? 0.15 : Theme::secondaryText(window).alphaF());
     QPalette palette = widget->palette();
     palette.setColor(QPalette::WindowText, color);
     widget->setPalette(palette);
@@ -101,9 +101,9 @@ QLabel *linkLabel(const QString &text, const QUrl &url, int pixelSize, QWidget *
     auto *label = new QLabel(parent);
     label->setTextFormat(Qt::RichText);
     label->setText(QStringLiteral("<a href=\"%1\" style=\"color:%2; text-decoration:none;\">%3</a>")
-                       .arg(url.toString(QUrl::FullyEncoded).toHtmlEscaped(), SettingsStyle::accent().name(),
+                       .arg(url.toString(QUrl::FullyEncoded).toHtmlEscaped(), Theme::accent().name(),
                            text.toHtmlEscaped()));
-    label->setFont(SettingsStyle::withPixelSize(label->font(), pixelSize));
+    label->setFont(Theme::withPixelSize(label->font(), pixelSize));
     label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     label->setCursor(Qt::PointingHandCursor);
     label->setToolTip(url.toString());
@@ -294,7 +294,7 @@ QWidget *SettingsView::makeGeneralPage()
         [this](int index) { requestHistoryLimit(m_historyLimitPicker->itemData(index).toLongLong()); });
     m_clearHistoryButton = new QPushButton(tr("Clear History"));
     QPalette red = m_clearHistoryButton->palette();
-    red.setColor(QPalette::ButtonText, SettingsStyle::destructive());
+    red.setColor(QPalette::ButtonText, Theme::destructive());
     m_clearHistoryButton->setPalette(red);
     connect(m_clearHistoryButton, &QPushButton::clicked, this, [this] {
         if (m_viewModel)
@@ -326,7 +326,7 @@ QWidget *SettingsView::makeAboutPage()
 
     auto *symbol = new QLabel;
     symbol->setPixmap(
-        Symbols::pixmap(QStringLiteral("eyedropper"), 48, SettingsStyle::accent(), devicePixelRatioF()));
+        Symbols::pixmap(QStringLiteral("eyedropper"), 48, Theme::accent(), devicePixelRatioF()));
     symbol->setFixedSize(48, 48);
     add(symbol);
     add(textLabel(tr("vantle"), 20, true));
@@ -349,7 +349,7 @@ QWidget *SettingsView::makeAboutPage()
     connect(&m_updaterController, &UpdaterController::canCheckForUpdatesChanged, m_checkForUpdatesButton,
         &QWidget::setEnabled);
     m_automaticDownloadToggle = new QCheckBox(tr("Automatically download updates"));
-    m_automaticDownloadToggle->setFont(SettingsStyle::withPixelSize(m_automaticDownloadToggle->font(), 13));
+    m_automaticDownloadToggle->setFont(Theme::withPixelSize(m_automaticDownloadToggle->font(), 13));
     secondary(m_automaticDownloadToggle);
     m_automaticDownloadToggle->setChecked(m_updaterController.automaticallyDownloadsUpdates());
     connect(m_automaticDownloadToggle, &QCheckBox::clicked, this,

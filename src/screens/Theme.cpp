@@ -12,7 +12,7 @@ bool isDark(const QPalette &palette)
 
 QColor withAlpha(QColor color, qreal alpha)
 {
-    color.setAlphaF(color.alphaF() * alpha);
+    color.setAlphaF(float(color.alphaF() * qBound(0.0, alpha, 1.0)));
     return color;
 }
 
@@ -75,6 +75,13 @@ QFont monospacedFont(int pixelSize, QFont::Weight weight)
     f.setPixelSize(pixelSize);
     f.setWeight(weight);
     return f;
+}
+
+QFont withPixelSize(QFont font, int pixelSize, bool bold)
+{
+    font.setPixelSize(pixelSize);
+    font.setBold(bold);
+    return font;
 }
 
 } // namespace Theme

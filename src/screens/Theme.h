@@ -6,10 +6,11 @@
 
 class QPalette;
 
-// The popup's colours and type styles, mapped onto the desktop theme. Text shades come from the
-// widget's QPalette so light and dark themes both read well; the few fixed hues (the orange
-// accent, the level greens and reds) are chosen here once, a little deeper than pure "system"
-// tones so white text on them stays legible.
+// Every colour and type style of Vantle's screens, in one place. The popup and the settings
+// window map onto the desktop theme: text shades come from the widget's QPalette so light and
+// dark themes both read well; the few fixed hues (the orange accent, the level greens and reds)
+// are chosen here once, a little deeper than pure "system" tones so white text on them stays
+// legible. The welcome window has a fixed dark palette of its own, whatever the theme.
 namespace Theme {
 
 bool isDark(const QPalette &palette);
@@ -28,10 +29,37 @@ QColor red(const QPalette &palette);
 // for anything else.
 QColor levelColor(const QString &level, const QPalette &palette);
 
+// `color` with its opacity multiplied by `alpha` (0...1).
 QColor withAlpha(QColor color, qreal alpha);
+
+// The settings window's accent, the desktop's orange (#FF9500): selected tabs, the About
+// symbol, links.
+inline QColor accent()
+{
+    return QColor(0xFF, 0x95, 0x00);
+}
+
+// Destructive actions ("Clear History").
+inline QColor destructive()
+{
+    return QColor(0xE5, 0x3B, 0x30);
+}
+
+// The welcome window's own colours.
+namespace Welcome {
+inline const QColor background(0x0D, 0x11, 0x17);
+inline const QColor card(0x16, 0x1B, 0x22);
+inline const QColor border(0x30, 0x36, 0x3D);
+inline const QColor text(0xC9, 0xD1, 0xD9);
+inline const QColor mutedText(0x8B, 0x94, 0x9E);
+inline const QColor accent(0xFF, 0x6B, 0x35);
+inline const QColor success(0x34, 0xC7, 0x59);
+} // namespace Welcome
 
 // The system font and the system's fixed-pitch font at a size in logical pixels.
 QFont font(int pixelSize, QFont::Weight weight = QFont::Normal);
 QFont monospacedFont(int pixelSize, QFont::Weight weight = QFont::Normal);
+// `font` at a size in logical pixels, bold or not.
+QFont withPixelSize(QFont font, int pixelSize, bool bold = false);
 
 } // namespace Theme

@@ -57,13 +57,7 @@ pid=$!
 wait_for 20 sh -c "xdotool search --onlyvisible --pid $pid >/dev/null" || sleep 2
 sleep 2
 
-popup() { # "x y w h" of the popup: Vantle's visible window 320 wide
-    local id
-    for id in $(xdotool search --onlyvisible --pid "$pid" 2>/dev/null); do
-        xwininfo -id "$id" | awk '/Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4}
-            /Width:/ {w=$2} /Height:/ {h=$2} END {if (w == 320) print x, y, w, h}'
-    done | head -n1 | grep .
-}
+source "$here/tests/desktop/vantle-windows.sh"
 # shot NAME X Y W H: the part of the screen that shows it, optimised when optipng is there.
 shot() {
     import -window root -crop "$4x$5+$2+$3" +repage "$out/$1.png"
@@ -73,7 +67,7 @@ shot() {
 # The loupe over the picture.
 xdotool mousemove 558 330 # beside the edge of two bands
 xdotool key --delay 80 alt+shift+c
-wait_for 10 xdotool search --onlyvisible --classname '^vantle-loupe$' >/dev/null
+wait_for 10 loupe_shown
 sleep 0.5
 shot loupe 420 230 360 330
 xdotool key Escape
@@ -81,14 +75,14 @@ sleep 0.5
 
 # The popup, under the tray icon.
 xdotool key --delay 80 alt+shift+x
-wait_for 10 popup >/dev/null
+wait_for 10 popup_shown
 sleep 0.7
-read -r x y w h < <(popup)
+read -r x y w h < <(popup_geometry)
 shot popup $((x - 10)) $((y - 10)) $((w + 20)) $((h + 20))
 
 # The detail screen of the first pinned colour ("Ink"): the third row below the button.
 xdotool mousemove $((x + w / 2)) $((y + 142)) click 1
 sleep 0.7
-read -r x y w h < <(popup)
+read -r x y w h < <(popup_geometry)
 shot detail $((x - 10)) $((y - 10)) $((w + 20)) $((h + 20))
 ls -l "$out"

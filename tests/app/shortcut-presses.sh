@@ -29,17 +29,7 @@ fail() {
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
 
 press() { xdotool key --delay 80 "$1"; } # a person's press: each key held 80 ms
-loupe_shown() { xdotool search --onlyvisible --classname '^vantle-loupe$' >/dev/null 2>&1; }
-loupe_hidden() { ! loupe_shown; }
-popup_geometry() { # "x y w h" of the popup: Vantle's visible window 320 wide
-    local id
-    for id in $(xdotool search --onlyvisible --pid "$pid" 2>/dev/null); do
-        xwininfo -id "$id" | awk '/Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4}
-            /Width:/ {w=$2} /Height:/ {h=$2} END {if (w == 320) print x, y, w, h}'
-    done | head -n1 | grep .
-}
-popup_shown() { popup_geometry >/dev/null; }
-popup_hidden() { ! popup_shown; }
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
 clipboard_is() { [[ $(xclip -o -selection clipboard 2>/dev/null) == "$1" ]]; }
 
 "$vantle" &

@@ -34,21 +34,9 @@ fail() { echo "FAIL: $*" >&2; exit 1; }
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
 shot() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/$1.png" || true; }
 
-# "id width height x y" for each mapped window of Vantle's.
-windows() {
-    local id
-    for id in $(xdotool search --onlyvisible --pid "$pid" 2>/dev/null); do
-        xwininfo -id "$id" | awk -v id="$id" '
-            /Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4}
-            /Width:/ {w=$2} /Height:/ {h=$2} END {print id, w, h, x, y}'
-    done
-}
-popup_shown() { windows | awk '$2 == 320 {found=1} END {exit !found}'; }
-popup_hidden() { ! popup_shown; }
-# The loupe: Vantle's small window beside the pointer. Its grabs follow the map at once; the
-# short pause after it leaves them time on a slow (sanitizer) build.
-loupe_shown() { xdotool search --onlyvisible --classname '^vantle-loupe$' >/dev/null 2>&1; }
-loupe_hidden() { ! loupe_shown; }
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
+# The loupe's grabs follow its map at once; the short pause leaves them time on a slow
+# (sanitizer) build.
 wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; sleep 0.5; }
 # Vantle processes on this test's display (other tests may run their own).
 vantles_here() {
@@ -110,7 +98,7 @@ xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
 wait_for 10 popup_shown || fail "a click on the tray icon did not open the popup"
 shot popup
 # Below the icon of the top panel, whole on the screen.
-read -r _ _ popup_h _ popup_y < <(windows | awk '$2 == 320' | head -n1)
+read -r _ popup_y _ popup_h < <(popup_geometry)
 screen_h=$(xdpyinfo | awk '/dimensions:/ {split($2, d, "x"); print d[2]}')
 ((popup_y >= icon_y + icon_h && popup_y + popup_h <= screen_h)) \
     || fail "the popup (y $popup_y, $popup_h tall) is not between the tray icon (y $icon_y) and the screen's bottom"

@@ -1,0 +1,17 @@
+# Sourced by the scripts that drive Vantle on an X desktop; $pid is the running Vantle.
+# windows: "id width height x y" for each mapped window of Vantle's.
+windows() {
+    local id
+    for id in $(xdotool search --onlyvisible --pid "$pid" 2>/dev/null); do
+        xwininfo -id "$id" | awk -v id="$id" '
+            /Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4}
+            /Width:/ {w=$2} /Height:/ {h=$2} END {print id, w, h, x, y}'
+    done
+}
+# popup_geometry: "x y width height" of the popup (Vantle's window 320 wide), or fails.
+popup_geometry() { windows | awk '$2 == 320 {print $4, $5, $2, $3; found=1; exit} END {exit !found}'; }
+popup_shown() { popup_geometry >/dev/null; }
+popup_hidden() { ! popup_shown; }
+# The loupe: Vantle's small window beside the pointer.
+loupe_shown() { xdotool search --onlyvisible --classname '^vantle-loupe$' >/dev/null 2>&1; }
+loupe_hidden() { ! loupe_shown; }

@@ -2,19 +2,16 @@
 
 #include "hotkeys/KeyCodes.h"
 
+#include "platform/portal/PortalRequest.h"
+#include "platform/portal/PortalSignals.h"
+
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusMetaType>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QRandomGenerator>
 
 namespace {
 
-const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString shortcutsInterface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
-const QString requestInterface = QStringLiteral("org.freedesktop.portal.Request");
 const QString sessionInterface = QStringLiteral("org.freedesktop.portal.Session");
 
 struct PortalShortcut {
@@ -48,14 +45,10 @@ PortalShortcutBackend::PortalShortcutBackend(const QDBusConnection &bus, QObject
 {
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<QList<PortalShortcut>>();
-    // QtDBus looks the slot's parameter types up by name, and Qt registers a type's name only when
-    // its id is first asked for: until something has used QDBusObjectPath, the subscription below
-    // fails (returns false) and no press would ever arrive.
-    qRegisterMetaType<QDBusObjectPath>();
-    m_bus.connect(portalService, portalPath, shortcutsInterface, QStringLiteral("Activated"), this,
-        SLOT(onActivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
-    m_bus.connect(portalService, portalPath, shortcutsInterface, QStringLiteral("Deactivated"), this,
-        SLOT(onDeactivated(QDBusObjectPath, QString, qulonglong, QVariantMap)));
+    auto *shortcutSignals = new PortalShortcutSignals(m_bus, this);
+    connect(shortcutSignals, &PortalShortcutSignals::Activated, this, &PortalShortcutBackend::onActivated);
+    connect(
+        shortcutSignals, &PortalShortcutSignals::Deactivated, this, &PortalShortcutBackend::onDeactivated);
 }
 
 PortalShortcutBackend::~PortalShortcutBackend()
@@ -64,21 +57,6 @@ PortalShortcutBackend::~PortalShortcutBackend()
         m_bus.asyncCall(QDBusMessage::createMethodCall(
             portalService, m_sessionHandle, sessionInterface, QStringLiteral("Close")));
     }
-}
-
-QString PortalShortcutBackend::nextToken()
-{
-    return QStringLiteral("vantle_%1_%2")
-        .arg(QRandomGenerator::global()->generate())
-        .arg(++m_tokenCounter);
-}
-
-QString PortalShortcutBackend::requestPath(const QString &token) const
-{
-    // The portal builds the Request path from our unique name (":1.42" → "1_42") and the token.
-    QString sender = m_bus.baseService().mid(1);
-    sender.replace(QLatin1Char('.'), QLatin1Char('_'));
-    return portalPath + QStringLiteral("/request/") + sender + QLatin1Char('/') + token;
 }
 
 void PortalShortcutBackend::registerShortcut(const GlobalShortcut &shortcut)
@@ -120,53 +98,23 @@ void PortalShortcutBackend::scheduleBind()
 void PortalShortcutBackend::createSession()
 {
     m_state = State::Creating;
-    const QString token = nextToken();
-    m_pendingRequest = requestPath(token);
-    m_bus.connect(portalService, m_pendingRequest, requestInterface, QStringLiteral("Response"), this,
-        SLOT(onCreateSessionResponse(uint, QVariantMap)));
-
-    QDBusMessage call = QDBusMessage::createMethodCall(
+    const QDBusMessage call = QDBusMessage::createMethodCall(
         portalService, portalPath, shortcutsInterface, QStringLiteral("CreateSession"));
-    call << QVariantMap{{QStringLiteral("handle_token"), token},
-        {QStringLiteral("session_handle_token"), nextToken()}};
-    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *w) {
-        w->deleteLater();
-        const QDBusPendingReply<QDBusObjectPath> reply = *w;
-        if (reply.isError()) {
-            // No portal, or one without GlobalShortcuts: stay quiet and register nothing.
-            m_bus.disconnect(portalService, m_pendingRequest, requestInterface, QStringLiteral("Response"), this,
-                SLOT(onCreateSessionResponse(uint, QVariantMap)));
+    const QVariantMap options { { QStringLiteral("session_handle_token"), PortalRequest::newToken() } };
+    PortalRequest::send(m_bus, call, options, this, [this](const PortalRequest::Result &result) {
+        // The handle comes back as a string, although it names an object.
+        const QVariant handle = result.results.value(QStringLiteral("session_handle"));
+        if (result.response != PortalRequest::Response::success || !handle.isValid()) {
+            // No portal, one without GlobalShortcuts, or a refusal: stay quiet and register nothing.
             m_state = State::Unavailable;
             return;
         }
-        const QString handle = reply.value().path();
-        if (handle != m_pendingRequest && m_state == State::Creating) {
-            // Older portals pick their own path: follow it.
-            m_bus.disconnect(portalService, m_pendingRequest, requestInterface, QStringLiteral("Response"), this,
-                SLOT(onCreateSessionResponse(uint, QVariantMap)));
-            m_pendingRequest = handle;
-            m_bus.connect(portalService, handle, requestInterface, QStringLiteral("Response"), this,
-                SLOT(onCreateSessionResponse(uint, QVariantMap)));
-        }
+        m_sessionHandle = handle.userType() == qMetaTypeId<QDBusObjectPath>()
+            ? handle.value<QDBusObjectPath>().path()
+            : handle.toString();
+        m_state = State::Ready;
+        bind();
     });
-}
-
-void PortalShortcutBackend::onCreateSessionResponse(uint response, const QVariantMap &results)
-{
-    m_bus.disconnect(portalService, m_pendingRequest, requestInterface, QStringLiteral("Response"), this,
-        SLOT(onCreateSessionResponse(uint, QVariantMap)));
-    m_pendingRequest.clear();
-    // The handle comes back as a string, although it names an object.
-    const QVariant handle = results.value(QStringLiteral("session_handle"));
-    if (response != 0 || !handle.isValid()) {
-        m_state = State::Unavailable;
-        return;
-    }
-    m_sessionHandle = handle.userType() == qMetaTypeId<QDBusObjectPath>() ? handle.value<QDBusObjectPath>().path()
-                                                                          : handle.toString();
-    m_state = State::Ready;
-    bind();
 }
 
 void PortalShortcutBackend::bind()
@@ -182,27 +130,13 @@ void PortalShortcutBackend::bind()
         shortcuts << PortalShortcut{shortcut.name, properties};
     }
 
-    const QString token = nextToken();
-    const QString request = requestPath(token);
-    m_bus.connect(portalService, request, requestInterface, QStringLiteral("Response"), this,
-        SLOT(onBindResponse(uint, QVariantMap)));
-    m_bindRequests << request;
     QDBusMessage call = QDBusMessage::createMethodCall(
         portalService, portalPath, shortcutsInterface, QStringLiteral("BindShortcuts"));
     call << QVariant::fromValue(QDBusObjectPath(m_sessionHandle)) << QVariant::fromValue(shortcuts)
-         << QString() << QVariantMap{{QStringLiteral("handle_token"), token}};
-    m_bus.asyncCall(call);
-    m_isBound = true;
-}
-
-void PortalShortcutBackend::onBindResponse(uint, const QVariantMap &)
-{
+         << QString();
     // What the desktop finally bound is its business; presses arrive as Activated either way.
-    // Responses come in the order of the calls: drop the oldest subscription.
-    if (!m_bindRequests.isEmpty()) {
-        m_bus.disconnect(portalService, m_bindRequests.takeFirst(), requestInterface, QStringLiteral("Response"),
-            this, SLOT(onBindResponse(uint, QVariantMap)));
-    }
+    PortalRequest::send(m_bus, call, {}, this, [](const PortalRequest::Result &) {});
+    m_isBound = true;
 }
 
 void PortalShortcutBackend::onActivated(

@@ -1,4 +1,4 @@
-#include "platform/PortalScreenSampler.h"
+#include "platform/portal/PortalScreenSampler.h"
 #include "FakeScreenshotPortal.h"
 #include "platform/portal/PortalRequest.h"
 

@@ -1,4 +1,4 @@
-#include "platform/AppearanceMonitor.h"
+#include "platform/portal/AppearanceMonitor.h"
 
 #include "platform/portal/PortalSignals.h"
 
@@ -39,8 +39,8 @@ AppearanceMonitor::AppearanceMonitor(QObject *parent)
         return;
     connect(new PortalSettingsSignals(bus, this), &PortalSettingsSignals::SettingChanged, this,
         &AppearanceMonitor::onSettingChanged);
-    QDBusMessage read = QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface,
-                                                       QStringLiteral("Read"));
+    QDBusMessage read = QDBusMessage::createMethodCall(
+        portalService, portalPath, settingsInterface, QStringLiteral("Read"));
     read << appearanceNamespace << colorSchemeKey;
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *call) {
@@ -67,7 +67,8 @@ bool AppearanceMonitor::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-void AppearanceMonitor::onSettingChanged(const QString &nameSpace, const QString &key, const QDBusVariant &value)
+void AppearanceMonitor::onSettingChanged(
+    const QString &nameSpace, const QString &key, const QDBusVariant &value)
 {
     if (nameSpace == appearanceNamespace && key == colorSchemeKey)
         setPortalScheme(schemeFrom(QVariant::fromValue(value)));

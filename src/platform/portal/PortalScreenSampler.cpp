@@ -1,4 +1,4 @@
-#include "platform/PortalScreenSampler.h"
+#include "platform/portal/PortalScreenSampler.h"
 
 #include "platform/portal/PortalRequest.h"
 #include "platform/portal/PortalSignals.h"
@@ -39,7 +39,8 @@ PortalScreenSampler::~PortalScreenSampler()
 void PortalScreenSampler::pick(ColorFormat, Completion completion)
 {
     if (m_isPicking || !m_bus.isConnected()) {
-        QMetaObject::invokeMethod(this, [c = std::move(completion)] { c(std::nullopt); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [c = std::move(completion)] { c(std::nullopt); }, Qt::QueuedConnection);
         return;
     }
     m_isPicking = true;

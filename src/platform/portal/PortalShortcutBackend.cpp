@@ -1,4 +1,4 @@
-#include "platform/PortalShortcutBackend.h"
+#include "platform/portal/PortalShortcutBackend.h"
 
 #include "hotkeys/KeyCodes.h"
 
@@ -123,11 +123,11 @@ void PortalShortcutBackend::bind()
         return;
     QList<PortalShortcut> shortcuts;
     for (const GlobalShortcut &shortcut : std::as_const(m_shortcuts)) {
-        QVariantMap properties{{QStringLiteral("description"), shortcut.description}};
+        QVariantMap properties { { QStringLiteral("description"), shortcut.description } };
         const QString trigger = KeyCodes::portalTrigger(shortcut.keyCode, shortcut.modifiers);
         if (!trigger.isEmpty())
             properties.insert(QStringLiteral("preferred_trigger"), trigger);
-        shortcuts << PortalShortcut{shortcut.name, properties};
+        shortcuts << PortalShortcut { shortcut.name, properties };
     }
 
     QDBusMessage call = QDBusMessage::createMethodCall(

@@ -129,7 +129,7 @@ int main(int argc, char **argv)
         FirstPaint watcher;
         QElapsedTimer clock;
         clock.start();
-        auto window = std::make_unique<PopupWindow>();
+        auto window = std::make_unique<PopupWindow>(false);
         window->installEventFilter(&watcher);
         window->setContent([&] {
             return new ColorListView(

@@ -6,7 +6,7 @@
 //     move until the new frame has left for the server and the server has answered a round trip.
 // Records each measure's runs through BenchOutput.h.
 #include "BenchOutput.h"
-#include "platform/X11ScreenSampler.h"
+#include "platform/x11/X11ScreenSampler.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -5,8 +5,8 @@
 #include "app/TrayHost.h"
 #include "history/ColorListViewModel.h"
 #include "hotkeys/HotkeyManager.h"
-#include "platform/AppearanceMonitor.h"
 #include "platform/WindowCompositing.h"
+#include "platform/portal/AppearanceMonitor.h"
 #include "screens/ColorListView.h"
 #include "screens/OnboardingWindow.h"
 #include "screens/SettingsWindow.h"
@@ -64,7 +64,7 @@ void AppDelegate::applicationDidFinishLaunching()
     m_trayHost->waitForHost(trayHostWaitMs);
 
     // 4. The popup and its content.
-    m_popover = std::make_unique<PopupWindow>();
+    m_popover = std::make_unique<PopupWindow>(m_facilities.isWayland);
     refreshPopoverContent();
 
     // 5. Shortcuts: each reaction runs just after its signal, on the main thread.

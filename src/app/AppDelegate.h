@@ -43,6 +43,8 @@ public:
         AppearanceMonitor &appearance;
         QNetworkAccessManager &network;
         UpdateUserInterface &updateInterface;
+        // Qt's windows are Wayland surfaces, which the compositor places.
+        bool isWayland;
     };
 
     explicit AppDelegate(Facilities facilities, QObject *parent = nullptr);

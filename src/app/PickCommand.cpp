@@ -1,6 +1,6 @@
 #include "app/ColorArgument.h"
 #include "app/CommandLine.h"
-#include "platform/ScreenSamplerFactory.h"
+#include "platform/PlatformBackends.h"
 #include "services/SettingsViewModel.h"
 
 #include <QCoreApplication>
@@ -38,7 +38,7 @@ int runPickPrintCommand(const QStringList &args, CommandContext &context)
         }
     }
 
-    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler();
+    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(DesktopSession::current());
     int status = ExitStatus::failure;
     // The loupe's label already says what will be printed.
     sampler->pick(format.value_or(SettingsViewModel::currentFormat(context.store)), [&](std::optional<SampledColor> color) {

@@ -16,15 +16,11 @@ constexpr qint64 outsideClickWindowMs = 350;
 // Between the tray icon and the popup.
 constexpr int gapToAnchor = 4;
 
-bool isWayland()
-{
-    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
 } // namespace
 
-PopupWindow::PopupWindow(QWidget *parent)
+PopupWindow::PopupWindow(bool isWayland, QWidget *parent)
     : QWidget(parent)
+    , m_isWayland(isWayland)
 {
     setStandalone(false);
     auto *layout = new QVBoxLayout(this);
@@ -40,7 +36,7 @@ void PopupWindow::setStandalone(bool standalone)
     if (standalone) {
         setWindowFlags(Qt::Window | Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint);
         setWindowTitle(QStringLiteral("Vantle"));
-    } else if (isWayland()) {
+    } else if (m_isWayland) {
         // A Wayland popup needs a parent surface a tray program does not have: a frameless
         // tool window that closes when it loses activation does the same job.
         setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
@@ -217,7 +213,7 @@ void PopupWindow::resizeEvent(QResizeEvent *event)
 
 bool PopupWindow::event(QEvent *event)
 {
-    if (event->type() == QEvent::WindowDeactivate && !m_standalone && isWayland())
+    if (event->type() == QEvent::WindowDeactivate && !m_standalone && m_isWayland)
         hide();
     return QWidget::event(event);
 }

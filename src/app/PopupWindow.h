@@ -13,7 +13,9 @@
 class PopupWindow : public QWidget {
     Q_OBJECT
 public:
-    explicit PopupWindow(QWidget *parent = nullptr);
+    // `isWayland`: the compositor places windows and a popup needs a parent surface, so the
+    // popup is a tool window that closes when it loses activation.
+    explicit PopupWindow(bool isWayland, QWidget *parent = nullptr);
 
     // Replaces the hosted content (the previous one is deleted). `makeContent` runs when the
     // content is first needed: the window opening, or at once if it is open. Until the user
@@ -58,6 +60,7 @@ protected:
 private:
     void ensureContent();
 
+    const bool m_isWayland;
     std::function<QWidget *()> m_makeContent;
     QPointer<QWidget> m_content;
     bool m_standalone = false;

@@ -4,13 +4,10 @@
 #include "app/InstanceClient.h"
 #include "app/InstanceServer.h"
 #include "history/CopyHud.h"
-#include "platform/WindowCompositing.h"
 #include "history/FileExportDialogs.h"
-#include "hotkeys/GlobalShortcutBackend.h"
-#include "platform/AppearanceMonitor.h"
-#include "platform/GlobalShortcutBackendChooser.h"
-#include "platform/ClipboardFactory.h"
-#include "platform/ScreenSamplerFactory.h"
+#include "platform/PlatformBackends.h"
+#include "platform/WindowCompositing.h"
+#include "platform/portal/AppearanceMonitor.h"
 #include "screens/DialogUpdateInterface.h"
 #include "services/SettingsStore.h"
 #include "services/XdgAutostartService.h"
@@ -80,20 +77,21 @@ int runTrayApplication()
     QThreadPool::globalInstance()->setExpiryTimeout(-1);
 
     // The facilities, each chosen once for this session, then the delegate that uses them.
+    const DesktopSession session = DesktopSession::current();
     SettingsStore store(SettingsStore::standardFilePath());
-    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler();
-    std::unique_ptr<Clipboard> clipboard = makeClipboard();
-    CopyHud confirmation(desktopShowsTranslucentWindows);
+    std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(session);
+    std::unique_ptr<Clipboard> clipboard = makeClipboard(session);
+    CopyHud confirmation(desktopShowsTranslucentWindows, session.isX11());
     FileExportDialogs exportDialogs;
-    std::unique_ptr<GlobalShortcutBackend> shortcuts = createGlobalShortcutBackend();
+    std::unique_ptr<GlobalShortcutBackend> shortcuts = makeGlobalShortcutBackend(session);
     XdgAutostartService loginItems(XdgAutostartService::standardEntryPath(),
                                    XdgAutostartService::runningProgramPath());
     AppearanceMonitor appearance;
     QNetworkAccessManager network;
     DialogUpdateInterface updateInterface;
 
-    AppDelegate delegate({store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
-                          appearance, network, updateInterface});
+    AppDelegate delegate({ store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
+        appearance, network, updateInterface, session.isWayland() });
     QObject::connect(instance.get(), &InstanceServer::pickRequested, &delegate, &AppDelegate::pickColor,
                      Qt::QueuedConnection);
     QObject::connect(instance.get(), &InstanceServer::togglePopoverRequested, &delegate,

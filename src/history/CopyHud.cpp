@@ -33,8 +33,8 @@ QFont capsuleFont()
 // the rounded ends leave free, as a darker rim below the curve.
 class CapsuleWindow : public QWidget {
 public:
-    CapsuleWindow(const QString &message, bool isCutToShape)
-        : QWidget(nullptr, windowFlagsForPlatform())
+    CapsuleWindow(const QString &message, bool isCutToShape, bool placesWindowsAsAsked)
+        : QWidget(nullptr, flagsFor(placesWindowsAsAsked))
         , m_message(message)
     {
         setAttribute(Qt::WA_TranslucentBackground);
@@ -92,14 +92,14 @@ protected:
     }
 
 private:
-    static Qt::WindowFlags windowFlagsForPlatform()
+    static Qt::WindowFlags flagsFor(bool placesWindowsAsAsked)
     {
         const Qt::WindowFlags common = Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint
             | Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput | Qt::NoDropShadowWindowHint;
         // On X11 a tooltip window is placed exactly where asked, above everything, and no
         // window manager gives it focus or a taskbar entry. Wayland has no unparented
         // tooltips: there it is a tool window, placed by the compositor.
-        if (QGuiApplication::platformName() == u"xcb")
+        if (placesWindowsAsAsked)
             return common | Qt::ToolTip;
         return common | Qt::Tool;
     }
@@ -109,8 +109,9 @@ private:
 
 } // namespace
 
-CopyHud::CopyHud(std::function<bool()> showsTranslucentWindows, QObject *parent)
+CopyHud::CopyHud(std::function<bool()> showsTranslucentWindows, bool placesWindowsAsAsked, QObject *parent)
     : QObject(parent)
+    , m_placesWindowsAsAsked(placesWindowsAsAsked)
     , m_showsTranslucentWindows(std::move(showsTranslucentWindows))
 {
     m_dismissal.setSingleShot(true);
@@ -157,7 +158,7 @@ void CopyHud::showHUD(const QString &message)
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return;
 
-    auto *window = new CapsuleWindow(message, !m_showsTranslucentWindows());
+    auto *window = new CapsuleWindow(message, !m_showsTranslucentWindows(), m_placesWindowsAsAsked);
     QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
     if (!screen)
         screen = QGuiApplication::primaryScreen();

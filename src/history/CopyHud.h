@@ -21,8 +21,10 @@ class CopyHud : public QObject, public CopyConfirmation {
     Q_OBJECT
 public:
     // `showsTranslucentWindows` answers, at each message, whether the desktop composites:
-    // without that, the capsule's window is cut to its shape instead.
-    explicit CopyHud(std::function<bool()> showsTranslucentWindows, QObject *parent = nullptr);
+    // without that, the capsule's window is cut to its shape instead. `placesWindowsAsAsked`:
+    // whether the windowing system puts an unparented window exactly where asked (X11).
+    CopyHud(
+        std::function<bool()> showsTranslucentWindows, bool placesWindowsAsAsked, QObject *parent = nullptr);
     ~CopyHud() override;
 
     void showHUD(const QString &message) override;
@@ -37,6 +39,8 @@ public:
 
 private:
     void dismiss();
+
+    bool m_placesWindowsAsAsked;
 
     std::function<bool()> m_showsTranslucentWindows;
     QPointer<QWidget> m_current;

@@ -4,16 +4,17 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
+QtClipboard::QtClipboard(bool isFocusRequired)
+    : m_isFocusRequired(isFocusRequired)
+{
+}
+
 bool QtClipboard::setText(const QString &text)
 {
     if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         return false;
-    // A Wayland compositor takes the selection through the core protocol only with the serial of
-    // a recent input event on a focused surface of ours, and drops it silently otherwise, while
-    // Qt still reports owning it (measured on sway 1.7; mutter behaves the same). Without focus
-    // the copy cannot happen: say so rather than claim it.
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))
-        && !QGuiApplication::focusWindow())
+    // Without the focus it needs the copy cannot happen: say so rather than claim it.
+    if (m_isFocusRequired && !QGuiApplication::focusWindow())
         return false;
     QClipboard *clipboard = QGuiApplication::clipboard();
     clipboard->setText(text, QClipboard::Clipboard);

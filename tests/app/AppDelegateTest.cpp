@@ -1,9 +1,10 @@
 // The launch sequence and the reactions of the tray program, with the desktop's facilities
 // played by fakes (offscreen: no tray host, so the delegate stays in its waiting state).
 #include "app/AppDelegate.h"
+#include "../hotkeys/FakeShortcutBackend.h"
 #include "app/PopupWindow.h"
 #include "history/ColorListViewModel.h"
-#include "platform/AppearanceMonitor.h"
+#include "platform/portal/AppearanceMonitor.h"
 #include "screens/DialogUpdateInterface.h"
 #include "screens/OnboardingWindow.h"
 #include "screens/SettingsView.h"
@@ -12,7 +13,6 @@
 #include "services/XdgAutostartService.h"
 #include "support/HistoryFakes.h"
 #include "support/TempSettings.h"
-#include "../hotkeys/FakeShortcutBackend.h"
 
 #include <QNetworkAccessManager>
 #include <QTest>
@@ -26,9 +26,9 @@ class AppDelegateTest : public ::testing::Test {
 protected:
     void launch()
     {
-        delegate = std::make_unique<AppDelegate>(AppDelegate::Facilities {
-            *settings.store, sampler, clipboard, confirmation, exportDialogs, shortcuts, loginItems, appearance,
-            network, updateInterface });
+        delegate = std::make_unique<AppDelegate>(
+            AppDelegate::Facilities { *settings.store, sampler, clipboard, confirmation, exportDialogs,
+                shortcuts, loginItems, appearance, network, updateInterface, false });
         delegate->applicationDidFinishLaunching();
     }
     QStringList registrations() const { return shortcuts.calls.filter(QStringLiteral("register")); }

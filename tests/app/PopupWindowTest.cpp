@@ -55,7 +55,7 @@ TEST(PopupWindowContent, IsBuiltWhenThePopupFirstOpens)
 {
     // Building the list loads fonts and every row: a resident tray program pays for it only
     // once the user opens the popup.
-    PopupWindow popup;
+    PopupWindow popup(false);
     int built = 0;
     QPointer<QWidget> first;
     popup.setContent([&]() -> QWidget * {

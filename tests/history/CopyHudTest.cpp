@@ -52,7 +52,7 @@ QRect expectedGeometry(const QString &message)
 class CopyHudTest : public ::testing::Test {
 protected:
     void SetUp() override { QCursor::setPos(QGuiApplication::primaryScreen()->geometry().center()); }
-    CopyHud hud{[] { return true; }};
+    CopyHud hud { [] { return true; }, onX11() };
 };
 
 TEST(CopyHudGeometry, CentredOnTheUsableAreaAHundredPixelsAboveItsMiddle)

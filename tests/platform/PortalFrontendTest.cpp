@@ -2,8 +2,8 @@
 // it, all on a private session bus (the test runs under dbus-run-session).
 #include "TestPortalBackend.h"
 #include "hotkeys/HotkeyManager.h"
-#include "platform/PortalScreenSampler.h"
-#include "platform/PortalShortcutBackend.h"
+#include "platform/portal/PortalScreenSampler.h"
+#include "platform/portal/PortalShortcutBackend.h"
 #include "services/PreferenceKeys.h"
 #include "support/TempSettings.h"
 

@@ -1,5 +1,6 @@
+#include "platform/portal/PortalScreenSampler.h"
 #include "FakeScreenshotPortal.h"
-#include "platform/PortalScreenSampler.h"
+#include "platform/portal/PortalRequest.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -32,10 +33,10 @@ PickOutcome pickOnce(PortalScreenSampler &sampler)
 
 } // namespace
 
-TEST(PortalScreenSampler, RequestPathFromUniqueNameAndToken)
+TEST(PortalRequest, HandlePathFromUniqueNameAndToken)
 {
-    EXPECT_EQ(PortalScreenSampler::requestPath(QStringLiteral(":1.42"), QStringLiteral("vantle_1_7")),
-              u"/org/freedesktop/portal/desktop/request/1_42/vantle_1_7");
+    EXPECT_EQ(PortalRequest::handlePath(QStringLiteral(":1.42"), QStringLiteral("vantle_1_7")),
+        u"/org/freedesktop/portal/desktop/request/1_42/vantle_1_7");
 }
 
 TEST(PortalScreenSampler, AnswersOfThePortal)

@@ -21,7 +21,7 @@ QString readWithXclip(const char *selection)
 TEST(QtClipboard, ReplacesTheClipboardTextOnly)
 {
     QGuiApplication::clipboard()->setText(QStringLiteral("selection sentinel"), QClipboard::Selection);
-    QtClipboard clipboard;
+    QtClipboard clipboard(false);
     for (const QString &text : {QStringLiteral("#FF6B36"), QStringLiteral("Color(red: 1.00, green: 0.42, blue: 0.21)")}) {
         EXPECT_TRUE(clipboard.setText(text));
         EXPECT_EQ(QGuiApplication::clipboard()->text(QClipboard::Clipboard), text);

@@ -10,8 +10,8 @@
 //                                                for hotspot (HX, HY) over the pattern, every cell
 //                                                the magnified pattern pixel (beyond the screen:
 //                                                black); otherwise prints what differs
-#include "platform/SamplerGeometry.h"
-#include "platform/SamplerLoupe.h"
+#include "platform/x11/SamplerGeometry.h"
+#include "platform/x11/SamplerLoupe.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

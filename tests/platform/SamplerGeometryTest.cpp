@@ -1,4 +1,4 @@
-#include "platform/SamplerGeometry.h"
+#include "platform/x11/SamplerGeometry.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "platform/SamplerGeometry.h"
-#include "platform/SamplerLoupe.h"
+#include "platform/x11/SamplerLoupe.h"
+#include "platform/x11/SamplerGeometry.h"
 
 #include <gtest/gtest.h>
 

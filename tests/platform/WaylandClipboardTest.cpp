@@ -1,9 +1,9 @@
 // The data-control clipboard on a real compositor: headless sway, where no surface ever has
 // keyboard focus (no input devices), exactly like a tray program after a global shortcut. Runs
 // inside tests/desktop/sway-session.sh; wl-paste is the other program reading what we copied.
-#include "platform/ClipboardFactory.h"
+#include "platform/PlatformBackends.h"
 #include "platform/QtClipboard.h"
-#include "platform/WaylandDataControlClipboard.h"
+#include "platform/wayland/WaylandDataControlClipboard.h"
 
 #include <QAbstractEventDispatcher>
 #include <QProcess>
@@ -110,13 +110,13 @@ TEST(WaylandClipboardChoice, TheProgramCopiesThroughDataControl)
 {
     if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         GTEST_SKIP() << "needs a Wayland compositor (run inside tests/desktop/sway-session.sh)";
-    std::unique_ptr<Clipboard> chosen = makeClipboard();
+    std::unique_ptr<Clipboard> chosen = makeClipboard(DesktopSession::current());
     ASSERT_TRUE(dynamic_cast<WaylandDataControlClipboard *>(chosen.get()));
     ASSERT_TRUE(chosen->setText(QStringLiteral("#FF8000")));
     EXPECT_EQ(paste(), "#FF8000");
 
     qputenv("VANTLE_CLIPBOARD", "qt");
-    EXPECT_TRUE(dynamic_cast<QtClipboard *>(makeClipboard().get()));
+    EXPECT_TRUE(dynamic_cast<QtClipboard *>(makeClipboard(DesktopSession::current()).get()));
     qunsetenv("VANTLE_CLIPBOARD");
 }
 
@@ -124,7 +124,7 @@ TEST_F(WaylandClipboard, QClipboardWithoutFocusNeverClaimsACopy)
 {
     // Qt reports owning the selection even when the compositor dropped it for want of focus.
     ASSERT_TRUE(clipboard->setText(QStringLiteral("before")));
-    QtClipboard qt;
+    QtClipboard qt(DesktopSession::current().isWayland());
     EXPECT_FALSE(qt.setText(QStringLiteral("#FF8000")));
     EXPECT_EQ(paste(), "before");
 }

@@ -1,6 +1,6 @@
 // Global shortcuts on a real X server (run inside tests/desktop/x11-session.sh): real grabs,
 // real key presses from xdotool through the XTest extension.
-#include "platform/XcbShortcutBackend.h"
+#include "platform/x11/XcbShortcutBackend.h"
 #include "hotkeys/HotkeyManager.h"
 #include "hotkeys/KeyCodes.h"
 #include "services/PreferenceKeys.h"

@@ -1,4 +1,4 @@
-#include "platform/SamplerGeometry.h"
+#include "platform/x11/SamplerGeometry.h"
 
 #include <algorithm>
 #include <array>
@@ -12,7 +12,7 @@ namespace {
 // of dividing and multiplying back a whole number by it.
 constexpr double tolerance = 1e-3;
 
-constexpr std::array<int, 10> zoomSteps = {4, 6, 8, 10, 12, 16, 20, 24, 28, 32};
+constexpr std::array<int, 10> zoomSteps = { 4, 6, 8, 10, 12, 16, 20, 24, 28, 32 };
 static_assert(zoomSteps.front() == minimumZoom && zoomSteps.back() == maximumZoom);
 
 } // namespace
@@ -20,8 +20,8 @@ static_assert(zoomSteps.front() == minimumZoom && zoomSteps.back() == maximumZoo
 ScreenArea screenArea(const QRect &logicalGeometry, double scale)
 {
     const QSize deviceSize(int(std::lround(logicalGeometry.width() * scale)),
-                           int(std::lround(logicalGeometry.height() * scale)));
-    return {logicalGeometry, QRect(logicalGeometry.topLeft(), deviceSize), scale};
+        int(std::lround(logicalGeometry.height() * scale)));
+    return { logicalGeometry, QRect(logicalGeometry.topLeft(), deviceSize), scale };
 }
 
 QPoint deviceFromLocalLogical(const ScreenArea &screen, const QPointF &local)
@@ -29,7 +29,7 @@ QPoint deviceFromLocalLogical(const ScreenArea &screen, const QPointF &local)
     const int x = int(std::floor(local.x() * screen.scale + tolerance));
     const int y = int(std::floor(local.y() * screen.scale + tolerance));
     const QRect &d = screen.device;
-    return {std::clamp(d.left() + x, d.left(), d.right()), std::clamp(d.top() + y, d.top(), d.bottom())};
+    return { std::clamp(d.left() + x, d.left(), d.right()), std::clamp(d.top() + y, d.top(), d.bottom()) };
 }
 
 QPointF logicalFromDevice(const ScreenArea &screen, const QPoint &device)
@@ -55,7 +55,7 @@ QPoint nudged(const QList<ScreenArea> &screens, const QPoint &hotspot, int dx, i
     if (!current)
         return hotspot;
     const QRect &d = screens[*current].device;
-    return {std::clamp(target.x(), d.left(), d.right()), std::clamp(target.y(), d.top(), d.bottom())};
+    return { std::clamp(target.x(), d.left(), d.right()), std::clamp(target.y(), d.top(), d.bottom()) };
 }
 
 int zoomedIn(int zoom)
@@ -86,7 +86,7 @@ QRect loupePlacement(const QRect &screenDevice, const QPoint &hotspot, const QSi
         y = hotspot.y() - gap - box.height();
     x = std::max(screenDevice.left(), std::min(x, screenDevice.right() + 1 - box.width()));
     y = std::max(screenDevice.top(), std::min(y, screenDevice.bottom() + 1 - box.height()));
-    return {QPoint(x, y), box};
+    return { QPoint(x, y), box };
 }
 
 std::optional<Rgb> sampleAt(const QImage &image, const QPoint &imageOrigin, const QPoint &device)
@@ -95,7 +95,7 @@ std::optional<Rgb> sampleAt(const QImage &image, const QPoint &imageOrigin, cons
     if (!image.rect().contains(p))
         return std::nullopt;
     const QRgb pixel = image.pixel(p);
-    return Rgb{qRed(pixel) / 255.0, qGreen(pixel) / 255.0, qBlue(pixel) / 255.0};
+    return Rgb { qRed(pixel) / 255.0, qGreen(pixel) / 255.0, qBlue(pixel) / 255.0 };
 }
 
 } // namespace SamplerGeometry

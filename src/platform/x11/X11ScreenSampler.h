@@ -1,7 +1,7 @@
 #pragma once
 
 #include "history/ScreenColorSampler.h"
-#include "platform/SamplerGeometry.h"
+#include "platform/x11/SamplerGeometry.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QImage>

@@ -15,9 +15,8 @@
 // decides the real trigger (it may ask the user), so a press arrives as `Activated` for our
 // session and shortcut id.
 //
-// Every call is asynchronous: the Request's Response signal is subscribed to before the call
-// (the portal may answer before the call returns) and no event loop is nested. Where the portal
-// is missing or refuses, nothing is registered and nothing is reported.
+// Every call is asynchronous (a PortalRequest) and no event loop is nested. Where the portal is
+// missing or refuses, nothing is registered and nothing is reported.
 class PortalShortcutBackend final : public GlobalShortcutBackend {
     Q_OBJECT
 public:
@@ -30,20 +29,14 @@ public:
     // The session's handle once the portal created it; empty before and when unavailable.
     QString sessionHandle() const { return m_sessionHandle; }
 
-private Q_SLOTS:
-    // Slots by name: QtDBus connects signals of remote objects through the meta-object.
-    void onCreateSessionResponse(uint response, const QVariantMap &results);
-    void onBindResponse(uint response, const QVariantMap &results);
+private:
     void onActivated(const QDBusObjectPath &sessionHandle, const QString &shortcutId, qulonglong timestamp,
         const QVariantMap &options);
     void onDeactivated(const QDBusObjectPath &sessionHandle, const QString &shortcutId, qulonglong timestamp,
         const QVariantMap &options);
 
-private:
     enum class State { Idle, Creating, Ready, Unavailable };
 
-    QString nextToken();
-    QString requestPath(const QString &token) const;
     void createSession();
     void scheduleBind();
     void bind();
@@ -52,11 +45,8 @@ private:
     State m_state = State::Idle;
     QList<GlobalShortcut> m_shortcuts;
     QString m_sessionHandle;
-    QString m_pendingRequest; // the CreateSession Request whose Response we wait for
-    QStringList m_bindRequests;
     bool m_isBindScheduled = false;
     bool m_isBound = false;
-    int m_tokenCounter = 0;
     // Shortcuts whose keys are down: a desktop that repeats Activated while a key is held
     // fires once. Only once the desktop has shown that it reports releases, since one that
     // never sends Deactivated would otherwise fire only the first time.

@@ -1,4 +1,6 @@
-#include "platform/AppearanceMonitor.h"
+#include "platform/portal/AppearanceMonitor.h"
+
+#include "platform/portal/PortalSignals.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -11,8 +13,6 @@
 
 namespace {
 
-const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString appearanceNamespace = QStringLiteral("org.freedesktop.appearance");
 const QString colorSchemeKey = QStringLiteral("color-scheme");
@@ -37,10 +37,10 @@ AppearanceMonitor::AppearanceMonitor(QObject *parent)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
-                SLOT(onSettingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage read = QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface,
-                                                       QStringLiteral("Read"));
+    connect(new PortalSettingsSignals(bus, this), &PortalSettingsSignals::SettingChanged, this,
+        &AppearanceMonitor::onSettingChanged);
+    QDBusMessage read = QDBusMessage::createMethodCall(
+        portalService, portalPath, settingsInterface, QStringLiteral("Read"));
     read << appearanceNamespace << colorSchemeKey;
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *call) {
@@ -67,7 +67,8 @@ bool AppearanceMonitor::eventFilter(QObject *watched, QEvent *event)
     return false;
 }
 
-void AppearanceMonitor::onSettingChanged(const QString &nameSpace, const QString &key, const QDBusVariant &value)
+void AppearanceMonitor::onSettingChanged(
+    const QString &nameSpace, const QString &key, const QDBusVariant &value)
 {
     if (nameSpace == appearanceNamespace && key == colorSchemeKey)
         setPortalScheme(schemeFrom(QVariant::fromValue(value)));

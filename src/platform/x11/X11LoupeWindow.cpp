@@ -1,4 +1,4 @@
-#include "platform/X11LoupeWindow.h"
+#include "platform/x11/X11LoupeWindow.h"
 
 #include <QPainter>
 #include <xcb/shape.h>
@@ -22,9 +22,8 @@ std::vector<xcb_rectangle_t> shapeOf(const QImage &loupe)
     auto flush = [&](int y) {
         // Rows of `previous` that `current` continues grow by one; the others are final.
         if (current.size() == previous.size()
-            && std::equal(current.begin(), current.end(), previous.begin(), [](const auto &a, const auto &b) {
-                   return a.x == b.x && a.width == b.width;
-               })) {
+            && std::equal(current.begin(), current.end(), previous.begin(),
+                [](const auto &a, const auto &b) { return a.x == b.x && a.width == b.width; })) {
             for (auto &r : previous)
                 ++r.height;
             return;
@@ -47,7 +46,7 @@ std::vector<xcb_rectangle_t> shapeOf(const QImage &loupe)
             const int start = x;
             while (x < loupe.width() && qAlpha(line[x]) >= shapeAlphaThreshold)
                 ++x;
-            current.push_back(xcb_rectangle_t{int16_t(start), 0, uint16_t(x - start), 1});
+            current.push_back(xcb_rectangle_t { int16_t(start), 0, uint16_t(x - start), 1 });
         }
         flush(y);
     }
@@ -58,8 +57,7 @@ std::vector<xcb_rectangle_t> shapeOf(const QImage &loupe)
 
 bool sameShape(const std::vector<xcb_rectangle_t> &a, const std::vector<xcb_rectangle_t> &b)
 {
-    return a.size() == b.size()
-        && std::memcmp(a.data(), b.data(), a.size() * sizeof(xcb_rectangle_t)) == 0;
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(xcb_rectangle_t)) == 0;
 }
 
 xcb_atom_t atom(xcb_connection_t *connection, const char *name)
@@ -93,26 +91,27 @@ void X11LoupeWindow::create()
     m_window = xcb_generate_id(m_connection);
     // No background: every pixel inside the shape is painted from the frame, so the server
     // never flashes a fill before it.
-    const uint32_t values[] = {XCB_BACK_PIXMAP_NONE, 1, XCB_EVENT_MASK_EXPOSURE};
+    const uint32_t values[] = { XCB_BACK_PIXMAP_NONE, 1, XCB_EVENT_MASK_EXPOSURE };
     xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_window, m_screen->root, 0, 0, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                      XCB_CW_BACK_PIXMAP | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
+        XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+        XCB_CW_BACK_PIXMAP | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
     m_gc = xcb_generate_id(m_connection);
     xcb_create_gc(m_connection, m_gc, m_window, 0, nullptr);
     // Named, so that a person (or a test) looking at the window list knows what it is.
     static constexpr char windowClass[] = "vantle-loupe\0Vantle";
     xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
-                        sizeof windowClass, windowClass);
+        sizeof windowClass, windowClass);
     if (const xcb_atom_t pidAtom = atom(m_connection, "_NET_WM_PID"); pidAtom != XCB_ATOM_NONE) {
         const uint32_t pid = uint32_t(getpid());
-        xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, pidAtom, XCB_ATOM_CARDINAL, 32, 1, &pid);
+        xcb_change_property(
+            m_connection, XCB_PROP_MODE_REPLACE, m_window, pidAtom, XCB_ATOM_CARDINAL, 32, 1, &pid);
     }
     const xcb_query_extension_reply_t *shape = xcb_get_extension_data(m_connection, &xcb_shape_id);
     m_hasShape = shape && shape->present;
     if (m_hasShape) {
         // Input passes through the loupe to the window below (the sampler's grab takes it).
-        xcb_shape_rectangles(m_connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED, m_window,
-                             0, 0, 0, nullptr);
+        xcb_shape_rectangles(m_connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
+            m_window, 0, 0, 0, nullptr);
     }
 }
 
@@ -131,17 +130,17 @@ void X11LoupeWindow::show(const QImage &loupe, const QRect &device)
         std::vector<xcb_rectangle_t> shape = shapeOf(loupe);
         if (!sameShape(shape, m_shape) || device.size() != m_geometry.size()) {
             m_shape = std::move(shape);
-            xcb_shape_rectangles(m_connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, XCB_CLIP_ORDERING_UNSORTED,
-                                 m_window, 0, 0, uint32_t(m_shape.size()), m_shape.data());
+            xcb_shape_rectangles(m_connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING,
+                XCB_CLIP_ORDERING_UNSORTED, m_window, 0, 0, uint32_t(m_shape.size()), m_shape.data());
         }
     }
     if (device != m_geometry || !m_isShown) {
-        const uint32_t values[] = {uint32_t(device.x()), uint32_t(device.y()), uint32_t(device.width()),
-                                   uint32_t(device.height()), XCB_STACK_MODE_ABOVE};
+        const uint32_t values[] = { uint32_t(device.x()), uint32_t(device.y()), uint32_t(device.width()),
+            uint32_t(device.height()), XCB_STACK_MODE_ABOVE };
         xcb_configure_window(m_connection, m_window,
-                             XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH
-                                 | XCB_CONFIG_WINDOW_HEIGHT | XCB_CONFIG_WINDOW_STACK_MODE,
-                             values);
+            XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT
+                | XCB_CONFIG_WINDOW_STACK_MODE,
+            values);
         m_geometry = device;
     }
     if (!m_isShown) {
@@ -163,8 +162,8 @@ void X11LoupeWindow::putImage()
     for (int top = 0; top < m_frame.height(); top += bandRows) {
         const int rows = std::min(bandRows, m_frame.height() - top);
         xcb_put_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_window, m_gc, uint16_t(m_frame.width()),
-                      uint16_t(rows), 0, int16_t(top), 0, m_screen->root_depth, uint32_t(rows * stride),
-                      m_frame.constScanLine(top));
+            uint16_t(rows), 0, int16_t(top), 0, m_screen->root_depth, uint32_t(rows * stride),
+            m_frame.constScanLine(top));
     }
 }
 

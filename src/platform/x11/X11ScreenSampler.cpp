@@ -1,8 +1,8 @@
-#include "platform/X11ScreenSampler.h"
+#include "platform/x11/X11ScreenSampler.h"
 
 #include "model/ColorFormat.h"
-#include "platform/SamplerLoupe.h"
-#include "platform/X11LoupeWindow.h"
+#include "platform/x11/SamplerLoupe.h"
+#include "platform/x11/X11LoupeWindow.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -48,7 +48,7 @@ std::optional<SampledColor> sampled(const std::optional<SamplerGeometry::Rgb> &r
 {
     if (!rgb)
         return std::nullopt;
-    return SampledColor{rgb->red, rgb->green, rgb->blue, 1};
+    return SampledColor { rgb->red, rgb->green, rgb->blue, 1 };
 }
 
 } // namespace
@@ -99,34 +99,34 @@ void X11ScreenSampler::ensureWindows()
         const xcb_font_t font = xcb_generate_id(m_connection);
         xcb_open_font(m_connection, font, 6, "cursor");
         m_cursor = xcb_generate_id(m_connection);
-        xcb_create_glyph_cursor(m_connection, m_cursor, font, font, crosshairGlyph, crosshairGlyph + 1, 0, 0, 0,
-                                0xffff, 0xffff, 0xffff);
+        xcb_create_glyph_cursor(m_connection, m_cursor, font, font, crosshairGlyph, crosshairGlyph + 1, 0, 0,
+            0, 0xffff, 0xffff, 0xffff);
         xcb_close_font(m_connection, font);
 
         m_inputWindow = xcb_generate_id(m_connection);
-        const uint32_t values[] = {1,
-                                   XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_BUTTON_PRESS
-                                       | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION
-                                       | XCB_EVENT_MASK_FOCUS_CHANGE,
-                                   m_cursor};
+        const uint32_t values[] = { 1,
+            XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_BUTTON_PRESS
+                | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION | XCB_EVENT_MASK_FOCUS_CHANGE,
+            m_cursor };
         xcb_create_window(m_connection, 0, m_inputWindow, m_screen->root, 0, 0, width, height, 0,
-                          XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
-                          XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK | XCB_CW_CURSOR, values);
+            XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
+            XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK | XCB_CW_CURSOR, values);
         m_loupeWindow = std::make_unique<X11LoupeWindow>(m_connection, m_screen);
         m_symbols = xcb_key_symbols_alloc(m_connection);
     }
     // The desktop may have grown or shrunk since the last pick (a monitor plugged in).
-    const uint32_t geometry[] = {0, 0, width, height, XCB_STACK_MODE_ABOVE};
+    const uint32_t geometry[] = { 0, 0, width, height, XCB_STACK_MODE_ABOVE };
     xcb_configure_window(m_connection, m_inputWindow,
-                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH
-                             | XCB_CONFIG_WINDOW_HEIGHT | XCB_CONFIG_WINDOW_STACK_MODE,
-                         geometry);
+        XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT
+            | XCB_CONFIG_WINDOW_STACK_MODE,
+        geometry);
 }
 
 void X11ScreenSampler::pick(ColorFormat labelFormat, Completion completion)
 {
     if (m_isPicking || !m_isReadable) {
-        QMetaObject::invokeMethod(this, [c = std::move(completion)] { c(std::nullopt); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [c = std::move(completion)] { c(std::nullopt); }, Qt::QueuedConnection);
         return;
     }
     m_completion = std::move(completion);
@@ -166,19 +166,19 @@ bool X11ScreenSampler::tryGrab()
 {
     // The input window is mapped (override-redirect windows map at once, and the requests go
     // out in order on this connection), so it can take both grabs.
-    const uint16_t mask = XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION;
-    xcb_grab_pointer_reply_t *pointer = xcb_grab_pointer_reply(
-        m_connection,
-        xcb_grab_pointer(m_connection, 0, m_inputWindow, mask, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_NONE,
-                         m_cursor, XCB_CURRENT_TIME),
+    const uint16_t mask
+        = XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION;
+    xcb_grab_pointer_reply_t *pointer = xcb_grab_pointer_reply(m_connection,
+        xcb_grab_pointer(m_connection, 0, m_inputWindow, mask, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+            XCB_NONE, m_cursor, XCB_CURRENT_TIME),
         nullptr);
     const bool pointerGrabbed = pointer && pointer->status == XCB_GRAB_STATUS_SUCCESS;
     std::free(pointer);
     if (!pointerGrabbed)
         return false;
-    xcb_grab_keyboard_reply_t *keyboard = xcb_grab_keyboard_reply(
-        m_connection,
-        xcb_grab_keyboard(m_connection, 0, m_inputWindow, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+    xcb_grab_keyboard_reply_t *keyboard = xcb_grab_keyboard_reply(m_connection,
+        xcb_grab_keyboard(
+            m_connection, 0, m_inputWindow, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
         nullptr);
     const bool keyboardGrabbed = keyboard && keyboard->status == XCB_GRAB_STATUS_SUCCESS;
     std::free(keyboard);
@@ -203,8 +203,8 @@ void X11ScreenSampler::nudge(int dx, int dy)
 {
     m_hotspot = SamplerGeometry::nudged(m_areas, m_hotspot, dx, dy);
     // The real pointer follows, in device pixels, so the next mouse move continues from here.
-    xcb_warp_pointer(m_connection, XCB_NONE, m_screen->root, 0, 0, 0, 0, int16_t(m_hotspot.x()),
-                     int16_t(m_hotspot.y()));
+    xcb_warp_pointer(
+        m_connection, XCB_NONE, m_screen->root, 0, 0, 0, 0, int16_t(m_hotspot.x()), int16_t(m_hotspot.y()));
     redrawLoupe();
 }
 
@@ -239,10 +239,9 @@ QImage X11ScreenSampler::readScreen(const QRect &device) const
     const QRect part = device.intersected(QRect(0, 0, m_screen->width_in_pixels, m_screen->height_in_pixels));
     if (part.isEmpty())
         return image;
-    xcb_get_image_reply_t *reply = xcb_get_image_reply(
-        m_connection,
-        xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, int16_t(part.x()), int16_t(part.y()),
-                      uint16_t(part.width()), uint16_t(part.height()), ~0u),
+    xcb_get_image_reply_t *reply = xcb_get_image_reply(m_connection,
+        xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, int16_t(part.x()),
+            int16_t(part.y()), uint16_t(part.width()), uint16_t(part.height()), ~0u),
         nullptr);
     if (!reply)
         return image;
@@ -302,7 +301,8 @@ void X11ScreenSampler::redrawLoupe()
             Qt::QueuedConnection);
     }
     const QImage image = loupe.render(patch, QPoint(across / 2, across / 2), m_zoom, text);
-    const QRect place = SamplerGeometry::loupePlacement(m_areas[*index].device, m_hotspot, image.size(), loupe.gap());
+    const QRect place
+        = SamplerGeometry::loupePlacement(m_areas[*index].device, m_hotspot, image.size(), loupe.gap());
     m_patch = patch;
     m_patchRect = square;
     m_loupeWindow->show(image, place);
@@ -459,10 +459,11 @@ bool X11ScreenSampler::nativeEventFilter(const QByteArray &eventType, void *mess
         if ((event->response_type & ~0x80) == XCB_FOCUS_IN && focus->mode == XCB_NOTIFY_MODE_GRAB) {
             m_hasFocusFromGrab = true;
         } else if ((event->response_type & ~0x80) == XCB_FOCUS_OUT && m_hasFocusFromGrab
-                   && (focus->mode == XCB_NOTIFY_MODE_GRAB || focus->mode == XCB_NOTIFY_MODE_UNGRAB)) {
+            && (focus->mode == XCB_NOTIFY_MODE_GRAB || focus->mode == XCB_NOTIFY_MODE_UNGRAB)) {
             // Our keyboard grab went elsewhere (another client broke it): the user can no
             // longer be sure where the keys go, so the pick ends.
-            QMetaObject::invokeMethod(this, [this] { finish(std::nullopt); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this] { finish(std::nullopt); }, Qt::QueuedConnection);
         }
         return true;
     }

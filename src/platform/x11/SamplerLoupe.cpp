@@ -1,6 +1,6 @@
-#include "platform/SamplerLoupe.h"
+#include "platform/x11/SamplerLoupe.h"
 
-#include "platform/SamplerGeometry.h"
+#include "platform/x11/SamplerGeometry.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -38,11 +38,11 @@ SamplerLoupe::SamplerLoupe(double scale)
 QSize SamplerLoupe::boxSize(const QString &text) const
 {
     if (text.isEmpty())
-        return {m_diameter, m_diameter}; // no label, and no font loaded for one
+        return { m_diameter, m_diameter }; // no label, and no font loaded for one
     const QFontMetrics metrics(m_font);
     const int labelWidth = metrics.horizontalAdvance(text) + 2 * m_labelPadding;
     const int labelHeight = metrics.height() + m_labelPadding;
-    return {std::max(m_diameter, labelWidth), m_diameter + m_labelSpacing + labelHeight};
+    return { std::max(m_diameter, labelWidth), m_diameter + m_labelSpacing + labelHeight };
 }
 
 QImage SamplerLoupe::render(const QImage &frozen, const QPoint &centre, int zoom, const QString &text) const
@@ -101,7 +101,8 @@ QImage SamplerLoupe::render(const QImage &frozen, const QPoint &centre, int zoom
         return image;
     }
     const QFontMetrics metrics(m_font);
-    const QSize label(metrics.horizontalAdvance(text) + 2 * m_labelPadding, metrics.height() + m_labelPadding);
+    const QSize label(
+        metrics.horizontalAdvance(text) + 2 * m_labelPadding, metrics.height() + m_labelPadding);
     const QRectF pill(QPointF((box.width() - label.width()) / 2.0, m_diameter + m_labelSpacing), label);
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(20, 20, 20, 225));

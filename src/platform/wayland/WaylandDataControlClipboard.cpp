@@ -1,4 +1,4 @@
-#include "platform/WaylandDataControlClipboard.h"
+#include "platform/wayland/WaylandDataControlClipboard.h"
 
 #include "ext-data-control-v1-client-protocol.h"
 #include "wlr-data-control-unstable-v1-client-protocol.h"

@@ -1,4 +1,4 @@
-#include "platform/XcbShortcutBackend.h"
+#include "platform/x11/XcbShortcutBackend.h"
 
 #include "hotkeys/KeyCodes.h"
 
@@ -14,15 +14,15 @@ namespace {
 
 constexpr quint32 numLockKeysym = 0xff7f;
 constexpr quint32 scrollLockKeysym = 0xff14;
-constexpr quint32 altKeysyms[] = {0xffe9, 0xffea}; // Alt_L, Alt_R
-constexpr quint32 superKeysyms[] = {0xffeb, 0xffec}; // Super_L, Super_R
+constexpr quint32 altKeysyms[] = { 0xffe9, 0xffea }; // Alt_L, Alt_R
+constexpr quint32 superKeysyms[] = { 0xffeb, 0xffec }; // Super_L, Super_R
 constexpr quint8 xkbNewKeyboardNotify = 0;
 constexpr quint8 xkbMapNotify = 1;
 
-template <typename Reply> struct FreeReply {
+template<typename Reply> struct FreeReply {
     void operator()(Reply *reply) const { std::free(reply); }
 };
-template <typename Reply> using ReplyPtr = std::unique_ptr<Reply, FreeReply<Reply>>;
+template<typename Reply> using ReplyPtr = std::unique_ptr<Reply, FreeReply<Reply>>;
 
 } // namespace
 
@@ -77,8 +77,8 @@ void XcbShortcutBackend::readKeyboardMapping()
     m_numLockMask = m_scrollLockMask = 0;
     m_altMask = XCB_MOD_MASK_1;
     m_superMask = XCB_MOD_MASK_4;
-    ReplyPtr<xcb_get_modifier_mapping_reply_t> mapping(xcb_get_modifier_mapping_reply(
-        m_connection, xcb_get_modifier_mapping(m_connection), nullptr));
+    ReplyPtr<xcb_get_modifier_mapping_reply_t> mapping(
+        xcb_get_modifier_mapping_reply(m_connection, xcb_get_modifier_mapping(m_connection), nullptr));
     if (!mapping || !m_symbols)
         return;
     const xcb_keycode_t *keycodes = xcb_get_modifier_mapping_keycodes(mapping.get());
@@ -112,8 +112,8 @@ void XcbShortcutBackend::readKeyboardMapping()
 
 QList<quint16> XcbShortcutBackend::lockCombinations() const
 {
-    QList<quint16> combinations{0};
-    for (const quint16 lock : {quint16(XCB_MOD_MASK_LOCK), m_numLockMask, m_scrollLockMask}) {
+    QList<quint16> combinations { 0 };
+    for (const quint16 lock : { quint16(XCB_MOD_MASK_LOCK), m_numLockMask, m_scrollLockMask }) {
         if (lock == 0 || lock == m_altMask || lock == m_superMask)
             continue;
         const qsizetype count = combinations.size();
@@ -133,11 +133,11 @@ quint16 XcbShortcutBackend::relevantModifiers() const
 QList<XcbShortcutBackend::Grab> XcbShortcutBackend::wantedGrabs() const
 {
     QList<Grab> grabs;
-    const KeyCodes::X11ModifierBits bits{XCB_MOD_MASK_SHIFT, XCB_MOD_MASK_CONTROL, m_altMask, m_superMask};
+    const KeyCodes::X11ModifierBits bits { XCB_MOD_MASK_SHIFT, XCB_MOD_MASK_CONTROL, m_altMask, m_superMask };
     for (const Registration &registration : m_registrations) {
         const quint16 modifiers = KeyCodes::x11Modifiers(registration.modifiers, bits);
         for (const xcb_keycode_t keycode : registration.keycodes) {
-            const Grab grab{keycode, modifiers};
+            const Grab grab { keycode, modifiers };
             if (!grabs.contains(grab))
                 grabs << grab;
         }
@@ -164,8 +164,8 @@ void XcbShortcutBackend::syncGrabs()
         if (m_grabs.contains(grab))
             continue;
         for (const quint16 lock : locks) {
-            cookies.push_back(xcb_grab_key_checked(m_connection, 1, m_root, grab.modifiers | lock, grab.keycode,
-                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+            cookies.push_back(xcb_grab_key_checked(m_connection, 1, m_root, grab.modifiers | lock,
+                grab.keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
         }
     }
     m_grabs = wanted;
@@ -253,7 +253,8 @@ void XcbShortcutBackend::watchRelease(bool isOn)
     struct {
         xcb_input_event_mask_t head;
         uint32_t bits;
-    } mask{{XCB_INPUT_DEVICE_ALL_MASTER, 1}, isOn ? uint32_t(XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE) : 0u};
+    } mask { { XCB_INPUT_DEVICE_ALL_MASTER, 1 },
+        isOn ? uint32_t(XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE) : 0u };
     xcb_input_xi_select_events(m_connection, m_root, 1, &mask.head);
     xcb_flush(m_connection);
     m_isWatchingRelease = isOn;
@@ -276,11 +277,12 @@ bool XcbShortcutBackend::handleKey(const xcb_key_press_event_t *event, bool isPr
 
     if (!isPress) {
         noteRelease(keycode, event->time);
-        return event->event == m_root && m_grabs.contains(Grab{keycode, quint16(event->state & relevantModifiers())});
+        return event->event == m_root
+            && m_grabs.contains(Grab { keycode, quint16(event->state & relevantModifiers()) });
     }
 
     const quint16 state = event->state & relevantModifiers();
-    const KeyCodes::X11ModifierBits bits{XCB_MOD_MASK_SHIFT, XCB_MOD_MASK_CONTROL, m_altMask, m_superMask};
+    const KeyCodes::X11ModifierBits bits { XCB_MOD_MASK_SHIFT, XCB_MOD_MASK_CONTROL, m_altMask, m_superMask };
     for (const Registration &registration : m_registrations) {
         if (!registration.keycodes.contains(keycode)
             || KeyCodes::x11Modifiers(registration.modifiers, bits) != state)

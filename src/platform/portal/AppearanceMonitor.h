@@ -22,10 +22,8 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-private Q_SLOTS:
-    void onSettingChanged(const QString &nameSpace, const QString &key, const QDBusVariant &value);
-
 private:
+    void onSettingChanged(const QString &nameSpace, const QString &key, const QDBusVariant &value);
     void setPortalScheme(uint scheme);
 
     uint m_portalScheme = 0; // 0 none, 1 dark, 2 light

@@ -1,0 +1,53 @@
+#include "platform/DesktopSession.h"
+
+#include <gtest/gtest.h>
+
+TEST(DesktopSession, ChoosesEveryBackendByOverrideThenSession)
+{
+    using S = SamplerBackend;
+    using C = ClipboardBackend;
+    using K = ShortcutBackend;
+    constexpr bool yes = true, no = false;
+    struct Case {
+        const char *platform, *sessionType;
+        bool hasX11Connection, hasWaylandDisplay;
+        const char *samplerOverride, *clipboardOverride, *shortcutsOverride;
+        BackendChoice expected;
+    } cases[] = {
+        { "xcb", "x11", yes, no, "", "", "", { S::x11, C::qt, K::x11 } },
+        { "xcb", "", yes, no, "", "", "", { S::x11, C::qt, K::x11 } },
+        // An X11 session that happens to inherit a stale WAYLAND_DISPLAY.
+        { "xcb", "x11", yes, yes, "", "", "", { S::x11, C::qt, K::x11 } },
+        { "wayland", "wayland", no, yes, "", "", "", { S::portal, C::dataControl, K::portal } },
+        { "wayland-egl", "", no, yes, "", "", "", { S::portal, C::dataControl, K::portal } },
+        { "wayland", "", no, no, "", "", "", { S::portal, C::dataControl, K::portal } },
+        // XWayland: the X root shows nothing of the other clients, and the compositor's
+        // clipboard is reached directly rather than through the bridge.
+        { "xcb", "wayland", yes, yes, "", "", "", { S::portal, C::dataControl, K::x11 } },
+        { "xcb", "WAYLAND", yes, yes, "", "", "", { S::portal, C::dataControl, K::x11 } },
+        { "xcb", "wayland", yes, no, "", "", "", { S::portal, C::qt, K::x11 } },
+        { "offscreen", "tty", no, no, "", "", "", { S::none, C::qt, K::none } },
+        // Forced backends, any case; our own sampler still needs an X connection.
+        { "xcb", "x11", yes, no, "portal", "", "", { S::portal, C::qt, K::x11 } },
+        { "xcb", "wayland", yes, yes, "X11", "", "", { S::x11, C::dataControl, K::x11 } },
+        { "wayland", "wayland", no, yes, "x11", "", "", { S::none, C::dataControl, K::portal } },
+        { "wayland", "wayland", no, yes, "", "qt", "", { S::portal, C::qt, K::portal } },
+        { "xcb", "x11", yes, no, "", " Data-Control ", "", { S::x11, C::dataControl, K::x11 } },
+        { "xcb", "x11", yes, no, "", "", "Portal", { S::x11, C::qt, K::portal } },
+        { "wayland", "wayland", no, yes, "", "", "x11", { S::portal, C::dataControl, K::x11 } },
+        { "xcb", "x11", yes, no, "", "", "none", { S::x11, C::qt, K::none } },
+        // Unknown values leave the sampler and the clipboard to the session; shortcuts get none.
+        { "wayland", "wayland", no, yes, "bogus", "bogus", "bogus", { S::portal, C::dataControl, K::none } },
+    };
+    for (const Case &c : cases) {
+        const DesktopSession session { QString::fromLatin1(c.platform), QString::fromLatin1(c.sessionType),
+            c.hasX11Connection, c.hasWaylandDisplay, QString::fromLatin1(c.samplerOverride),
+            QString::fromLatin1(c.clipboardOverride), QString::fromLatin1(c.shortcutsOverride) };
+        const BackendChoice chosen = chooseBackends(session);
+        SCOPED_TRACE(
+            testing::Message() << "case " << &c - cases << ": " << c.platform << "/" << c.sessionType);
+        EXPECT_EQ(int(chosen.sampler), int(c.expected.sampler));
+        EXPECT_EQ(int(chosen.clipboard), int(c.expected.clipboard));
+        EXPECT_EQ(int(chosen.shortcuts), int(c.expected.shortcuts));
+    }
+}

@@ -243,14 +243,17 @@ void ColorListViewModel::exportColors(bool pinnedOnly, bool asJSON)
         return;
     // An empty folder (no download folder known) lets the dialog start where it likes.
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
-    const std::optional<QString> path
-        = m_exportDialogs.chooseExportFile(folder, proposedExportName(pinnedOnly, asJSON), asJSON);
-    if (!path || path->isEmpty())
-        return;
-    const QByteArray content
-        = asJSON ? exportJSON(colors) : exportText(colors, SettingsViewModel::currentFormat(m_store));
-    if (const std::optional<QString> failure = writeFileAtomically(*path, content))
-        m_exportDialogs.showExportFailed(*failure);
+    // The colours as they were when the user asked; the model may be gone when the dialog answers.
+    m_exportDialogs.chooseExportFile(folder, proposedExportName(pinnedOnly, asJSON), asJSON,
+        [self = QPointer(this), colors, asJSON](const std::optional<QString> &path) {
+            if (!self || !path || path->isEmpty())
+                return;
+            const QByteArray content = asJSON
+                ? exportJSON(colors)
+                : exportText(colors, SettingsViewModel::currentFormat(self->m_store));
+            if (const std::optional<QString> failure = writeFileAtomically(*path, content))
+                self->m_exportDialogs.showExportFailed(*failure);
+        });
 }
 
 void ColorListViewModel::setColors(QList<PickedColor> colors)

@@ -1,12 +1,15 @@
 #include "screens/DialogUpdateInterface.h"
 
-#include "ModalAnswer.h"
 #include "services/Appcast.h"
 
+#include <QApplication>
+#include <QLabel>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTest>
 #include <gtest/gtest.h>
+#include <string_view>
 
 namespace {
 
@@ -30,7 +33,7 @@ QProgressDialog *progressDialog()
 
 } // namespace
 
-TEST(DialogUpdateInterface, UpdateOfferReturnsTheButtonThePersonChose)
+TEST(DialogUpdateInterface, UpdateOfferAnswersWithTheButtonThePersonChose)
 {
     using Choice = UpdateUserInterface::Choice;
     const struct {
@@ -45,10 +48,26 @@ TEST(DialogUpdateInterface, UpdateOfferReturnsTheButtonThePersonChose)
     for (const auto &row : rows) {
         SCOPED_TRACE(row.answer);
         DialogUpdateInterface ui;
-        ModalAnswer answer { QString::fromLatin1(row.answer) };
-        EXPECT_EQ(ui.askAboutUpdate(release(), QStringLiteral("Vantle"), QStringLiteral("1.0")), row.choice);
-        EXPECT_TRUE(answer.texts.join(u'\n').contains(QStringLiteral("Vantle 1.4 is now available")))
-            << answer.texts.join(u'\n').toStdString();
+        QList<Choice> choices;
+        ui.askAboutUpdate(release(), QStringLiteral("Vantle"), QStringLiteral("1.0"),
+            [&](Choice choice) { choices << choice; });
+        QWidget *dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_TRUE(choices.isEmpty()) << "answered before the person did";
+        QStringList texts;
+        for (QLabel *label : dialog->findChildren<QLabel *>())
+            texts << label->text();
+        EXPECT_TRUE(texts.join(u'\n').contains(QStringLiteral("Vantle 1.4 is now available")))
+            << texts.join(u'\n').toStdString();
+        if (row.answer == std::string_view("Escape")) {
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        } else {
+            for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
+                if (button->text() == QLatin1String(row.answer))
+                    QTest::mouseClick(button, Qt::LeftButton);
+            }
+        }
+        EXPECT_EQ(choices, QList<Choice> { row.choice });
     }
 }
 

@@ -1,6 +1,7 @@
 // The launch sequence and the reactions of the tray program, with the desktop's facilities
 // played by fakes (offscreen: no tray host, so the delegate stays in its waiting state).
 #include "app/AppDelegate.h"
+#include "../hotkeys/FakeShortcutBackend.h"
 #include "app/PopupWindow.h"
 #include "history/ColorListViewModel.h"
 #include "platform/AppearanceMonitor.h"
@@ -9,10 +10,10 @@
 #include "screens/SettingsView.h"
 #include "screens/SettingsWindow.h"
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/XdgAutostartService.h"
 #include "support/HistoryFakes.h"
 #include "support/TempSettings.h"
-#include "../hotkeys/FakeShortcutBackend.h"
 
 #include <QNetworkAccessManager>
 #include <QTest>
@@ -50,12 +51,10 @@ protected:
 TEST_F(AppDelegateTest, FirstLaunchSeedsBothShortcutsAndGreets)
 {
     launch();
-    EXPECT_EQ(settings.store->integerForKey(pickKeyCode), 8);
-    EXPECT_EQ(settings.store->integerForKey(pickModifiers), 655360);
-    EXPECT_EQ(settings.store->stringForKey(pickKeyChar), QStringLiteral("C"));
-    EXPECT_EQ(settings.store->integerForKey(popoverKeyCode), 7);
-    EXPECT_EQ(settings.store->integerForKey(popoverModifiers), 655360);
-    EXPECT_EQ(settings.store->stringForKey(popoverKeyChar), QStringLiteral("X"));
+    EXPECT_EQ(
+        Preferences::pickShortcut.read(*settings.store), (StoredShortcut { 8, 655360, QStringLiteral("C") }));
+    EXPECT_EQ(Preferences::popoverShortcut.read(*settings.store),
+        (StoredShortcut { 7, 655360, QStringLiteral("X") }));
     // The seeded shortcuts are live at once, not at the next launch.
     ASSERT_EQ(shortcuts.registered.size(), 2);
     ASSERT_NE(delegate->onboardingWindow(), nullptr);

@@ -54,19 +54,16 @@ TEST(DialogUpdateInterface, UpdateOfferAnswersWithTheButtonThePersonChose)
         QWidget *dialog = QApplication::activeModalWidget();
         ASSERT_NE(dialog, nullptr);
         EXPECT_TRUE(choices.isEmpty()) << "answered before the person did";
-        QStringList texts;
-        for (QLabel *label : dialog->findChildren<QLabel *>())
-            texts << label->text();
-        EXPECT_TRUE(texts.join(u'\n').contains(QStringLiteral("Vantle 1.4 is now available")))
-            << texts.join(u'\n').toStdString();
-        if (row.answer == std::string_view("Escape")) {
+        const QList<QLabel *> labels = dialog->findChildren<QLabel *>();
+        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(),
+            [](QLabel *label) { return label->text().contains(u"Vantle 1.4 is now available"); }));
+        const QList<QPushButton *> buttons = dialog->findChildren<QPushButton *>();
+        const auto button = std::find_if(buttons.begin(), buttons.end(),
+            [&](QPushButton *b) { return b->text() == QLatin1String(row.answer); });
+        if (button != buttons.end())
+            QTest::mouseClick(*button, Qt::LeftButton);
+        else
             QTest::keyClick(dialog, Qt::Key_Escape);
-        } else {
-            for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
-                if (button->text() == QLatin1String(row.answer))
-                    QTest::mouseClick(button, Qt::LeftButton);
-            }
-        }
         EXPECT_EQ(choices, QList<Choice> { row.choice });
     }
 }

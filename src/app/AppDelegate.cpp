@@ -13,6 +13,7 @@
 #include "services/DiskImageCleanup.h"
 #include "services/LaunchAtLogin.h"
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/ProcessCommandRunner.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
@@ -110,17 +111,9 @@ void AppDelegate::applicationWillTerminate()
 
 void AppDelegate::applyDefaultShortcuts()
 {
-    SettingsStore &store = m_facilities.store;
-    constexpr qint64 optionShift = 655360; // option (Alt) 524288 + shift 131072
-    if (store.integerForKey(pickKeyCode) == -1) {
-        store.setInteger(pickKeyCode, 8); // C
-        store.setInteger(pickModifiers, optionShift);
-        store.setString(pickKeyChar, QStringLiteral("C"));
-    }
-    if (store.integerForKey(popoverKeyCode) == -1) {
-        store.setInteger(popoverKeyCode, 7); // X
-        store.setInteger(popoverModifiers, optionShift);
-        store.setString(popoverKeyChar, QStringLiteral("X"));
+    for (const ShortcutPreference &shortcut : { Preferences::pickShortcut, Preferences::popoverShortcut }) {
+        if (shortcut.read(m_facilities.store).keyCode == -1)
+            shortcut.write(m_facilities.store, shortcut.seed);
     }
     m_hotkeyManager->reregisterAll();
 }

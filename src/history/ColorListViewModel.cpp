@@ -1,13 +1,14 @@
 #include "history/ColorListViewModel.h"
 
-#include "model/ColorHistoryCodec.h"
 #include "history/Clipboard.h"
 #include "history/CopyConfirmation.h"
 #include "history/ExportDialogs.h"
 #include "history/PaletteExport.h"
-#include "services/AtomicFile.h"
 #include "history/ScreenColorSampler.h"
+#include "model/ColorHistoryCodec.h"
+#include "services/AtomicFile.h"
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
@@ -20,9 +21,6 @@
 #include <QStandardPaths>
 
 namespace {
-
-// Unpinned colours kept after a pick when the stored limit is 0 or less (or missing).
-constexpr qint64 defaultHistoryLimit = 50;
 
 // The history without its unpinned colours beyond `limit` (the oldest ones); pinned colours
 // never count and never go. Nothing when nothing would be removed.
@@ -184,7 +182,7 @@ void ColorListViewModel::trimHistory()
 {
     qint64 limit = m_store.integerForKey(PreferenceKeys::historyLimit);
     if (limit <= 0)
-        limit = defaultHistoryLimit;
+        limit = Preferences::historyLimit.defaultValue; // a hand-edited 0 or less keeps the default
     if (auto kept = trimmed(m_colors, limit))
         setColors(std::move(*kept));
 }
@@ -224,14 +222,17 @@ void ColorListViewModel::exportColors(bool pinnedOnly, bool asJSON)
         return;
     // An empty folder (no download folder known) lets the dialog start where it likes.
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
-    const std::optional<QString> path
-        = m_exportDialogs.chooseExportFile(folder, proposedExportName(pinnedOnly, asJSON), asJSON);
-    if (!path || path->isEmpty())
-        return;
-    const QByteArray content
-        = asJSON ? exportJSON(colors) : exportText(colors, SettingsViewModel::currentFormat(m_store));
-    if (const std::optional<QString> failure = writeFileAtomically(*path, content))
-        m_exportDialogs.showExportFailed(*failure);
+    // The colours as they were when the user asked; the model may be gone when the dialog answers.
+    m_exportDialogs.chooseExportFile(folder, proposedExportName(pinnedOnly, asJSON), asJSON,
+        [self = QPointer(this), colors, asJSON](const std::optional<QString> &path) {
+            if (!self || !path || path->isEmpty())
+                return;
+            const QByteArray content = asJSON
+                ? exportJSON(colors)
+                : exportText(colors, SettingsViewModel::currentFormat(self->m_store));
+            if (const std::optional<QString> failure = writeFileAtomically(*path, content))
+                self->m_exportDialogs.showExportFailed(*failure);
+        });
 }
 
 void ColorListViewModel::setColors(QList<PickedColor> colors)

@@ -2,7 +2,7 @@
 
 #include "hotkeys/GlobalShortcutBackend.h"
 #include "hotkeys/KeyCodes.h"
-#include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/SettingsStore.h"
 
 HotkeyManager::HotkeyManager(SettingsStore &store, GlobalShortcutBackend &backend, QObject *parent)
@@ -24,28 +24,27 @@ void HotkeyManager::installEventHandler()
 
 void HotkeyManager::registerPickHotkey()
 {
-    registerHotkey(pickId, PreferenceKeys::pickKeyCode, PreferenceKeys::pickModifiers);
+    registerHotkey(pickId, Preferences::pickShortcut);
 }
 
 void HotkeyManager::registerPopoverHotkey()
 {
-    registerHotkey(popoverId, PreferenceKeys::popoverKeyCode, PreferenceKeys::popoverModifiers);
+    registerHotkey(popoverId, Preferences::popoverShortcut);
 }
 
-void HotkeyManager::registerHotkey(int id, const QString &keyCodeKey, const QString &modifiersKey)
+void HotkeyManager::registerHotkey(int id, const ShortcutPreference &preference)
 {
     if (m_isSuspended)
         return;
-    const qint64 keyCode = m_store.integerForKey(keyCodeKey);
-    const qint64 modifiers = m_store.integerForKey(modifiersKey);
+    const StoredShortcut stored = preference.read(m_store);
     // -1 means "not set"; values the recorder never writes count as not set too.
-    if (!KeyCodes::isShortcutSet(keyCode, modifiers))
+    if (!KeyCodes::isShortcutSet(stored.keyCode, stored.modifiers))
         return;
 
     GlobalShortcut shortcut;
     shortcut.id = id;
-    shortcut.keyCode = quint32(keyCode);
-    shortcut.modifiers = modifiers & KeyCodes::allFlags;
+    shortcut.keyCode = quint32(stored.keyCode);
+    shortcut.modifiers = stored.modifiers & KeyCodes::allFlags;
     if (id == pickId) {
         shortcut.name = QStringLiteral("pick");
         shortcut.description = tr("Pick a color");

@@ -5,10 +5,11 @@
 
 class GlobalShortcutBackend;
 class SettingsStore;
+struct ShortcutPreference;
 
 // The program's two system-wide shortcuts: pick a colour (id 1) and show or hide the popover
-// (id 2). The shortcuts live in six preferences; the manager reads them afresh every time it
-// registers and turns a press into a signal. It knows nothing of what the shortcuts do.
+// (id 2). The shortcuts live in the preferences (services/Preferences.h); the manager reads them afresh every
+// time it registers and turns a press into a signal. It knows nothing of what the shortcuts do.
 //
 // Observers connect with Qt::QueuedConnection so their work runs on the main thread just after
 // the press, outside the backend's event handling.
@@ -41,7 +42,7 @@ Q_SIGNALS:
     void popoverHotkeyFired();
 
 private:
-    void registerHotkey(int id, const QString &keyCodeKey, const QString &modifiersKey);
+    void registerHotkey(int id, const ShortcutPreference &preference);
     void handleActivated(int id);
 
     SettingsStore &m_store;

@@ -64,13 +64,11 @@ QString rgba(const QColor &color, double opacity)
 } // namespace
 
 HotkeyRecorderView::HotkeyRecorderView(const QString &label, SettingsStore &store, const QString &keyCodeKey,
-    const QString &modifiersKey, const QString &keyCharKey, std::function<void()> onChanged, IconMaker clearIcon,
-    QWidget *parent)
+    const QString &modifiersKey, const QString &keyCharKey, std::function<void()> onChanged,
+    IconMaker clearIcon, QWidget *parent)
     : QWidget(parent)
     , m_store(store)
-    , m_keyCodeKey(keyCodeKey)
-    , m_modifiersKey(modifiersKey)
-    , m_keyCharKey(keyCharKey)
+    , m_shortcut { keyCodeKey, modifiersKey, keyCharKey, {} }
     , m_onChanged(std::move(onChanged))
     , m_clearIcon(std::move(clearIcon))
     , m_caption(new QLabel(label, this))
@@ -145,9 +143,7 @@ void HotkeyRecorderView::stopRecording()
 
 void HotkeyRecorderView::clear()
 {
-    m_store.setInteger(m_keyCodeKey, -1);
-    m_store.setInteger(m_modifiersKey, 0);
-    m_store.setString(m_keyCharKey, QString());
+    m_shortcut.write(m_store, StoredShortcut {});
     updateField();
     if (m_onChanged)
         m_onChanged();
@@ -176,9 +172,7 @@ bool HotkeyRecorderView::eventFilter(QObject *watched, QEvent *event)
     if (!(modifiers & (KeyCodes::controlFlag | KeyCodes::optionFlag | KeyCodes::commandFlag)) || !keyCode)
         return true;
 
-    m_store.setInteger(m_keyCodeKey, *keyCode);
-    m_store.setInteger(m_modifiersKey, modifiers);
-    m_store.setString(m_keyCharKey, keyText(*press, *keyCode));
+    m_shortcut.write(m_store, { *keyCode, modifiers, keyText(*press, *keyCode) });
     stopRecording();
     if (m_onChanged)
         m_onChanged();
@@ -200,11 +194,10 @@ void HotkeyRecorderView::changeEvent(QEvent *event)
 
 void HotkeyRecorderView::updateField()
 {
-    const qint64 keyCode = m_store.integerForKey(m_keyCodeKey);
-    const qint64 modifiers = m_store.integerForKey(m_modifiersKey);
-    const QString keyChar = m_store.stringForKey(m_keyCharKey).value_or(QString());
-    const bool isSet = keyCode >= 0;
-    const QString display = isSet ? KeyCodes::shortcutDesktopText(modifiers, keyChar) : QString();
+    const StoredShortcut stored = m_shortcut.read(m_store);
+    const bool isSet = stored.keyCode >= 0;
+    const QString display
+        = isSet ? KeyCodes::shortcutDesktopText(stored.modifiers, stored.keyChar) : QString();
 
     const QPalette palette = this->palette();
     const QColor secondary = palette.color(QPalette::PlaceholderText);

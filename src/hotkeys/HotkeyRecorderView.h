@@ -1,5 +1,7 @@
 #pragma once
 
+#include "services/Preferences.h"
+
 #include <QIcon>
 #include <QString>
 #include <QWidget>
@@ -48,9 +50,7 @@ private:
     void updateField();
 
     SettingsStore &m_store;
-    const QString m_keyCodeKey;
-    const QString m_modifiersKey;
-    const QString m_keyCharKey;
+    const ShortcutPreference m_shortcut;
     std::function<void()> m_onChanged;
     IconMaker m_clearIcon;
     std::function<void(bool)> m_onRecordingChanged;

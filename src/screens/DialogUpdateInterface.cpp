@@ -22,6 +22,13 @@
 
 namespace {
 
+// The result code of the update offer that stands for `choice`; never 0, the code of a dialog
+// closed without an answer.
+int choiceResult(UpdateUserInterface::Choice choice)
+{
+    return QDialog::Accepted + 1 + int(choice);
+}
+
 // Progress in thousandths: byte counts do not fit the dialog's int range for large files.
 constexpr int progressSteps = 1000;
 
@@ -57,29 +64,29 @@ QString DialogUpdateInterface::updateName(const AppcastItem &update) const
 
 void DialogUpdateInterface::showUpToDate(const QString &name, const QString &version)
 {
-    QMessageBox box(QMessageBox::Information, QObject::tr("Software Update"),
+    auto *box = new QMessageBox(QMessageBox::Information, QObject::tr("Software Update"),
         QObject::tr("You're up to date!"), QMessageBox::NoButton, m_dialogParent);
-    box.setInformativeText(QObject::tr("%1 %2 is the latest version.").arg(name, version));
-    box.addButton(QObject::tr("OK"), QMessageBox::AcceptRole);
-    box.exec();
+    box->setInformativeText(QObject::tr("%1 %2 is the latest version.").arg(name, version));
+    box->addButton(QObject::tr("OK"), QMessageBox::AcceptRole);
+    m_dialogs.open(box);
 }
 
-UpdateUserInterface::Choice DialogUpdateInterface::askAboutUpdate(
-    const AppcastItem &update, const QString &name, const QString &currentVersion)
+void DialogUpdateInterface::askAboutUpdate(const AppcastItem &update, const QString &name,
+    const QString &currentVersion, std::function<void(Choice)> onChoice)
 {
     m_applicationName = name;
     const QString offered = update.displayVersion.isEmpty() ? update.version : update.displayVersion;
 
-    QDialog dialog(m_dialogParent);
-    dialog.setWindowTitle(QObject::tr("Software Update"));
-    dialog.resize(560, 420);
-    auto *layout = new QHBoxLayout(&dialog);
+    auto *dialog = new QDialog(m_dialogParent);
+    dialog->setWindowTitle(QObject::tr("Software Update"));
+    dialog->resize(560, 420);
+    auto *layout = new QHBoxLayout(dialog);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(16);
 
     auto *symbol = new QLabel;
     symbol->setPixmap(Symbols::pixmap(
-        QStringLiteral("eyedropper"), 48, Theme::accent(), dialog.devicePixelRatioF()));
+        QStringLiteral("eyedropper"), 48, Theme::accent(), dialog->devicePixelRatioF()));
     symbol->setFixedSize(48, 48);
     layout->addWidget(symbol, 0, Qt::AlignTop);
 
@@ -129,23 +136,24 @@ UpdateUserInterface::Choice DialogUpdateInterface::askAboutUpdate(
     column->addSpacing(8);
     column->addLayout(buttons);
 
-    // Closing the dialog any other way means "not now".
-    Choice choice = Choice::remindLater;
-    QObject::connect(skip, &QPushButton::clicked, &dialog, [&] {
-        choice = Choice::skipThisVersion;
-        dialog.accept();
-    });
-    QObject::connect(later, &QPushButton::clicked, &dialog, [&] {
-        choice = Choice::remindLater;
-        dialog.accept();
-    });
-    QObject::connect(download, &QPushButton::clicked, &dialog, [&] {
-        choice = Choice::download;
-        dialog.accept();
+    // The result code is the button's choice; closing the dialog any other way (Escape, the
+    // window's close button) rejects it, which means "not now".
+    const auto answerWith = [dialog](QPushButton *button, Choice choice) {
+        QObject::connect(
+            button, &QPushButton::clicked, dialog, [dialog, choice] { dialog->done(choiceResult(choice)); });
+    };
+    answerWith(skip, Choice::skipThisVersion);
+    answerWith(later, Choice::remindLater);
+    answerWith(download, Choice::download);
+    QObject::connect(dialog, &QDialog::finished, dialog, [onChoice = std::move(onChoice)](int result) {
+        for (const Choice choice : { Choice::download, Choice::skipThisVersion }) {
+            if (result == choiceResult(choice))
+                return onChoice(choice);
+        }
+        onChoice(Choice::remindLater);
     });
     download->setFocus();
-    dialog.exec();
-    return choice;
+    m_dialogs.open(dialog);
 }
 
 void DialogUpdateInterface::downloadStarted(const AppcastItem &update, std::function<void()> onCancel)
@@ -196,11 +204,11 @@ void DialogUpdateInterface::downloadEnded()
 
 void DialogUpdateInterface::showDownloadFailed(const QString &message)
 {
-    QMessageBox box(QMessageBox::Warning, QObject::tr("Software Update"), QObject::tr("Update Failed"),
-        QMessageBox::NoButton, m_dialogParent);
-    box.setInformativeText(message);
-    box.addButton(QObject::tr("OK"), QMessageBox::AcceptRole);
-    box.exec();
+    auto *box = new QMessageBox(QMessageBox::Warning, QObject::tr("Software Update"),
+        QObject::tr("Update Failed"), QMessageBox::NoButton, m_dialogParent);
+    box->setInformativeText(message);
+    box->addButton(QObject::tr("OK"), QMessageBox::AcceptRole);
+    m_dialogs.open(box);
 }
 
 void DialogUpdateInterface::showDownloadReady(

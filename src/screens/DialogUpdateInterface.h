@@ -1,5 +1,6 @@
 #pragma once
 
+#include "services/AsyncDialogs.h"
 #include "services/UpdateUserInterface.h"
 
 #include <QPointer>
@@ -10,7 +11,8 @@ class QWidget;
 
 // The updater's questions and reports as desktop dialogs: the up-to-date box, the update offer
 // with its release notes, a progress dialog with Cancel, the failure box and the "downloaded"
-// box that can show the file in the file manager. Main thread only.
+// box that can show the file in the file manager. Main thread only. Dialogs still open when this
+// goes are closed without an answer.
 class DialogUpdateInterface : public UpdateUserInterface {
 public:
     // `dialogParent` may be null (a tray program usually has no window open).
@@ -20,8 +22,8 @@ public:
     DialogUpdateInterface &operator=(const DialogUpdateInterface &) = delete;
 
     void showUpToDate(const QString &name, const QString &version) override;
-    Choice askAboutUpdate(
-        const AppcastItem &update, const QString &name, const QString &currentVersion) override;
+    void askAboutUpdate(const AppcastItem &update, const QString &name, const QString &currentVersion,
+        std::function<void(Choice)> onChoice) override;
     void downloadStarted(const AppcastItem &update, std::function<void()> onCancel) override;
     void downloadProgressed(qint64 received, qint64 total) override;
     void downloadEnded() override;
@@ -38,4 +40,5 @@ private:
     QPointer<QWidget> m_dialogParent;
     QString m_applicationName;
     QPointer<QProgressDialog> m_progress;
+    AsyncDialogs m_dialogs;
 };

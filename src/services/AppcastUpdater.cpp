@@ -113,19 +113,23 @@ void AppcastUpdater::presentUpdate(const QByteArray &feed)
 void AppcastUpdater::offerUpdate(const AppcastItem &update)
 {
     beginCheck(); // no second check while the user decides
-    const UpdateUserInterface::Choice choice = m_ui.askAboutUpdate(update, m_bundle.name, m_bundle.version);
-    endCheck();
-    switch (choice) {
-    case UpdateUserInterface::Choice::download:
-        if (canCheckForUpdates())
-            startDownload(update, false);
-        break;
-    case UpdateUserInterface::Choice::skipThisVersion:
-        m_store.setString(PreferenceKeys::skippedUpdateVersion, update.version);
-        break;
-    case UpdateUserInterface::Choice::remindLater:
-        break;
-    }
+    m_ui.askAboutUpdate(update, m_bundle.name, m_bundle.version,
+        [self = QPointer(this), update](UpdateUserInterface::Choice choice) {
+            if (!self)
+                return;
+            self->endCheck();
+            switch (choice) {
+            case UpdateUserInterface::Choice::download:
+                if (self->canCheckForUpdates())
+                    self->startDownload(update, false);
+                break;
+            case UpdateUserInterface::Choice::skipThisVersion:
+                self->m_store.setString(PreferenceKeys::skippedUpdateVersion, update.version);
+                break;
+            case UpdateUserInterface::Choice::remindLater:
+                break;
+            }
+        });
 }
 
 void AppcastUpdater::beginCheck()

@@ -1,26 +1,28 @@
 #include "services/SettingsViewModel.h"
 
-#include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/SettingsStore.h"
 
 namespace SettingsViewModel {
 
 ColorFormat currentFormat(const SettingsStore &store)
 {
-    const QString raw = store.stringForKey(PreferenceKeys::colorFormat).value_or(QStringLiteral("Hex"));
+    const QString raw
+        = store.stringForKey(Preferences::colorFormat.key).value_or(Preferences::colorFormat.defaultValue);
     return colorFormatFromRawValue(raw).value_or(ColorFormat::hex);
 }
 
 QVariantMap registeredDefaults()
 {
+    using namespace Preferences;
     return {
-        {PreferenceKeys::colorFormat, QStringLiteral("Hex")},
-        {PreferenceKeys::launchAtLogin, true},
-        {PreferenceKeys::showColorDot, false},
-        {PreferenceKeys::historyLimit, 50},
-        {PreferenceKeys::pickKeyCode, -1},
-        {PreferenceKeys::popoverKeyCode, -1},
-        {PreferenceKeys::onboardingShown, false},
+        colorFormat.registration(),
+        launchAtLogin.registration(),
+        showColorDot.registration(),
+        historyLimit.registration(),
+        pickShortcut.registration(),
+        popoverShortcut.registration(),
+        onboardingShown.registration(),
     };
 }
 

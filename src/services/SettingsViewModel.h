@@ -13,8 +13,8 @@ namespace SettingsViewModel {
 // hex for a value that names no format.
 ColorFormat currentFormat(const SettingsStore &store);
 
-// The seven registered defaults: format "Hex", launch at login on, no colour dot, history
-// limit 50, shortcuts not yet set (-1), welcome not yet shown.
+// The seven registered defaults of services/Preferences.h: format, launch at login, colour dot,
+// history limit, both shortcuts not yet set, welcome not yet shown.
 QVariantMap registeredDefaults();
 void registerDefaults(SettingsStore &store);
 

@@ -7,8 +7,9 @@ struct AppcastItem;
 
 // What the updater shows the user. The desktop backend uses dialogs; tests answer in code.
 //
-// A backend must guarantee: main thread only; the methods marked modal return only after the
-// user answered; none of them calls back into the updater except through `onCancel`.
+// A backend must guarantee: main thread only; every method returns at once, without waiting for
+// the user, so no check or download sits half done inside a nested event loop; none of them
+// calls back into the updater except through `onChoice` and `onCancel`.
 class UpdateUserInterface {
 public:
     enum class Choice { download, remindLater, skipThisVersion };
@@ -17,9 +18,10 @@ public:
 
     // Modal: "You're up to date!" with "<name> <version> is the latest version.".
     virtual void showUpToDate(const QString &name, const QString &version) = 0;
-    // Modal: a newer release with its notes; the user chooses what to do.
-    virtual Choice askAboutUpdate(
-        const AppcastItem &update, const QString &name, const QString &currentVersion)
+    // Modal: a newer release with its notes. `onChoice` runs exactly once with what the user
+    // chose, unless the interface is destroyed first.
+    virtual void askAboutUpdate(const AppcastItem &update, const QString &name, const QString &currentVersion,
+        std::function<void(Choice)> onChoice)
         = 0;
     // A download the user asked for: progress until `downloadEnded`. `onCancel` stops it.
     virtual void downloadStarted(const AppcastItem &update, std::function<void()> onCancel) = 0;

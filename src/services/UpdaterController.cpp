@@ -3,6 +3,7 @@
 #include "services/AppcastUpdater.h"
 #include "services/BoundedFetch.h"
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/SettingsStore.h"
 #include "services/UpdateUserInterface.h"
 
@@ -18,7 +19,7 @@ UpdaterController::UpdaterController(SettingsStore &store, QNetworkAccessManager
     , m_ui(ui)
     , m_bundle(std::move(bundle))
 {
-    m_store.registerDefaults({ { PreferenceKeys::automaticallyUpdate, true } });
+    m_store.registerDefaults({ Preferences::automaticallyUpdate.registration() });
     m_updater = std::make_unique<AppcastUpdater>(store, network, ui, m_bundle);
     setAutomaticallyDownloadsUpdates(m_store.boolForKey(PreferenceKeys::automaticallyUpdate));
     connect(m_updater.get(), &AppcastUpdater::canCheckForUpdatesChanged, this,

@@ -10,6 +10,7 @@
 #include "screens/SettingsView.h"
 #include "screens/SettingsWindow.h"
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/XdgAutostartService.h"
 #include "support/HistoryFakes.h"
 #include "support/TempSettings.h"
@@ -50,12 +51,10 @@ protected:
 TEST_F(AppDelegateTest, FirstLaunchSeedsBothShortcutsAndGreets)
 {
     launch();
-    EXPECT_EQ(settings.store->integerForKey(pickKeyCode), 8);
-    EXPECT_EQ(settings.store->integerForKey(pickModifiers), 655360);
-    EXPECT_EQ(settings.store->stringForKey(pickKeyChar), QStringLiteral("C"));
-    EXPECT_EQ(settings.store->integerForKey(popoverKeyCode), 7);
-    EXPECT_EQ(settings.store->integerForKey(popoverModifiers), 655360);
-    EXPECT_EQ(settings.store->stringForKey(popoverKeyChar), QStringLiteral("X"));
+    EXPECT_EQ(
+        Preferences::pickShortcut.read(*settings.store), (StoredShortcut { 8, 655360, QStringLiteral("C") }));
+    EXPECT_EQ(Preferences::popoverShortcut.read(*settings.store),
+        (StoredShortcut { 7, 655360, QStringLiteral("X") }));
     // The seeded shortcuts are live at once, not at the next launch.
     ASSERT_EQ(shortcuts.registered.size(), 2);
     ASSERT_NE(delegate->onboardingWindow(), nullptr);

@@ -7,6 +7,7 @@
 #include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/SettingsStore.h"
 
 #include <QDir>
@@ -15,12 +16,9 @@
 
 namespace {
 
-void checkShortcut(SettingsStore &store, const QString &keyCodeKey, const QString &modifiersKey,
-                   const QString &keyCharKey)
+void checkShortcut(SettingsStore &store, const ShortcutPreference &preference)
 {
-    const qint64 keyCode = store.integerForKey(keyCodeKey);
-    const qint64 modifiers = store.integerForKey(modifiersKey);
-    const QString keyChar = store.stringForKey(keyCharKey).value_or(QString());
+    const auto [keyCode, modifiers, keyChar] = preference.read(store);
 
     const QString display = KeyCodes::shortcutDesktopText(modifiers, keyChar);
     FUZZ_CHECK(display.isEmpty() == (keyChar.isEmpty() || modifiers < 0));
@@ -54,9 +52,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     }
     {
         SettingsStore store(path);
-        checkShortcut(store, PreferenceKeys::pickKeyCode, PreferenceKeys::pickModifiers, PreferenceKeys::pickKeyChar);
-        checkShortcut(store, PreferenceKeys::popoverKeyCode, PreferenceKeys::popoverModifiers,
-                      PreferenceKeys::popoverKeyChar);
+        checkShortcut(store, Preferences::pickShortcut);
+        checkShortcut(store, Preferences::popoverShortcut);
         (void)store.boolForKey(PreferenceKeys::showColorDot);
         (void)store.integerForKey(PreferenceKeys::historyLimit);
         (void)store.stringForKey(PreferenceKeys::colorFormat);

@@ -1,6 +1,7 @@
 #include "hotkeys/HotkeyRecorderView.h"
 
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "support/TempSettings.h"
 
 #include <QApplication>
@@ -20,9 +21,7 @@ namespace {
 struct Pane {
     Pane()
     {
-        settings.store->setInteger(pickKeyCode, 7);
-        settings.store->setInteger(pickModifiers, 262144);
-        settings.store->setString(pickKeyChar, QStringLiteral("X"));
+        Preferences::pickShortcut.write(*settings.store, { 7, 262144, QStringLiteral("X") });
         recorder = new HotkeyRecorderView(QStringLiteral("Pick color"), *settings.store, pickKeyCode, pickModifiers,
             pickKeyChar, [this] { ++changes; }, {}, &window);
         recorder->setOnRecordingChanged([this](bool isRecording) { recordingChanges << isRecording; });

@@ -1,12 +1,15 @@
 #include "screens/DialogUpdateInterface.h"
 
-#include "ModalAnswer.h"
 #include "services/Appcast.h"
 
+#include <QApplication>
+#include <QLabel>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTest>
 #include <gtest/gtest.h>
+#include <string_view>
 
 namespace {
 
@@ -30,7 +33,7 @@ QProgressDialog *progressDialog()
 
 } // namespace
 
-TEST(DialogUpdateInterface, UpdateOfferReturnsTheButtonThePersonChose)
+TEST(DialogUpdateInterface, UpdateOfferAnswersWithTheButtonThePersonChose)
 {
     using Choice = UpdateUserInterface::Choice;
     const struct {
@@ -45,10 +48,23 @@ TEST(DialogUpdateInterface, UpdateOfferReturnsTheButtonThePersonChose)
     for (const auto &row : rows) {
         SCOPED_TRACE(row.answer);
         DialogUpdateInterface ui;
-        ModalAnswer answer { QString::fromLatin1(row.answer) };
-        EXPECT_EQ(ui.askAboutUpdate(release(), QStringLiteral("Vantle"), QStringLiteral("1.0")), row.choice);
-        EXPECT_TRUE(answer.texts.join(u'\n').contains(QStringLiteral("Vantle 1.4 is now available")))
-            << answer.texts.join(u'\n').toStdString();
+        QList<Choice> choices;
+        ui.askAboutUpdate(release(), QStringLiteral("Vantle"), QStringLiteral("1.0"),
+            [&](Choice choice) { choices << choice; });
+        QWidget *dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_TRUE(choices.isEmpty()) << "answered before the person did";
+        const QList<QLabel *> labels = dialog->findChildren<QLabel *>();
+        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(),
+            [](QLabel *label) { return label->text().contains(u"Vantle 1.4 is now available"); }));
+        const QList<QPushButton *> buttons = dialog->findChildren<QPushButton *>();
+        const auto button = std::find_if(buttons.begin(), buttons.end(),
+            [&](QPushButton *b) { return b->text() == QLatin1String(row.answer); });
+        if (button != buttons.end())
+            QTest::mouseClick(*button, Qt::LeftButton);
+        else
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        EXPECT_EQ(choices, QList<Choice> { row.choice });
     }
 }
 

@@ -17,7 +17,6 @@
 #include <QNetworkAccessManager>
 #include <QStyleFactory>
 #include <QTemporaryDir>
-#include <QTimer>
 
 namespace {
 class ShowcaseLoginItems : public LoginItemService {
@@ -85,10 +84,8 @@ int main(int argc, char **argv)
         "src=\"https://example.com/track.png\">");
 
     if (what == QLatin1String("update")) {
-        QTimer::singleShot(0, [&] {
-            updateInterface.askAboutUpdate(update, QStringLiteral("Vantle"), QStringLiteral("1.0"));
-            app.quit();
-        });
+        updateInterface.askAboutUpdate(
+            update, QStringLiteral("Vantle"), QStringLiteral("1.0"), [&](auto) { app.quit(); });
     } else if (what == QLatin1String("progress")) {
         updateInterface.downloadStarted(update, [] {});
         updateInterface.downloadProgressed(3'400'000, 9'100'000);

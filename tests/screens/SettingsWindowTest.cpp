@@ -53,9 +53,10 @@ public:
 class QuietUpdateInterface : public UpdateUserInterface {
 public:
     void showUpToDate(const QString &, const QString &) override { ++upToDateCount; }
-    Choice askAboutUpdate(const AppcastItem &, const QString &, const QString &) override
+    void askAboutUpdate(
+        const AppcastItem &, const QString &, const QString &, std::function<void(Choice)> onChoice) override
     {
-        return Choice::remindLater;
+        onChoice(Choice::remindLater);
     }
     void downloadStarted(const AppcastItem &, std::function<void()>) override { }
     void downloadProgressed(qint64, qint64) override { }

@@ -38,10 +38,11 @@ public:
     {
         upToDateTexts << name + QLatin1Char(' ') + version + QStringLiteral(" is the latest version.");
     }
-    Choice askAboutUpdate(const AppcastItem &update, const QString &, const QString &) override
+    void askAboutUpdate(const AppcastItem &update, const QString &, const QString &,
+        std::function<void(Choice)> onChoice) override
     {
         offered << update;
-        return answer;
+        onChoice(answer);
     }
     void downloadStarted(const AppcastItem &, std::function<void()>) override { downloading = true; }
     void downloadProgressed(qint64, qint64) override { ++progressReports; }

@@ -73,11 +73,11 @@ public:
         bool asJSON = false;
     };
 
-    std::optional<QString> chooseExportFile(
-        const QString &folder, const QString &proposedName, bool asJSON) override
+    void chooseExportFile(
+        const QString &folder, const QString &proposedName, bool asJSON, Completion onChosen) override
     {
         saveRequests.append({ folder, proposedName, asJSON });
-        return chosenPath;
+        onChosen(chosenPath);
     }
     void showExportFailed(const QString &description) override { failures.append(description); }
 

@@ -192,25 +192,26 @@ void SettingsView::requestHistoryLimit(qint64 limit)
     // shows (the person's choice has already moved it).
     showHistoryLimit();
 
-    QMessageBox alert(this);
-    alert.setIcon(QMessageBox::Warning);
-    alert.setWindowTitle(tr("Reduce History"));
-    alert.setText(tr("Reduce History"));
-    alert.setInformativeText(m_colorsToRemoveCount == 1
+    auto *alert = new QMessageBox(this);
+    alert->setIcon(QMessageBox::Warning);
+    alert->setWindowTitle(tr("Reduce History"));
+    alert->setText(tr("Reduce History"));
+    alert->setInformativeText(m_colorsToRemoveCount == 1
             ? tr("This will remove the oldest 1 color.")
             : tr("This will remove the oldest %1 colors.").arg(QString::number(m_colorsToRemoveCount)));
-    QPushButton *continueButton = alert.addButton(tr("Continue"), QMessageBox::DestructiveRole);
-    QPushButton *cancelButton = alert.addButton(tr("Cancel"), QMessageBox::RejectRole);
-    alert.setDefaultButton(cancelButton);
-    alert.setEscapeButton(cancelButton);
-    alert.exec();
-
-    if (alert.clickedButton() == continueButton)
-        confirmHistoryReduction();
-    // Cancel, Escape or closing the box: the limit stays as it was.
-    m_pendingHistoryLimit.reset();
-    m_colorsToRemoveCount = 0;
-    showHistoryLimit();
+    QPushButton *continueButton = alert->addButton(tr("Continue"), QMessageBox::DestructiveRole);
+    QPushButton *cancelButton = alert->addButton(tr("Cancel"), QMessageBox::RejectRole);
+    alert->setDefaultButton(cancelButton);
+    alert->setEscapeButton(cancelButton);
+    connect(alert, &QDialog::finished, this, [this, alert, continueButton] {
+        if (alert->clickedButton() == continueButton)
+            confirmHistoryReduction();
+        // Cancel, Escape or closing the box: the limit stays as it was.
+        m_pendingHistoryLimit.reset();
+        m_colorsToRemoveCount = 0;
+        showHistoryLimit();
+    });
+    m_dialogs.open(alert);
 }
 
 void SettingsView::confirmHistoryReduction()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "services/AsyncDialogs.h"
+
 #include <QPointer>
 #include <QWidget>
 #include <optional>
@@ -74,6 +76,7 @@ private:
     int m_selectedTab = generalTab;
     // A lower limit waiting for the user's answer, and how many colours it would remove.
     std::optional<qint64> m_pendingHistoryLimit;
+    AsyncDialogs m_dialogs; // the Reduce History alert, answered without a nested event loop
     qint64 m_colorsToRemoveCount = 0;
 
     QList<QAbstractButton *> m_tabButtons;

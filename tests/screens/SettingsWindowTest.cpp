@@ -172,6 +172,9 @@ TEST(SettingsView, LoweringTheHistoryLimitAsksBeforeRemovingColors)
         QString limitBehindAlert;
         alert.whileShown = [&] { limitBehindAlert = view->historyLimitPicker()->currentText(); };
         choose(view->historyLimitPicker(), QString::fromLatin1(row.choice));
+        if (row.answer) { // the alert answers itself once it is up; the choice returned at once
+            EXPECT_TRUE(QTest::qWaitFor([&] { return alert.wasShown; }, 5000));
+        }
 
         EXPECT_EQ(alert.wasShown, row.answer != nullptr);
         if (row.answer) {

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Vantle: `make run` starts the program, `make test` runs every test.
 BUILD_DIR ?= build
 BUILD_TYPE ?= RelWithDebInfo

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Measures Vantle from the outside, as a person meets it, against the floor programs of this
 // folder, on the X server named by DISPLAY (a private Xvfb with openbox and trayer, started by
 // run-bench.sh). Nothing here polls: one X connection listens to the root and to every window
@@ -54,7 +55,8 @@ namespace {
 
 double nowMs()
 {
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now().time_since_epoch()).count();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now().time_since_epoch())
+        .count();
 }
 
 [[noreturn]] void die(const std::string &message)
@@ -74,7 +76,7 @@ Child spawn(const std::vector<std::string> &argv, bool captureOutput = false)
 {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    int pipeFds[2] = {-1, -1};
+    int pipeFds[2] = { -1, -1 };
     if (captureOutput) {
         if (pipe2(pipeFds, O_CLOEXEC) != 0)
             die("pipe failed");
@@ -106,8 +108,7 @@ bool exited(pid_t pid)
 int waitExit(pid_t pid)
 {
     int status = 0;
-    while (waitpid(pid, &status, 0) < 0 && errno == EINTR) {
-    }
+    while (waitpid(pid, &status, 0) < 0 && errno == EINTR) { }
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
@@ -125,7 +126,7 @@ void stop(Child &child)
 // Waits for a line on the child's output (the floor overlay's "ready").
 bool readLine(const Child &child, int timeoutMs)
 {
-    pollfd fd {child.out, POLLIN, 0};
+    pollfd fd { child.out, POLLIN, 0 };
     if (poll(&fd, 1, timeoutMs) <= 0)
         return false;
     char buffer[64];
@@ -269,18 +270,20 @@ public:
             const double left = deadline - nowMs();
             if (left <= 0)
                 return false;
-            pollfd fd {xcb_get_file_descriptor(m_connection), POLLIN, 0};
+            pollfd fd { xcb_get_file_descriptor(m_connection), POLLIN, 0 };
             poll(&fd, 1, int(left) + 1);
         }
     }
 
     // Drains what has arrived, so that "the next map" means one after this moment.
-    void settle() { waitUntil([] { return true; }, 0); }
+    void settle()
+    {
+        waitUntil([] { return true; }, 0);
+    }
 
     // The next window to become viewable (after `since`) that `accept` takes.
-    std::optional<std::pair<xcb_window_t, double>> nextMapped(double since,
-                                                              const std::function<bool(xcb_window_t)> &accept,
-                                                              double timeoutMs = 10000)
+    std::optional<std::pair<xcb_window_t, double>> nextMapped(
+        double since, const std::function<bool(xcb_window_t)> &accept, double timeoutMs = 10000)
     {
         std::optional<std::pair<xcb_window_t, double>> found;
         waitUntil(
@@ -326,12 +329,14 @@ public:
     bool isFullScreenOverlay(xcb_window_t window)
     {
         auto it = m_windows.find(window);
-        return it != m_windows.end() && it->second.overrideRedirect && (isFullScreen(window) || isLoupe(window));
+        return it != m_windows.end() && it->second.overrideRedirect
+            && (isFullScreen(window) || isLoupe(window));
     }
 
     bool isFullScreen(xcb_window_t window)
     {
-        xcb_get_geometry_reply_t *g = xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr);
+        xcb_get_geometry_reply_t *g
+            = xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr);
         const bool full = g && g->width >= width && g->height >= height;
         std::free(g);
         return full;
@@ -339,13 +344,13 @@ public:
 
     std::string className(xcb_window_t window)
     {
-        xcb_get_property_reply_t *reply = xcb_get_property_reply(
-            m_connection, xcb_get_property(m_connection, 0, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 16), nullptr);
+        xcb_get_property_reply_t *reply = xcb_get_property_reply(m_connection,
+            xcb_get_property(m_connection, 0, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 16), nullptr);
         std::string name;
         if (reply)
             name = std::string(static_cast<const char *>(xcb_get_property_value(reply)),
-                               strnlen(static_cast<const char *>(xcb_get_property_value(reply)),
-                                       size_t(xcb_get_property_value_length(reply))));
+                strnlen(static_cast<const char *>(xcb_get_property_value(reply)),
+                    size_t(xcb_get_property_value_length(reply))));
         std::free(reply);
         return name;
     }
@@ -358,7 +363,8 @@ public:
         if (it == m_windows.end() || it->second.parent == m_root || ownerPid(window) != pid)
             return false;
         for (xcb_window_t at = window;;) {
-            xcb_query_tree_reply_t *tree = xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, at), nullptr);
+            xcb_query_tree_reply_t *tree
+                = xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, at), nullptr);
             if (!tree)
                 return false;
             at = tree->parent;
@@ -406,7 +412,8 @@ public:
         message.type = m_wmProtocols;
         message.data.data32[0] = m_wmDelete;
         message.data.data32[1] = XCB_CURRENT_TIME;
-        xcb_send_event(m_connection, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char *>(&message));
+        xcb_send_event(
+            m_connection, 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char *>(&message));
         xcb_flush(m_connection);
     }
 
@@ -416,8 +423,8 @@ public:
     {
         const xcb_setup_t *setup = xcb_get_setup(m_connection);
         const int count = setup->max_keycode - setup->min_keycode + 1;
-        xcb_get_keyboard_mapping_reply_t *mapping = xcb_get_keyboard_mapping_reply(
-            m_connection, xcb_get_keyboard_mapping(m_connection, setup->min_keycode, uint8_t(count)), nullptr);
+        xcb_get_keyboard_mapping_reply_t *mapping = xcb_get_keyboard_mapping_reply(m_connection,
+            xcb_get_keyboard_mapping(m_connection, setup->min_keycode, uint8_t(count)), nullptr);
         xcb_keycode_t found = 0;
         if (mapping) {
             const xcb_keysym_t *syms = xcb_get_keyboard_mapping_keysyms(mapping);
@@ -462,7 +469,8 @@ public:
 
     void click(int x, int y)
     {
-        xcb_test_fake_input(m_connection, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_root, int16_t(x), int16_t(y), 0);
+        xcb_test_fake_input(
+            m_connection, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_root, int16_t(x), int16_t(y), 0);
         fake(XCB_BUTTON_PRESS, 1);
         fake(XCB_BUTTON_RELEASE, 1);
         xcb_flush(m_connection);
@@ -470,7 +478,8 @@ public:
 
     void movePointer(int x, int y)
     {
-        xcb_test_fake_input(m_connection, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_root, int16_t(x), int16_t(y), 0);
+        xcb_test_fake_input(
+            m_connection, XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, m_root, int16_t(x), int16_t(y), 0);
         xcb_flush(m_connection);
     }
 
@@ -486,8 +495,8 @@ private:
 
     bool hasProperty(xcb_window_t window, xcb_atom_t property)
     {
-        xcb_get_property_reply_t *reply = xcb_get_property_reply(
-            m_connection, xcb_get_property(m_connection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, 1), nullptr);
+        xcb_get_property_reply_t *reply = xcb_get_property_reply(m_connection,
+            xcb_get_property(m_connection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, 1), nullptr);
         const bool has = reply && reply->type != XCB_ATOM_NONE;
         std::free(reply);
         return has;
@@ -495,8 +504,8 @@ private:
 
     pid_t ownerPid(xcb_window_t window)
     {
-        xcb_get_property_reply_t *reply = xcb_get_property_reply(
-            m_connection, xcb_get_property(m_connection, 0, window, m_wmPid, XCB_ATOM_CARDINAL, 0, 1), nullptr);
+        xcb_get_property_reply_t *reply = xcb_get_property_reply(m_connection,
+            xcb_get_property(m_connection, 0, window, m_wmPid, XCB_ATOM_CARDINAL, 0, 1), nullptr);
         pid_t pid = -1;
         if (reply && xcb_get_property_value_length(reply) == 4)
             pid = pid_t(*static_cast<uint32_t *>(xcb_get_property_value(reply)));
@@ -513,7 +522,8 @@ private:
         w.overrideRedirect = overrideRedirect;
         const uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
         xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &mask);
-        xcb_query_tree_reply_t *tree = xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr);
+        xcb_query_tree_reply_t *tree
+            = xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr);
         xcb_get_window_attributes_reply_t *attributes = xcb_get_window_attributes_reply(
             m_connection, xcb_get_window_attributes(m_connection, window), nullptr);
         if (tree)
@@ -587,17 +597,19 @@ struct Figures {
     QString size;
     QFile file;
 
-    void add(const QString &figure, const QString &program, const QString &unit, const std::vector<double> &samples)
+    void add(const QString &figure, const QString &program, const QString &unit,
+        const std::vector<double> &samples)
     {
         QJsonArray values;
         for (double v : samples)
             values.append(v);
-        const QJsonObject object {{QStringLiteral("figure"), figure},   {QStringLiteral("program"), program},
-                                  {QStringLiteral("size"), size},       {QStringLiteral("unit"), unit},
-                                  {QStringLiteral("samples"), values}};
+        const QJsonObject object { { QStringLiteral("figure"), figure },
+            { QStringLiteral("program"), program }, { QStringLiteral("size"), size },
+            { QStringLiteral("unit"), unit }, { QStringLiteral("samples"), values } };
         file.write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
         file.flush();
-        std::fprintf(stderr, "  %s [%s] %zu samples\n", qPrintable(figure), qPrintable(program), samples.size());
+        std::fprintf(
+            stderr, "  %s [%s] %zu samples\n", qPrintable(figure), qPrintable(program), samples.size());
     }
 };
 
@@ -609,7 +621,8 @@ struct Options {
     int idleSeconds = 60;
     int picks = 100;
     int toggles = 20;
-    QStringList only {QStringLiteral("start"), QStringLiteral("pick"), QStringLiteral("idle"), QStringLiteral("export")};
+    QStringList only { QStringLiteral("start"), QStringLiteral("pick"), QStringLiteral("idle"),
+        QStringLiteral("export") };
 };
 
 // A configuration folder for Vantle, welcome already seen unless `firstRun`.
@@ -643,7 +656,8 @@ double startDocked(Observer &x, const std::string &program, Child &child, std::v
         const pid_t pid = child.pid;
         std::optional<std::pair<xcb_window_t, double>> icon;
         x.waitUntil([&] {
-            icon = x.nextMapped(start, [&](xcb_window_t w) { return x.isTrayIconOf(w, pid); }, 0);
+            icon = x.nextMapped(
+                start, [&](xcb_window_t w) { return x.isTrayIconOf(w, pid); }, 0);
             return icon.has_value() || exited(pid);
         });
         if (icon)
@@ -706,7 +720,8 @@ void measureStart(Observer &x, const Options &o, const QString &home, Figures &o
         // 15 s for the confirmations to go and anything temporary to be given back.
         if (run < 3) {
             for (int pick = 0; pick < 4; ++pick)
-                timeOverlay(x, [&] { return x.altShift(keyC); }, true);
+                timeOverlay(
+                    x, [&] { return x.altShift(keyC); }, true);
             std::this_thread::sleep_for(std::chrono::seconds(15));
             vantleAfterPicks.push_back(rssMiB(child.pid));
         }
@@ -718,7 +733,7 @@ void measureStart(Observer &x, const Options &o, const QString &home, Figures &o
         floorRss.push_back(rssMiB(child.pid));
         stop(child);
 
-        child = spawn({o.floorOverlay}, true);
+        child = spawn({ o.floorOverlay }, true);
         if (!readLine(child, 10000))
             die("the floor overlay never became ready");
         floorFirst.push_back(timeOverlay(x, [&] { return x.altShift(keyV); }));
@@ -728,10 +743,13 @@ void measureStart(Observer &x, const Options &o, const QString &home, Figures &o
     out.add(QStringLiteral("start_docked"), QStringLiteral("floor"), QStringLiteral("ms"), floorDock);
     out.add(QStringLiteral("rss_start"), QStringLiteral("vantle"), QStringLiteral("MiB"), vantleRss);
     out.add(QStringLiteral("rss_start"), QStringLiteral("floor"), QStringLiteral("MiB"), floorRss);
-    out.add(QStringLiteral("rss_after_picks"), QStringLiteral("vantle"), QStringLiteral("MiB"), vantleAfterPicks);
+    out.add(
+        QStringLiteral("rss_after_picks"), QStringLiteral("vantle"), QStringLiteral("MiB"), vantleAfterPicks);
     out.add(QStringLiteral("rss_after_picks"), QStringLiteral("floor"), QStringLiteral("MiB"), floorRss);
-    out.add(QStringLiteral("shortcut_loupe_first"), QStringLiteral("vantle"), QStringLiteral("ms"), vantleFirst);
-    out.add(QStringLiteral("shortcut_loupe_first"), QStringLiteral("floor"), QStringLiteral("ms"), floorFirst);
+    out.add(
+        QStringLiteral("shortcut_loupe_first"), QStringLiteral("vantle"), QStringLiteral("ms"), vantleFirst);
+    out.add(
+        QStringLiteral("shortcut_loupe_first"), QStringLiteral("floor"), QStringLiteral("ms"), floorFirst);
 }
 
 // Steady picks by shortcut (Vantle and the floor overlay, one after the other) and by
@@ -741,7 +759,7 @@ void measurePicks(Observer &x, const Options &o, const QString &home, Figures &o
     useConfig(prepareConfig(home, QStringLiteral("picks"), false));
     Child vantle, floor;
     startDocked(x, o.vantle, vantle);
-    floor = spawn({o.floorOverlay}, true);
+    floor = spawn({ o.floorOverlay }, true);
     if (!readLine(floor, 10000))
         die("the floor overlay never became ready");
     std::vector<double> vantleSteady, floorSteady, command;
@@ -750,7 +768,7 @@ void measurePicks(Observer &x, const Options &o, const QString &home, Figures &o
         const double f = timeOverlay(x, [&] { return x.altShift(keyV); });
         double c = timeOverlay(x, [&] {
             const double at = nowMs();
-            Child request = spawn({o.vantle, "pick"});
+            Child request = spawn({ o.vantle, "pick" });
             waitExit(request.pid);
             return at;
         });
@@ -762,8 +780,10 @@ void measurePicks(Observer &x, const Options &o, const QString &home, Figures &o
     }
     stop(vantle);
     stop(floor);
-    out.add(QStringLiteral("shortcut_loupe_steady"), QStringLiteral("vantle"), QStringLiteral("ms"), vantleSteady);
-    out.add(QStringLiteral("shortcut_loupe_steady"), QStringLiteral("floor"), QStringLiteral("ms"), floorSteady);
+    out.add(QStringLiteral("shortcut_loupe_steady"), QStringLiteral("vantle"), QStringLiteral("ms"),
+        vantleSteady);
+    out.add(
+        QStringLiteral("shortcut_loupe_steady"), QStringLiteral("floor"), QStringLiteral("ms"), floorSteady);
     out.add(QStringLiteral("command_loupe"), QStringLiteral("vantle"), QStringLiteral("ms"), command);
 }
 
@@ -777,13 +797,14 @@ void togglePopup(Observer &x, const Options &o, pid_t pid)
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
         x.settle();
         const double at = nowMs();
-        waitExit(spawn({o.vantle, "toggle"}).pid);
-        popup = x.nextMapped(at, [&](xcb_window_t w) { return x.isManagedWindowOf(w, pid); }, 3000);
+        waitExit(spawn({ o.vantle, "toggle" }).pid);
+        popup = x.nextMapped(
+            at, [&](xcb_window_t w) { return x.isManagedWindowOf(w, pid); }, 3000);
     }
     if (!popup)
         die("vantle toggle brought no popup up");
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
-    waitExit(spawn({o.vantle, "toggle"}).pid);
+    waitExit(spawn({ o.vantle, "toggle" }).pid);
     if (!x.waitHidden(popup->first))
         die("vantle toggle did not close the popup");
 }
@@ -817,14 +838,14 @@ void measureIdle(Observer &x, const Options &o, const QString &home, Figures &ou
         std::this_thread::sleep_for(std::chrono::seconds(o.idleSeconds));
         const Activity v1 = activity(pid), f1 = activity(floor.pid);
         out.add(figure + QStringLiteral("_ticks"), QStringLiteral("vantle"), QStringLiteral("ticks"),
-                {double(v1.ticks - v0.ticks)});
+            { double(v1.ticks - v0.ticks) });
         out.add(figure + QStringLiteral("_switches"), QStringLiteral("vantle"), QStringLiteral("switches"),
-                {double(switchesBetween(v0, v1))});
+            { double(switchesBetween(v0, v1)) });
         if (withFloor) {
             out.add(figure + QStringLiteral("_ticks"), QStringLiteral("floor"), QStringLiteral("ticks"),
-                    {double(f1.ticks - f0.ticks)});
+                { double(f1.ticks - f0.ticks) });
             out.add(figure + QStringLiteral("_switches"), QStringLiteral("floor"), QStringLiteral("switches"),
-                    {double(switchesBetween(f0, f1))});
+                { double(switchesBetween(f0, f1)) });
         }
     };
     std::fprintf(stderr, "  idle after start (%d s)\n", o.idleSeconds);
@@ -832,7 +853,8 @@ void measureIdle(Observer &x, const Options &o, const QString &home, Figures &ou
     const double rssBefore = rssMiB(pid);
 
     const double pickedFrom = nowMs();
-    timeOverlay(x, [&] { return x.altShift(keyC); }, true);
+    timeOverlay(
+        x, [&] { return x.altShift(keyC); }, true);
     x.movePointer(x.width / 2, x.height / 2);
     // The "Copied" confirmation comes up a moment after the loupe goes: the idle window starts
     // once it has come and gone, not in the moment between.
@@ -849,17 +871,20 @@ void measureIdle(Observer &x, const Options &o, const QString &home, Figures &ou
 
     std::fprintf(stderr, "  %d picks and %d popups\n", o.picks, o.toggles);
     for (int i = 0; i < o.picks; ++i)
-        timeOverlay(x, [&] { return x.altShift(keyC); }, true);
+        timeOverlay(
+            x, [&] { return x.altShift(keyC); }, true);
     for (int i = 0; i < o.toggles; ++i)
         togglePopup(x, o, pid);
     std::this_thread::sleep_for(std::chrono::seconds(2));
     const double rssAfter = rssMiB(pid);
-    out.add(QStringLiteral("rss_before_use"), QStringLiteral("vantle"), QStringLiteral("MiB"), {rssBefore});
-    out.add(QStringLiteral("rss_after_use"), QStringLiteral("vantle"), QStringLiteral("MiB"), {rssAfter});
-    out.add(QStringLiteral("rss_after_first_use"), QStringLiteral("vantle"), QStringLiteral("MiB"), {rssAfterFirstUse});
-    out.add(QStringLiteral("rss_growth"), QStringLiteral("vantle"), QStringLiteral("MiB"), {rssAfter - rssBefore});
+    out.add(QStringLiteral("rss_before_use"), QStringLiteral("vantle"), QStringLiteral("MiB"), { rssBefore });
+    out.add(QStringLiteral("rss_after_use"), QStringLiteral("vantle"), QStringLiteral("MiB"), { rssAfter });
+    out.add(QStringLiteral("rss_after_first_use"), QStringLiteral("vantle"), QStringLiteral("MiB"),
+        { rssAfterFirstUse });
+    out.add(QStringLiteral("rss_growth"), QStringLiteral("vantle"), QStringLiteral("MiB"),
+        { rssAfter - rssBefore });
     out.add(QStringLiteral("rss_growth_after_first_use"), QStringLiteral("vantle"), QStringLiteral("MiB"),
-            {rssAfter - rssAfterFirstUse});
+        { rssAfter - rssAfterFirstUse });
     stop(vantle);
     stop(floor);
 }
@@ -870,8 +895,8 @@ void measureExport(const Options &o, const QString &home, Figures &out)
     QList<PickedColor> colors;
     QRandomGenerator random(12);
     for (int i = 0; i < 10000; ++i) {
-        PickedColor c = PickedColor::fromSample(random.generateDouble(), random.generateDouble(),
-                                                random.generateDouble(), 1.0);
+        PickedColor c = PickedColor::fromSample(
+            random.generateDouble(), random.generateDouble(), random.generateDouble(), 1.0);
         if (i % 7 == 0)
             c.name = QStringLiteral("Colour %1").arg(i);
         c.isPinned = i % 50 == 0;
@@ -887,7 +912,7 @@ void measureExport(const Options &o, const QString &home, Figures &out)
     std::vector<double> times;
     for (int run = 0; run <= o.runs; ++run) {
         const double at = nowMs();
-        Child child = spawn({o.vantle, "export"}, true);
+        Child child = spawn({ o.vantle, "export" }, true);
         size_t lines = 0;
         char buffer[65536];
         ssize_t n;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // The in-process benchmarks' figures, in the harness's form: one JSON object a line,
@@ -28,14 +29,14 @@ inline QString screenSize()
 }
 
 inline void record(const QString &figure, const QString &unit, const std::vector<double> &samples,
-                   const QString &size = screenSize())
+    const QString &size = screenSize())
 {
     QJsonArray values;
     for (double v : samples)
         values.append(v);
-    const QJsonObject object {{QStringLiteral("figure"), figure}, {QStringLiteral("program"), QStringLiteral("vantle")},
-                              {QStringLiteral("size"), size},     {QStringLiteral("unit"), unit},
-                              {QStringLiteral("samples"), values}};
+    const QJsonObject object { { QStringLiteral("figure"), figure },
+        { QStringLiteral("program"), QStringLiteral("vantle") }, { QStringLiteral("size"), size },
+        { QStringLiteral("unit"), unit }, { QStringLiteral("samples"), values } };
     const QByteArray line = QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
     const QByteArray path = qgetenv("VANTLE_BENCH_OUT");
     QFile file;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Turns the figures of bench_harness, sampler_bench and history_bench (JSON, one object a line)
 // into the tables people read: each figure's median (min–max) for Vantle and its floor, their
 // ratio, the goal and whether it is met.
@@ -7,6 +8,7 @@
 // With --require, fails when a named figure is missing or any sample is not a finite number
 // that is zero or more: the harness's self-test uses that.
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -16,7 +18,6 @@
 #include <QStringList>
 #include <QSysInfo>
 #include <QTextStream>
-#include <QDateTime>
 #include <QThread>
 
 #include <algorithm>
@@ -50,10 +51,10 @@ QString key(const QString &figure, const QString &program, const QString &size)
 
 // How a goal is judged.
 enum class Goal {
-    None,          // shown for reference
-    RatioToFloor,  // Vantle's median ≤ limit × the floor's median
-    Absolute,      // Vantle's median ≤ limit
-    Zero,          // every sample is 0
+    None, // shown for reference
+    RatioToFloor, // Vantle's median ≤ limit × the floor's median
+    Absolute, // Vantle's median ≤ limit
+    Zero, // every sample is 0
 };
 
 struct RowSpec {
@@ -66,42 +67,58 @@ struct RowSpec {
 const std::vector<RowSpec> &rowSpecs()
 {
     static const std::vector<RowSpec> specs {
-        {QStringLiteral("start_docked"), QStringLiteral("start → tray icon docked"), Goal::RatioToFloor, 1.2},
-        {QStringLiteral("rss_start"), QStringLiteral("RSS 2 s after start"), Goal::RatioToFloor, 1.3},
-        {QStringLiteral("rss_after_picks"), QStringLiteral("RSS 15 s after 5 picks (floor: 2 s after start)"),
-         Goal::RatioToFloor, 1.3},
-        {QStringLiteral("rss_growth"), QStringLiteral("RSS growth: after 100 picks + 20 popups − after start"),
-         Goal::Absolute, 2.0},
-        {QStringLiteral("rss_growth_after_first_use"),
-         QStringLiteral("RSS growth: after 100 picks + 20 popups − after the first pick and popup"), Goal::None, 0},
-        {QStringLiteral("shortcut_loupe_steady"), QStringLiteral("shortcut → loupe viewable"), Goal::Absolute, 25.0},
-        {QStringLiteral("shortcut_loupe_first"), QStringLiteral("shortcut → loupe viewable, first pick after start"),
-         Goal::Absolute, 25.0},
-        {QStringLiteral("command_loupe"), QStringLiteral("`vantle pick` → loupe viewable"), Goal::Absolute, 40.0},
-        {QStringLiteral("idle_after_start_ticks"), QStringLiteral("idle CPU ticks, after start"), Goal::Zero, 0},
-        {QStringLiteral("idle_after_start_switches"), QStringLiteral("idle context switches, after start"), Goal::Zero, 0},
-        {QStringLiteral("idle_after_pick_ticks"), QStringLiteral("idle CPU ticks, after a pick"), Goal::Zero, 0},
-        {QStringLiteral("idle_after_pick_switches"), QStringLiteral("idle context switches, after a pick"), Goal::Zero, 0},
-        {QStringLiteral("idle_after_popup_ticks"), QStringLiteral("idle CPU ticks, after the popup"), Goal::Zero, 0},
-        {QStringLiteral("idle_after_popup_switches"), QStringLiteral("idle context switches, after the popup"), Goal::Zero,
-         0},
-        {QStringLiteral("loupe_redraw"), QStringLiteral("loupe redraw per pointer move, largest zoom"), Goal::Absolute, 2.0},
-        {QStringLiteral("loupe_redraw_worst"), QStringLiteral("slowest pointer move of a run, largest zoom"),
-         Goal::Absolute, 16.7},
-        {QStringLiteral("sampler_loupe_mapped"), QStringLiteral("in process: pick() → loupe mapped"), Goal::None, 0},
-        {QStringLiteral("sampler_first_frame"), QStringLiteral("in process: pick() → loupe's first frame on screen"),
-         Goal::None, 0},
-        {QStringLiteral("history_load_save_500"), QStringLiteral("history load + save, 500 colours"), Goal::Absolute,
-         2.0},
-        {QStringLiteral("history_load_save_10000"), QStringLiteral("history load + save, 10,000 colours"),
-         Goal::Absolute, 30.0},
-        {QStringLiteral("history_load_10000"), QStringLiteral("…of which load"), Goal::None, 0},
-        {QStringLiteral("history_save_10000"), QStringLiteral("…of which save"), Goal::None, 0},
-        {QStringLiteral("popup_100_first_paint"), QStringLiteral("popup with 100 rows → first paint"), Goal::Absolute, 16.0},
-        {QStringLiteral("export_10000"), QStringLiteral("`vantle export` of 10,000 colours"), Goal::Absolute, 100.0},
-        {QStringLiteral("rss_before_use"), QStringLiteral("RSS before the 100 picks + 20 popups"), Goal::None, 0},
-        {QStringLiteral("rss_after_first_use"), QStringLiteral("RSS after the first pick and popup"), Goal::None, 0},
-        {QStringLiteral("rss_after_use"), QStringLiteral("RSS after the 100 picks + 20 popups"), Goal::None, 0},
+        { QStringLiteral("start_docked"), QStringLiteral("start → tray icon docked"), Goal::RatioToFloor,
+            1.2 },
+        { QStringLiteral("rss_start"), QStringLiteral("RSS 2 s after start"), Goal::RatioToFloor, 1.3 },
+        { QStringLiteral("rss_after_picks"),
+            QStringLiteral("RSS 15 s after 5 picks (floor: 2 s after start)"), Goal::RatioToFloor, 1.3 },
+        { QStringLiteral("rss_growth"),
+            QStringLiteral("RSS growth: after 100 picks + 20 popups − after start"), Goal::Absolute, 2.0 },
+        { QStringLiteral("rss_growth_after_first_use"),
+            QStringLiteral("RSS growth: after 100 picks + 20 popups − after the first pick and popup"),
+            Goal::None, 0 },
+        { QStringLiteral("shortcut_loupe_steady"), QStringLiteral("shortcut → loupe viewable"),
+            Goal::Absolute, 25.0 },
+        { QStringLiteral("shortcut_loupe_first"),
+            QStringLiteral("shortcut → loupe viewable, first pick after start"), Goal::Absolute, 25.0 },
+        { QStringLiteral("command_loupe"), QStringLiteral("`vantle pick` → loupe viewable"), Goal::Absolute,
+            40.0 },
+        { QStringLiteral("idle_after_start_ticks"), QStringLiteral("idle CPU ticks, after start"), Goal::Zero,
+            0 },
+        { QStringLiteral("idle_after_start_switches"), QStringLiteral("idle context switches, after start"),
+            Goal::Zero, 0 },
+        { QStringLiteral("idle_after_pick_ticks"), QStringLiteral("idle CPU ticks, after a pick"), Goal::Zero,
+            0 },
+        { QStringLiteral("idle_after_pick_switches"), QStringLiteral("idle context switches, after a pick"),
+            Goal::Zero, 0 },
+        { QStringLiteral("idle_after_popup_ticks"), QStringLiteral("idle CPU ticks, after the popup"),
+            Goal::Zero, 0 },
+        { QStringLiteral("idle_after_popup_switches"),
+            QStringLiteral("idle context switches, after the popup"), Goal::Zero, 0 },
+        { QStringLiteral("loupe_redraw"), QStringLiteral("loupe redraw per pointer move, largest zoom"),
+            Goal::Absolute, 2.0 },
+        { QStringLiteral("loupe_redraw_worst"), QStringLiteral("slowest pointer move of a run, largest zoom"),
+            Goal::Absolute, 16.7 },
+        { QStringLiteral("sampler_loupe_mapped"), QStringLiteral("in process: pick() → loupe mapped"),
+            Goal::None, 0 },
+        { QStringLiteral("sampler_first_frame"),
+            QStringLiteral("in process: pick() → loupe's first frame on screen"), Goal::None, 0 },
+        { QStringLiteral("history_load_save_500"), QStringLiteral("history load + save, 500 colours"),
+            Goal::Absolute, 2.0 },
+        { QStringLiteral("history_load_save_10000"), QStringLiteral("history load + save, 10,000 colours"),
+            Goal::Absolute, 30.0 },
+        { QStringLiteral("history_load_10000"), QStringLiteral("…of which load"), Goal::None, 0 },
+        { QStringLiteral("history_save_10000"), QStringLiteral("…of which save"), Goal::None, 0 },
+        { QStringLiteral("popup_100_first_paint"), QStringLiteral("popup with 100 rows → first paint"),
+            Goal::Absolute, 16.0 },
+        { QStringLiteral("export_10000"), QStringLiteral("`vantle export` of 10,000 colours"), Goal::Absolute,
+            100.0 },
+        { QStringLiteral("rss_before_use"), QStringLiteral("RSS before the 100 picks + 20 popups"),
+            Goal::None, 0 },
+        { QStringLiteral("rss_after_first_use"), QStringLiteral("RSS after the first pick and popup"),
+            Goal::None, 0 },
+        { QStringLiteral("rss_after_use"), QStringLiteral("RSS after the 100 picks + 20 popups"), Goal::None,
+            0 },
     };
     return specs;
 }
@@ -124,8 +141,9 @@ QJsonObject seriesJson(const Series &s)
     QJsonArray samples;
     for (double v : s.samples)
         samples.append(v);
-    return {{QStringLiteral("median"), s.median()}, {QStringLiteral("min"), s.min()}, {QStringLiteral("max"), s.max()},
-            {QStringLiteral("runs"), int(s.samples.size())}, {QStringLiteral("samples"), samples}};
+    return { { QStringLiteral("median"), s.median() }, { QStringLiteral("min"), s.min() },
+        { QStringLiteral("max"), s.max() }, { QStringLiteral("runs"), int(s.samples.size()) },
+        { QStringLiteral("samples"), samples } };
 }
 
 } // namespace
@@ -186,7 +204,9 @@ int main(int argc, char **argv)
                 sizes.append(size);
         }
     }
-    std::sort(sizes.begin(), sizes.end(), [](const QString &a, const QString &b) { return a.size() < b.size() || (a.size() == b.size() && a < b); });
+    std::sort(sizes.begin(), sizes.end(), [](const QString &a, const QString &b) {
+        return a.size() < b.size() || (a.size() == b.size() && a < b);
+    });
     for (const QString &figure : required) {
         bool found = false;
         for (auto it = figures.constBegin(); it != figures.constEnd(); ++it)
@@ -199,7 +219,8 @@ int main(int argc, char **argv)
 
     QString md;
     QTextStream table(&md);
-    table << "| figure | screen | Vantle | floor | Vantle ÷ floor | goal | met |\n|---|---|---|---|---|---|---|\n";
+    table << "| figure | screen | Vantle | floor | Vantle ÷ floor | goal | met "
+             "|\n|---|---|---|---|---|---|---|\n";
     QJsonArray rows;
     int missed = 0;
     QStringList allSizes = sizes;
@@ -236,14 +257,16 @@ int main(int argc, char **argv)
             }
             if (met && !*met)
                 ++missed;
-            table << "| " << spec.title << " (" << vantle->unit << ") | " << (size.isEmpty() ? QStringLiteral("–") : size)
-                  << " | " << cell(*vantle) << " | " << (hasFloor ? cell(*floor) : QStringLiteral("–")) << " | "
+            table << "| " << spec.title << " (" << vantle->unit << ") | "
+                  << (size.isEmpty() ? QStringLiteral("–") : size) << " | " << cell(*vantle) << " | "
+                  << (hasFloor ? cell(*floor) : QStringLiteral("–")) << " | "
                   << (ratio ? QStringLiteral("%1×").arg(number(*ratio)) : QStringLiteral("–")) << " | "
                   << (goal.isEmpty() ? QStringLiteral("–") : goal) << " | "
-                  << (met ? (*met ? QStringLiteral("yes") : QStringLiteral("**no**")) : QStringLiteral("–")) << " |\n";
-            QJsonObject row {{QStringLiteral("figure"), spec.figure}, {QStringLiteral("title"), spec.title},
-                             {QStringLiteral("size"), size},      {QStringLiteral("unit"), vantle->unit},
-                             {QStringLiteral("vantle"), seriesJson(*vantle)}};
+                  << (met ? (*met ? QStringLiteral("yes") : QStringLiteral("**no**")) : QStringLiteral("–"))
+                  << " |\n";
+            QJsonObject row { { QStringLiteral("figure"), spec.figure },
+                { QStringLiteral("title"), spec.title }, { QStringLiteral("size"), size },
+                { QStringLiteral("unit"), vantle->unit }, { QStringLiteral("vantle"), seriesJson(*vantle) } };
             if (hasFloor)
                 row.insert(QStringLiteral("floor"), seriesJson(*floor));
             if (ratio)
@@ -258,15 +281,18 @@ int main(int argc, char **argv)
     table.flush();
 
     const QString when = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyy-MM-dd HH:mm 'UTC'"));
-    const QString machine = QStringLiteral("%1, %2 cores").arg(QSysInfo::prettyProductName()).arg(QThread::idealThreadCount());
+    const QString machine
+        = QStringLiteral("%1, %2 cores").arg(QSysInfo::prettyProductName()).arg(QThread::idealThreadCount());
     if (!mdPath.isEmpty()) {
         QSaveFile file(mdPath);
         if (file.open(QIODevice::WriteOnly)) {
             QTextStream out(&file);
-            out << "# Vantle: speed and footprint\n\n" << when << ", " << machine
+            out << "# Vantle: speed and footprint\n\n"
+                << when << ", " << machine
                 << ". Xvfb with openbox and trayer; median (min–max) over the runs; the floor is the "
                    "bare Qt program doing the same job in the same run.\n\n"
-                << md << "\n" << missed << " goal(s) missed.\n";
+                << md << "\n"
+                << missed << " goal(s) missed.\n";
             out.flush();
             file.commit();
         }
@@ -274,8 +300,8 @@ int main(int argc, char **argv)
     if (!jsonPath.isEmpty()) {
         QSaveFile file(jsonPath);
         if (file.open(QIODevice::WriteOnly)) {
-            const QJsonObject root {{QStringLiteral("date"), when}, {QStringLiteral("machine"), machine},
-                                    {QStringLiteral("missed"), missed}, {QStringLiteral("rows"), rows}};
+            const QJsonObject root { { QStringLiteral("date"), when }, { QStringLiteral("machine"), machine },
+                { QStringLiteral("missed"), missed }, { QStringLiteral("rows"), rows } };
             file.write(QJsonDocument(root).toJson());
             file.commit();
         }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The floor for the loupe: the fastest a Qt 6 program puts a freeze-frame of the desktop on
 // the screen. A passive key grab on the root (Alt+Shift+V, so it never competes with Vantle's
 // Alt+Shift+C), an MIT-SHM capture of the root into memory shared with the X server, and one
@@ -84,8 +85,8 @@ public:
         xcb_shm_attach(connection, m_segment, uint32_t(m_shmId), 0);
         m_trigger = keycodeFor(connection, keysymV);
         m_escape = keycodeFor(connection, 0xff1b);
-        xcb_grab_key(connection, 1, m_root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT, m_trigger, XCB_GRAB_MODE_ASYNC,
-                     XCB_GRAB_MODE_ASYNC);
+        xcb_grab_key(connection, 1, m_root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT, m_trigger,
+            XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
         free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
         m_overlay.setGeometry(QGuiApplication::primaryScreen()->geometry());
         m_overlay.winId(); // the native window exists before the first trigger
@@ -97,9 +98,9 @@ public:
         if ((event->response_type & ~0x80) == XCB_MAP_NOTIFY
             && static_cast<xcb_map_notify_event_t *>(message)->window == xcb_window_t(m_overlay.winId())) {
             free(xcb_grab_keyboard_reply(m_connection,
-                                         xcb_grab_keyboard(m_connection, 1, m_root, XCB_CURRENT_TIME,
-                                                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
-                                         nullptr));
+                xcb_grab_keyboard(
+                    m_connection, 1, m_root, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                nullptr));
             return false;
         }
         if ((event->response_type & ~0x80) != XCB_KEY_PRESS)
@@ -121,10 +122,9 @@ public:
 private:
     void capture()
     {
-        xcb_shm_get_image_reply_t *reply = xcb_shm_get_image_reply(
-            m_connection,
-            xcb_shm_get_image(m_connection, m_root, 0, 0, m_width, m_height, ~0u, XCB_IMAGE_FORMAT_Z_PIXMAP,
-                              m_segment, 0),
+        xcb_shm_get_image_reply_t *reply = xcb_shm_get_image_reply(m_connection,
+            xcb_shm_get_image(
+                m_connection, m_root, 0, 0, m_width, m_height, ~0u, XCB_IMAGE_FORMAT_Z_PIXMAP, m_segment, 0),
             nullptr);
         std::free(reply);
         m_overlay.image = QImage(m_memory, m_width, m_height, QImage::Format_RGB32);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The floor for start-up and footprint: the least a Qt 6 Widgets program does to put an icon
 // in the system tray — an application object, one icon drawn in memory, a tray icon, the event
 // loop. Vantle's start, memory and idle figures are read against this program's, measured on
@@ -21,7 +22,7 @@ int main(int argc, char **argv)
         painter.setPen(Qt::NoPen);
         painter.drawEllipse(QRectF(6, 6, 32, 32));
     }
-    QSystemTrayIcon icon {QIcon(pixmap)};
+    QSystemTrayIcon icon { QIcon(pixmap) };
     icon.show();
     return QApplication::exec();
 }

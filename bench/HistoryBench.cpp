@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The history at scale, timed inside the program (the figures the outside cannot see):
 //   - load + save of 10,000 colours: opening the settings file, decoding the history into the
 //     model, then pinning a colour, which writes it back to disk (atomically, as every save does);
@@ -16,8 +17,8 @@
 #include "services/SettingsViewModel.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -79,7 +80,7 @@ int main(int argc, char **argv)
     FakeExportDialogs dialogs;
 
     // A history as people keep it (the limit and a palette) and one far beyond any real use.
-    for (const int count : {500, 10000}) {
+    for (const int count : { 500, 10000 }) {
         QDir(dir.path()).mkdir(QString::number(count));
         const QString folder = dir.filePath(QString::number(count));
         const QString original = folder + QStringLiteral("/original.conf");
@@ -101,8 +102,8 @@ int main(int argc, char **argv)
             model.togglePin(model.colors().at(1));
             const double total = clock.nsecsElapsed() / 1e6;
             if (model.colors().size() != count) {
-                std::fprintf(stderr, "history bench: %lld colours loaded, not %d\n", (long long)model.colors().size(),
-                    count);
+                std::fprintf(stderr, "history bench: %lld colours loaded, not %d\n",
+                    (long long)model.colors().size(), count);
                 return 1;
             }
             if (run == 0)
@@ -112,7 +113,8 @@ int main(int argc, char **argv)
             loadSave.push_back(total);
         }
         const QString suffix = QStringLiteral("_%1").arg(count);
-        bench::record(QStringLiteral("history_load_save") + suffix, QStringLiteral("ms"), loadSave, QString());
+        bench::record(
+            QStringLiteral("history_load_save") + suffix, QStringLiteral("ms"), loadSave, QString());
         bench::record(QStringLiteral("history_load") + suffix, QStringLiteral("ms"), load, QString());
         bench::record(QStringLiteral("history_save") + suffix, QStringLiteral("ms"), save, QString());
     }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Measures the X11 sampler as the user meets it, on the X server named by DISPLAY:
 //   - trigger → loupe mapped: from pick() to the loupe window's MapNotify, seen on a second X
 //     connection that listens to the root window (event driven, as another client sees it);
@@ -47,8 +48,9 @@ using bench::median;
 
 bool isDark(xcb_connection_t *connection, xcb_window_t root, QPoint at)
 {
-    xcb_get_image_reply_t *reply = xcb_get_image_reply(
-        connection, xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, root, int16_t(at.x()), int16_t(at.y()), 1, 1, ~0u),
+    xcb_get_image_reply_t *reply = xcb_get_image_reply(connection,
+        xcb_get_image(
+            connection, XCB_IMAGE_FORMAT_Z_PIXMAP, root, int16_t(at.x()), int16_t(at.y()), 1, 1, ~0u),
         nullptr);
     if (!reply)
         return false;
@@ -87,7 +89,8 @@ int main(int argc, char **argv)
 
     const QRect screen = QGuiApplication::primaryScreen()->geometry();
     const QPoint hotspot = screen.center();
-    xcb_warp_pointer(x11->connection(), XCB_NONE, root, 0, 0, 0, 0, int16_t(hotspot.x()), int16_t(hotspot.y()));
+    xcb_warp_pointer(
+        x11->connection(), XCB_NONE, root, 0, 0, 0, 0, int16_t(hotspot.x()), int16_t(hotspot.y()));
     xcb_flush(x11->connection());
 
     X11ScreenSampler sampler(x11->connection());
@@ -99,7 +102,8 @@ int main(int argc, char **argv)
         QSocketNotifier notifier(xcb_get_file_descriptor(observer), QSocketNotifier::Read);
         auto drain = [&] {
             while (xcb_generic_event_t *event = xcb_poll_for_event(observer)) {
-                if ((event->response_type & ~0x80) == XCB_MAP_NOTIFY && mapMs < 0 && sampler.loupeWindow() != 0
+                if ((event->response_type & ~0x80) == XCB_MAP_NOTIFY && mapMs < 0
+                    && sampler.loupeWindow() != 0
                     && reinterpret_cast<xcb_map_notify_event_t *>(event)->window == sampler.loupeWindow())
                     mapMs = clock.nsecsElapsed() / 1e6;
                 std::free(event);
@@ -115,7 +119,8 @@ int main(int argc, char **argv)
         // The loupe's label, dark on the bright scene, is on the screen: the first frame is there.
         const int gap = int(18 * QGuiApplication::primaryScreen()->devicePixelRatio());
         const int d = int(132 * QGuiApplication::primaryScreen()->devicePixelRatio());
-        const QPoint label(hotspot.x() + 1 + gap + d / 2, hotspot.y() + 1 + gap + d + int(8 * QGuiApplication::primaryScreen()->devicePixelRatio()));
+        const QPoint label(hotspot.x() + 1 + gap + d / 2,
+            hotspot.y() + 1 + gap + d + int(8 * QGuiApplication::primaryScreen()->devicePixelRatio()));
         while (!isDark(observer, root, label) && clock.elapsed() < 5000)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
         const double frameMs = clock.nsecsElapsed() / 1e6;
@@ -134,7 +139,8 @@ int main(int argc, char **argv)
             move.start();
             sampler.moveHotspot(at);
             QCoreApplication::processEvents();
-            free(xcb_get_input_focus_reply(x11->connection(), xcb_get_input_focus(x11->connection()), nullptr));
+            free(xcb_get_input_focus_reply(
+                x11->connection(), xcb_get_input_focus(x11->connection()), nullptr));
             moves.push_back(move.nsecsElapsed() / 1e6);
         }
         // A right click cancels.
@@ -143,7 +149,8 @@ int main(int argc, char **argv)
         xcb_flush(observer);
         while (!done)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
-        xcb_warp_pointer(x11->connection(), XCB_NONE, root, 0, 0, 0, 0, int16_t(hotspot.x()), int16_t(hotspot.y()));
+        xcb_warp_pointer(
+            x11->connection(), XCB_NONE, root, 0, 0, 0, 0, int16_t(hotspot.x()), int16_t(hotspot.y()));
         QTest::qWait(50);
         if (run == 0)
             continue;

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Vantle's speed and footprint next to the floor programs, on private X desktops (Xvfb, openbox,
 # trayer, a private session bus; tests/desktop/x11-session.sh) at 1920x1080 and 3840x2160.
 # Never touches the user's own desktop or settings.

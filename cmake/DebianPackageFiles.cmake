@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Run by CPack while it stages the Debian package (CPACK_INSTALL_SCRIPTS in Packaging.cmake):
 # the files only the package carries, which `cmake --install` has no use for. The changelog is
 # written here, not at configure time, so that it is signed by the maintainer the package is

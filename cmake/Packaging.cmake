@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The Debian package (`make package`, or `cmake --build build --target package`): everything
 # `cmake --install` puts under /usr, with its runtime dependencies declared.
 set(VANTLE_PACKAGE_MAINTAINER "" CACHE STRING "Maintainer of the Debian package, as \"Name <address>\"")

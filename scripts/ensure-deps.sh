@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # ensure-deps.sh LIST...: makes sure the Debian packages named in scripts/packages/LIST.txt
 # are installed. As root it installs what is missing with apt-get; otherwise it prints the
 # exact command to run and fails.

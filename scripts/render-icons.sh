@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Regenerates the application icon's PNG sizes in data/icons/hicolor from the scalable SVG.
 # Run after editing data/icons/hicolor/scalable/apps/vantle.svg and commit the results. The two
 # smallest sizes come from data/icons/vantle-small.svg, a simplified drawing that stays legible.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # run-fuzzers.sh BIN_DIR SEED_CORPUS_DIR OUT_DIR SECONDS
 # Runs every fuzz_<target> in BIN_DIR for SECONDS, starting from the seeds in
 # SEED_CORPUS_DIR/<target>. New inputs go to OUT_DIR/corpus/<target> (the seed folders stay as

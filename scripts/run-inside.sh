@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs inside the virtual desktop of run.sh: starts Vantle, takes a first screenshot and prints
 # how to drive it from another terminal.
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # run.sh VANTLE: starts Vantle in the user's graphical session. Without one (a server, a
 # container, CI), it starts a virtual X desktop with a window manager and a system tray, runs
 # Vantle inside it, and says how to drive it.

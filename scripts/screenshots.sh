@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Remakes the README's pictures of Vantle from the real program, on a private X desktop
 # (tests/desktop/x11-session.sh: Xvfb, openbox, a tray), with a history made for the purpose:
 #   docs/screenshots/popup.png    the popup with pinned and recent colours

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ColorArgument.h"
 
 #include "model/NumberText.h"
@@ -19,7 +20,8 @@ std::optional<ColorComponents> parseHex(QStringView text)
     for (QChar c : text) // toUInt tolerates a sign or blanks; a colour has six digits
         if (!c.isDigit() && !(c.toLower() >= u'a' && c.toLower() <= u'f'))
             return std::nullopt;
-    return ColorComponents{((value >> 16) & 0xFF) / 255.0, ((value >> 8) & 0xFF) / 255.0, (value & 0xFF) / 255.0, 1.0};
+    return ColorComponents { ((value >> 16) & 0xFF) / 255.0, ((value >> 8) & 0xFF) / 255.0,
+        (value & 0xFF) / 255.0, 1.0 };
 }
 
 std::optional<ColorComponents> parseDecimal(const QString &text)
@@ -27,7 +29,7 @@ std::optional<ColorComponents> parseDecimal(const QString &text)
     const QStringList parts = text.split(u',');
     if (parts.size() != 3 && parts.size() != 4)
         return std::nullopt;
-    double values[4] = {0, 0, 0, 1};
+    double values[4] = { 0, 0, 0, 1 };
     for (qsizetype i = 0; i < parts.size(); ++i) {
         const QByteArray number = parts[i].trimmed().toLatin1();
         const auto value = NumberText::parseFinite(std::string_view(number.constData(), number.size()));
@@ -35,7 +37,7 @@ std::optional<ColorComponents> parseDecimal(const QString &text)
             return std::nullopt;
         values[i] = *value;
     }
-    return ColorComponents{values[0], values[1], values[2], values[3]};
+    return ColorComponents { values[0], values[1], values[2], values[3] };
 }
 
 } // namespace

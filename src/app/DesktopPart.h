@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // The desktop part of Vantle (widgets, the tray, the loupe, X11 and Wayland) is a module that

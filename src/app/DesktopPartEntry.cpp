@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CommandLine.h"
 #include "app/DesktopPart.h"
 #include "app/TrayApplication.h"
@@ -24,6 +25,6 @@ extern "C" Q_DECL_EXPORT int vantleDesktopMain(int argc, char **argv)
     QTextStream err(stderr);
     SettingsStore store(SettingsStore::standardFilePath());
     SettingsViewModel::registerDefaults(store);
-    CommandContext context{out, err, store};
+    CommandContext context { out, err, store };
     return runPickPrintCommand(args, context);
 }

@@ -1,8 +1,9 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CommandLine.h"
 #include "history/PaletteExport.h"
-#include "services/AtomicFile.h"
 #include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
+#include "services/AtomicFile.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"

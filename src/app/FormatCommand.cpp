@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ColorArgument.h"
 #include "app/CommandLine.h"
 #include "model/Contrast.h"
@@ -38,10 +39,12 @@ int runFormatCommand(const QStringList &args, CommandContext &context)
             else if (i + 1 < args.size())
                 name = args[++i];
             else
-                return usageError(QStringLiteral("--format needs a format name; accepted: ") + acceptedFormatsText());
+                return usageError(
+                    QStringLiteral("--format needs a format name; accepted: ") + acceptedFormatsText());
             format = parseFormatArgument(name);
             if (!format)
-                return usageError(QStringLiteral("unknown format \"%1\"; accepted: %2").arg(name, acceptedFormatsText()));
+                return usageError(
+                    QStringLiteral("unknown format \"%1\"; accepted: %2").arg(name, acceptedFormatsText()));
         } else if (word == u"--all" || word == u"-a") {
             all = true;
         } else if (word == u"--contrast" || word == u"-c") {
@@ -56,7 +59,8 @@ int runFormatCommand(const QStringList &args, CommandContext &context)
         } else if (word.startsWith(u'-') && word.size() > 1 && !word[1].isDigit() && word[1] != u'.') {
             return usageError(QStringLiteral("unknown option \"%1\"").arg(word));
         } else {
-            return usageError(QStringLiteral("cannot read the colour \"%1\"; accepted: %2").arg(word, acceptedColorsText()));
+            return usageError(QStringLiteral("cannot read the colour \"%1\"; accepted: %2")
+                                  .arg(word, acceptedColorsText()));
         }
     }
     if (all && format)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/InstanceClient.h"
 
 #include "app/AppIdentity.h"
@@ -22,7 +23,8 @@ constexpr int requestTimeoutMs = 5000;
 
 int openLockFile()
 {
-    return ::open(QFile::encodeName(InstanceChannel::lockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    return ::open(
+        QFile::encodeName(InstanceChannel::lockPath()).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
 }
 
 struct flock wholeFile(short type)
@@ -95,7 +97,7 @@ bool sendOverSocket(const QString &method, QString *error)
         QThread::msleep(20);
     }
 
-    const timeval timeout = {requestTimeoutMs / 1000, 0};
+    const timeval timeout = { requestTimeoutMs / 1000, 0 };
     ::setsockopt(socket->fd, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof timeout);
     ::setsockopt(socket->fd, SOL_SOCKET, SO_SNDTIMEO, &timeout, sizeof timeout);
     const QByteArray request
@@ -158,8 +160,9 @@ bool sendInstanceRequest(const QString &method, QString *error)
         *error = QStringLiteral("Vantle is not running.");
         return false;
     }
-    const QDBusMessage call = QDBusMessage::createMethodCall(serviceName, QString::fromLatin1(AppIdentity::dbusObjectPath),
-                                                             QString::fromLatin1(AppIdentity::dbusInterface), method);
+    const QDBusMessage call
+        = QDBusMessage::createMethodCall(serviceName, QString::fromLatin1(AppIdentity::dbusObjectPath),
+            QString::fromLatin1(AppIdentity::dbusInterface), method);
     const QDBusMessage reply = bus.call(call, QDBus::Block, requestTimeoutMs);
     if (reply.type() == QDBusMessage::ErrorMessage) {
         *error = QStringLiteral("the running Vantle did not answer (%1).").arg(reply.errorMessage());

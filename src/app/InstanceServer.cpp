@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/InstanceServer.h"
 
 #include "app/AppIdentity.h"
@@ -21,8 +22,8 @@ std::unique_ptr<InstanceServer> InstanceServer::claim()
     std::unique_ptr<InstanceServer> server(new InstanceServer);
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (bus.isConnected()) {
-        const auto reply = bus.interface()->registerService(serviceName, QDBusConnectionInterface::DontQueueService,
-                                                            QDBusConnectionInterface::DontAllowReplacement);
+        const auto reply = bus.interface()->registerService(serviceName,
+            QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
         if (!reply.isValid() || reply.value() != QDBusConnectionInterface::ServiceRegistered)
             return nullptr;
         server->m_ownsBusName = true;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ColorArgument.h"
 #include "app/CommandLine.h"
 #include "platform/PlatformBackends.h"
@@ -22,14 +23,14 @@ int runPickPrintCommand(const QStringList &args, CommandContext &context)
             else if (i + 1 < args.size())
                 name = args[++i];
             else {
-                context.err << "vantle pick: --format needs a format name; accepted: " << acceptedFormatsText()
-                            << Qt::endl;
+                context.err << "vantle pick: --format needs a format name; accepted: "
+                            << acceptedFormatsText() << Qt::endl;
                 return ExitStatus::usage;
             }
             format = parseFormatArgument(name);
             if (!format) {
-                context.err << "vantle pick: unknown format \"" << name << "\"; accepted: " << acceptedFormatsText()
-                            << Qt::endl;
+                context.err << "vantle pick: unknown format \"" << name
+                            << "\"; accepted: " << acceptedFormatsText() << Qt::endl;
                 return ExitStatus::usage;
             }
         } else {
@@ -41,15 +42,17 @@ int runPickPrintCommand(const QStringList &args, CommandContext &context)
     std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(DesktopSession::current());
     int status = ExitStatus::failure;
     // The loupe's label already says what will be printed.
-    sampler->pick(format.value_or(SettingsViewModel::currentFormat(context.store)), [&](std::optional<SampledColor> color) {
-        if (color) {
-            // Read when the pick ends, as the tray program does, so a change made meanwhile counts.
-            const ColorFormat shown = format.value_or(SettingsViewModel::currentFormat(context.store));
-            context.out << formatColor(color->red, color->green, color->blue, color->alpha, shown) << Qt::endl;
-            status = ExitStatus::ok;
-        }
-        QCoreApplication::exit(status);
-    });
+    sampler->pick(format.value_or(SettingsViewModel::currentFormat(context.store)),
+        [&](std::optional<SampledColor> color) {
+            if (color) {
+                // Read when the pick ends, as the tray program does, so a change made meanwhile counts.
+                const ColorFormat shown = format.value_or(SettingsViewModel::currentFormat(context.store));
+                context.out << formatColor(color->red, color->green, color->blue, color->alpha, shown)
+                            << Qt::endl;
+                status = ExitStatus::ok;
+            }
+            QCoreApplication::exit(status);
+        });
     QCoreApplication::exec();
     return status;
 }

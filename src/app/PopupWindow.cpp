@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/PopupWindow.h"
 
 #include <QCursor>
@@ -198,7 +199,8 @@ void PopupWindow::hideEvent(QHideEvent *event)
     // Only a click outside closes the popup with a button down; a shortcut, `vantle toggle` or
     // Escape must not make the next toggle look like that click reaching the tray icon.
     if (!m_standalone)
-        m_closedAtMs = QGuiApplication::mouseButtons() != Qt::NoButton ? QDateTime::currentMSecsSinceEpoch() : 0;
+        m_closedAtMs
+            = QGuiApplication::mouseButtons() != Qt::NoButton ? QDateTime::currentMSecsSinceEpoch() : 0;
     Q_EMIT closed();
 }
 

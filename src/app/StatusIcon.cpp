@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/StatusIcon.h"
 
 #include "screens/Symbols.h"
@@ -27,8 +28,8 @@ QImage plainIcon(bool darkAppearance, qreal devicePixelRatio)
 {
     QImage image = canvas(symbolSize, devicePixelRatio);
     QPainter painter(&image);
-    Symbols::paint(painter, QRectF(0, 0, symbolSize, symbolSize), QStringLiteral("eyedropper"),
-                   tintFor(darkAppearance));
+    Symbols::paint(
+        painter, QRectF(0, 0, symbolSize, symbolSize), QStringLiteral("eyedropper"), tintFor(darkAppearance));
     return image;
 }
 
@@ -37,8 +38,8 @@ QImage iconWithDot(bool darkAppearance, const QColor &dotColor, qreal devicePixe
     QImage image = canvas(canvasWidth, devicePixelRatio);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    Symbols::paint(painter, QRectF(0, 0, symbolSize, symbolSize), QStringLiteral("eyedropper"),
-                   tintFor(darkAppearance));
+    Symbols::paint(
+        painter, QRectF(0, 0, symbolSize, symbolSize), QStringLiteral("eyedropper"), tintFor(darkAppearance));
     QColor opaque = dotColor;
     opaque.setAlphaF(1.0);
     painter.setPen(Qt::NoPen);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TrayApplication.h"
 
 #include "app/AppDelegate.h"
@@ -24,7 +25,7 @@
 
 namespace {
 
-int quitSignalPipe[2] = {-1, -1};
+int quitSignalPipe[2] = { -1, -1 };
 
 void writeQuitSignal(int)
 {
@@ -84,8 +85,8 @@ int runTrayApplication()
     CopyHud confirmation(desktopShowsTranslucentWindows, session.isX11());
     FileExportDialogs exportDialogs;
     std::unique_ptr<GlobalShortcutBackend> shortcuts = makeGlobalShortcutBackend(session);
-    XdgAutostartService loginItems(XdgAutostartService::standardEntryPath(),
-                                   XdgAutostartService::runningProgramPath());
+    XdgAutostartService loginItems(
+        XdgAutostartService::standardEntryPath(), XdgAutostartService::runningProgramPath());
     AppearanceMonitor appearance;
     QNetworkAccessManager network;
     DialogUpdateInterface updateInterface;
@@ -93,9 +94,9 @@ int runTrayApplication()
     AppDelegate delegate({ store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
         appearance, network, updateInterface, session.isWayland() });
     QObject::connect(instance.get(), &InstanceServer::pickRequested, &delegate, &AppDelegate::pickColor,
-                     Qt::QueuedConnection);
+        Qt::QueuedConnection);
     QObject::connect(instance.get(), &InstanceServer::togglePopoverRequested, &delegate,
-                     &AppDelegate::togglePopover, Qt::QueuedConnection);
+        &AppDelegate::togglePopover, Qt::QueuedConnection);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
     quitOnTerminationSignals(&delegate);
 

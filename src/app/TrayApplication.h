@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // Runs Vantle as the tray program of the user's session until it quits. When another Vantle

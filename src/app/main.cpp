@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "BuildInfo.h"
 #include "app/CommandLine.h"
 #include "app/DesktopPart.h"
@@ -24,10 +25,8 @@ struct Command {
 };
 
 const Command commands[] = {
-    {"format", runFormatCommand},
-    {"toggle", runToggleCommand},
-    {"export", runExportCommand},
-    {"pick", runPickRequest}, // `pick --print` runs in the desktop part
+    { "format", runFormatCommand }, { "toggle", runToggleCommand }, { "export", runExportCommand },
+    { "pick", runPickRequest }, // `pick --print` runs in the desktop part
 };
 
 int runSubcommand(const QString &name, const QStringList &args)
@@ -36,7 +35,7 @@ int runSubcommand(const QString &name, const QStringList &args)
     QTextStream err(stderr);
     SettingsStore store(SettingsStore::standardFilePath());
     SettingsViewModel::registerDefaults(store);
-    CommandContext context{out, err, store};
+    CommandContext context { out, err, store };
     for (const Command &command : commands)
         if (name == QLatin1String(command.name))
             return command.run(args, context);
@@ -49,11 +48,13 @@ int runDesktopPart(int argc, char **argv)
 {
     char self[4096];
     const ssize_t length = ::readlink("/proc/self/exe", self, sizeof self - 1);
-    const QByteArray programDir = length > 0 ? QFileInfo(QString::fromLocal8Bit(self, length)).absolutePath().toLocal8Bit()
-                                             : QByteArray(".");
+    const QByteArray programDir = length > 0
+        ? QFileInfo(QString::fromLocal8Bit(self, length)).absolutePath().toLocal8Bit()
+        : QByteArray(".");
     const QByteArray path = programDir + '/' + BuildInfo::desktopPartPath;
     void *module = ::dlopen(path.constData(), RTLD_NOW | RTLD_LOCAL);
-    auto entry = module ? reinterpret_cast<DesktopPart::EntryPoint>(::dlsym(module, DesktopPart::entryPoint)) : nullptr;
+    auto entry = module ? reinterpret_cast<DesktopPart::EntryPoint>(::dlsym(module, DesktopPart::entryPoint))
+                        : nullptr;
     if (!entry) {
         QTextStream(stderr) << "vantle: the desktop part of Vantle cannot be loaded (" << ::dlerror()
                             << "). Reinstalling Vantle puts it back.\n";

@@ -1,5 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/CopyHud.h"
-
 
 #include <QApplication>
 #include <QCursor>

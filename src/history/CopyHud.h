@@ -1,11 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "history/CopyConfirmation.h"
 
 #include <QObject>
-#include <functional>
 #include <QPointer>
 #include <QTimer>
+#include <functional>
 
 class QWidget;
 

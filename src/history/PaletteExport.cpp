@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/PaletteExport.h"
 
 #include "model/ColorHistoryCodec.h"
@@ -57,4 +58,3 @@ QString proposedExportName(bool pinnedOnly, bool asJSON)
 {
     return QLatin1String(pinnedOnly ? "pinned-colors" : "colors") + QLatin1String(asJSON ? ".json" : ".txt");
 }
-

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "model/ColorFormat.h"
@@ -20,4 +21,3 @@ QByteArray exportJSON(const QList<PickedColor> &colors);
 
 // The file name the save dialog proposes: pinned-colors or colors, with .json or .txt.
 QString proposedExportName(bool pinnedOnly, bool asJSON);
-

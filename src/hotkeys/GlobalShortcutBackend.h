@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QObject>
@@ -5,8 +6,8 @@
 
 // One system-wide shortcut as a backend registers it.
 struct GlobalShortcut {
-    int id = 0;          // reported back by `activated`
-    QString name;        // stable identifier for desktops that keep shortcuts by name ("pick")
+    int id = 0; // reported back by `activated`
+    QString name; // stable identifier for desktops that keep shortcuts by name ("pick")
     QString description; // what the desktop shows next to it ("Pick a color")
     quint32 keyCode = 0; // stored key code (hotkeys/KeyCodes.h)
     qint64 modifiers = 0; // stored modifier flags; bits other than the four are ignored
@@ -41,6 +42,6 @@ class NullShortcutBackend final : public GlobalShortcutBackend {
     Q_OBJECT
 public:
     using GlobalShortcutBackend::GlobalShortcutBackend;
-    void registerShortcut(const GlobalShortcut &) override {}
-    void unregisterShortcut(int) override {}
+    void registerShortcut(const GlobalShortcut &) override { }
+    void unregisterShortcut(int) override { }
 };

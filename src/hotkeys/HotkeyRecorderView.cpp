@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "hotkeys/HotkeyRecorderView.h"
 
 #include "hotkeys/KeyCodes.h"
@@ -204,7 +205,8 @@ void HotkeyRecorderView::updateField()
     QFont font = this->font();
     QString text;
     QString style;
-    const QString box = QStringLiteral("padding: 4px 10px; border-radius: 5px; min-width: 110px; text-align: left;");
+    const QString box
+        = QStringLiteral("padding: 4px 10px; border-radius: 5px; min-width: 110px; text-align: left;");
     if (m_isRecording) {
         text = tr("Press shortcut…");
         style = QStringLiteral("QPushButton { %1 color: %2; background: %3; border: 1px solid %4; }")

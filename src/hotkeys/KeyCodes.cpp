@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "hotkeys/KeyCodes.h"
 
 #include <QStringList>
@@ -238,7 +239,7 @@ constexpr std::array keys{
 };
 // clang-format on
 
-template <typename Match> const Key *find(Match match)
+template<typename Match> const Key *find(Match match)
 {
     for (const Key &key : keys) {
         if (match(key))

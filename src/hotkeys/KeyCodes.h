@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QString>
@@ -15,10 +16,10 @@
 namespace KeyCodes {
 
 // Stored modifier flag bits. Any other bit in a stored value is ignored.
-inline constexpr qint64 shiftFlag = 131072;     // bit 17
-inline constexpr qint64 controlFlag = 262144;   // bit 18
-inline constexpr qint64 optionFlag = 524288;    // bit 19, Alt on Linux
-inline constexpr qint64 commandFlag = 1048576;  // bit 20, Super (the logo key) on Linux
+inline constexpr qint64 shiftFlag = 131072; // bit 17
+inline constexpr qint64 controlFlag = 262144; // bit 18
+inline constexpr qint64 optionFlag = 524288; // bit 19, Alt on Linux
+inline constexpr qint64 commandFlag = 1048576; // bit 20, Super (the logo key) on Linux
 inline constexpr qint64 allFlags = shiftFlag | controlFlag | optionFlag | commandFlag;
 
 inline constexpr int escapeKeyCode = 53;
@@ -48,7 +49,7 @@ QString keyNameForKeyCode(qint64 keyCode);
 struct X11ModifierBits {
     quint16 shift = 0x01;
     quint16 control = 0x04;
-    quint16 alt = 0x08;   // Mod1 on every common keymap
+    quint16 alt = 0x08; // Mod1 on every common keymap
     quint16 super = 0x40; // Mod4
 };
 quint16 x11Modifiers(qint64 storedModifiers, const X11ModifierBits &bits = {});

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/ColorFormat.h"
 
 #include "model/NumberText.h"
@@ -14,15 +15,15 @@ struct FormatNames {
 };
 
 constexpr FormatNames names[] = {
-    {ColorFormat::hex, "Hex", "hex"},
-    {ColorFormat::hexLower, "Hex (lowercase)", "hexLower"},
-    {ColorFormat::rgb, "RGB", "rgb"},
-    {ColorFormat::rgbDecimal, "RGB (decimal)", "rgbDecimal"},
-    {ColorFormat::hsl, "HSL", "hsl"},
-    {ColorFormat::hsb, "HSB/HSV", "hsb"},
-    {ColorFormat::swiftUI, "SwiftUI Color", "swiftUI"},
-    {ColorFormat::uiColor, "UIColor", "uiColor"},
-    {ColorFormat::css, "CSS rgba", "css"},
+    { ColorFormat::hex, "Hex", "hex" },
+    { ColorFormat::hexLower, "Hex (lowercase)", "hexLower" },
+    { ColorFormat::rgb, "RGB", "rgb" },
+    { ColorFormat::rgbDecimal, "RGB (decimal)", "rgbDecimal" },
+    { ColorFormat::hsl, "HSL", "hsl" },
+    { ColorFormat::hsb, "HSB/HSV", "hsb" },
+    { ColorFormat::swiftUI, "SwiftUI Color", "swiftUI" },
+    { ColorFormat::uiColor, "UIColor", "uiColor" },
+    { ColorFormat::css, "CSS rgba", "css" },
 };
 
 const FormatNames &namesOf(ColorFormat format)
@@ -41,7 +42,7 @@ Extremes extremes(double r, double g, double b)
 {
     const double max = std::max(std::max(r, g), b);
     const double min = std::min(std::min(r, g), b);
-    return {max, min, max - min};
+    return { max, min, max - min };
 }
 
 double hueDegrees(double r, double g, double b, const Extremes &e)
@@ -64,7 +65,7 @@ QString hexDigits(double r, double g, double b, bool upper)
     const char *digits = upper ? "0123456789ABCDEF" : "0123456789abcdef";
     QString text(7, QLatin1Char('#'));
     int i = 1;
-    for (double c : {r, g, b}) {
+    for (double c : { r, g, b }) {
         const int v = eightBitChannel(c);
         text[i++] = QLatin1Char(digits[v >> 4]);
         text[i++] = QLatin1Char(digits[v & 15]);
@@ -74,14 +75,15 @@ QString hexDigits(double r, double g, double b, bool upper)
 
 QString channelList(double r, double g, double b)
 {
-    return QString::number(eightBitChannel(r)) + QLatin1String(", ") + QString::number(eightBitChannel(g)) + QLatin1String(", ")
-        + QString::number(eightBitChannel(b));
+    return QString::number(eightBitChannel(r)) + QLatin1String(", ") + QString::number(eightBitChannel(g))
+        + QLatin1String(", ") + QString::number(eightBitChannel(b));
 }
 
 QString percentTriple(const char *prefix, const HueSaturationValue &v)
 {
     return QLatin1String(prefix) + u'(' + NumberText::roundedInteger(v.hue) + QLatin1String(", ")
-        + NumberText::roundedInteger(v.saturation) + QLatin1String("%, ") + NumberText::roundedInteger(v.third) + QLatin1String("%)");
+        + NumberText::roundedInteger(v.saturation) + QLatin1String("%, ")
+        + NumberText::roundedInteger(v.third) + QLatin1String("%)");
 }
 
 } // namespace
@@ -119,18 +121,18 @@ HueSaturationValue toHsl(double r, double g, double b)
     const Extremes e = extremes(r, g, b);
     const double lightness = (e.max + e.min) * 0.5;
     if (!(e.delta > greyThreshold))
-        return {0, 0, lightness * 100};
+        return { 0, 0, lightness * 100 };
     const double s = lightness > 0.5 ? e.delta / (2.0 - e.max - e.min) : e.delta / (e.max + e.min);
-    return {hueDegrees(r, g, b, e), s * 100, lightness * 100};
+    return { hueDegrees(r, g, b, e), s * 100, lightness * 100 };
 }
 
 HueSaturationValue toHsb(double r, double g, double b)
 {
     const Extremes e = extremes(r, g, b);
     if (!(e.delta > greyThreshold))
-        return {0, 0, e.max * 100};
+        return { 0, 0, e.max * 100 };
     const double s = e.max > 0 ? e.delta / e.max : 0;
-    return {hueDegrees(r, g, b, e), s * 100, e.max * 100};
+    return { hueDegrees(r, g, b, e), s * 100, e.max * 100 };
 }
 
 QString hexText(double r, double g, double b)
@@ -165,10 +167,11 @@ QString formatColor(double r, double g, double b, double a, ColorFormat format)
     case ColorFormat::hsb:
         return percentTriple("hsb", toHsb(r, g, b));
     case ColorFormat::swiftUI:
-        return QLatin1String("Color(red: ") + fixed(r, 2) + QLatin1String(", green: ") + fixed(g, 2) + QLatin1String(", blue: ") + fixed(b, 2) + u')';
+        return QLatin1String("Color(red: ") + fixed(r, 2) + QLatin1String(", green: ") + fixed(g, 2)
+            + QLatin1String(", blue: ") + fixed(b, 2) + u')';
     case ColorFormat::uiColor:
-        return QLatin1String("UIColor(red: ") + fixed(r, 2) + QLatin1String(", green: ") + fixed(g, 2) + QLatin1String(", blue: ") + fixed(b, 2)
-            + QLatin1String(", alpha: ") + fixed(a, 2) + u')';
+        return QLatin1String("UIColor(red: ") + fixed(r, 2) + QLatin1String(", green: ") + fixed(g, 2)
+            + QLatin1String(", blue: ") + fixed(b, 2) + QLatin1String(", alpha: ") + fixed(a, 2) + u')';
     case ColorFormat::css:
         return QLatin1String("rgba(") + channelList(r, g, b) + QLatin1String(", ") + fixed(a, 1) + u')';
     }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QList>
@@ -11,8 +12,15 @@ enum class ColorFormat { hex, hexLower, rgb, rgbDecimal, hsl, hsb, swiftUI, uiCo
 
 // Declaration order: the detail screen and the settings picker follow it.
 inline constexpr std::array<ColorFormat, 9> allColorFormats = {
-    ColorFormat::hex, ColorFormat::hexLower, ColorFormat::rgb, ColorFormat::rgbDecimal, ColorFormat::hsl,
-    ColorFormat::hsb, ColorFormat::swiftUI, ColorFormat::uiColor, ColorFormat::css,
+    ColorFormat::hex,
+    ColorFormat::hexLower,
+    ColorFormat::rgb,
+    ColorFormat::rgbDecimal,
+    ColorFormat::hsl,
+    ColorFormat::hsb,
+    ColorFormat::swiftUI,
+    ColorFormat::uiColor,
+    ColorFormat::css,
 };
 
 QString rawValue(ColorFormat format);

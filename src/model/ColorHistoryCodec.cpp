@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/ColorHistoryCodec.h"
 
 #include "model/NumberText.h"
@@ -21,14 +22,30 @@ void appendJsonString(QByteArray &out, const QString &text)
     for (qsizetype i = 0; i < size; ++i) {
         const char16_t c = text[i].unicode();
         switch (c) {
-        case '"': out.append("\\\""); break;
-        case '\\': out.append("\\\\"); break;
-        case '/': out.append("\\/"); break;
-        case '\b': out.append("\\b"); break;
-        case '\f': out.append("\\f"); break;
-        case '\n': out.append("\\n"); break;
-        case '\r': out.append("\\r"); break;
-        case '\t': out.append("\\t"); break;
+        case '"':
+            out.append("\\\"");
+            break;
+        case '\\':
+            out.append("\\\\");
+            break;
+        case '/':
+            out.append("\\/");
+            break;
+        case '\b':
+            out.append("\\b");
+            break;
+        case '\f':
+            out.append("\\f");
+            break;
+        case '\n':
+            out.append("\\n");
+            break;
+        case '\r':
+            out.append("\\r");
+            break;
+        case '\t':
+            out.append("\\t");
+            break;
         default:
             if (c < 0x20) {
                 appendEscape(c);
@@ -121,11 +138,11 @@ std::optional<PickedColor> decodeRecord(const QJsonValue &value)
     color.id = QUuid::fromString(id.toString());
 
     const std::pair<QLatin1StringView, double PickedColor::*> numbers[] = {
-        {QLatin1StringView("red"), &PickedColor::red},
-        {QLatin1StringView("green"), &PickedColor::green},
-        {QLatin1StringView("blue"), &PickedColor::blue},
-        {QLatin1StringView("alpha"), &PickedColor::alpha},
-        {QLatin1StringView("timestamp"), &PickedColor::timestamp},
+        { QLatin1StringView("red"), &PickedColor::red },
+        { QLatin1StringView("green"), &PickedColor::green },
+        { QLatin1StringView("blue"), &PickedColor::blue },
+        { QLatin1StringView("alpha"), &PickedColor::alpha },
+        { QLatin1StringView("timestamp"), &PickedColor::timestamp },
     };
     for (const auto &[key, member] : numbers) {
         const std::optional<double> number = finiteNumber(object, key);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/NumberText.h"
 
 #include <charconv>
@@ -8,7 +9,8 @@ namespace NumberText {
 QString fixed(double value, int decimals)
 {
     char buffer[400]; // enough for any finite double in fixed notation
-    const auto result = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
+    const auto result
+        = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
     if (result.ec != std::errc())
         return QStringLiteral("nan");
     return QString::fromLatin1(buffer, result.ptr - buffer);
@@ -36,11 +38,13 @@ std::optional<double> parseFinite(std::string_view text)
     // from_chars refuses a leading '+', which people do type.
     if (text.front() == '+')
         text.remove_prefix(1);
-    if (text.empty() || !(std::isdigit(static_cast<unsigned char>(text.front())) || text.front() == '-'
-                          || text.front() == '.'))
+    if (text.empty()
+        || !(std::isdigit(static_cast<unsigned char>(text.front())) || text.front() == '-'
+            || text.front() == '.'))
         return std::nullopt;
     double value = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::general);
+    const auto result
+        = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::general);
     if (result.ec != std::errc() || result.ptr != text.data() + text.size() || !std::isfinite(value))
         return std::nullopt;
     return value;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // Whether windows with see-through parts show as such. X11 needs a compositing manager for

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/AnimationCurves.h"
 
 #include <QPointF>
@@ -17,7 +18,8 @@ double DampedSpring::value(double seconds) const
     const double dampedOmega = omega * std::sqrt(1 - zeta * zeta);
     const double decay = std::exp(-zeta * omega * seconds);
     return 1
-        - decay * (std::cos(dampedOmega * seconds) + zeta * omega / dampedOmega * std::sin(dampedOmega * seconds));
+        - decay
+        * (std::cos(dampedOmega * seconds) + zeta * omega / dampedOmega * std::sin(dampedOmega * seconds));
 }
 
 double DampedSpring::settlingSeconds() const
@@ -28,7 +30,7 @@ double DampedSpring::settlingSeconds() const
 
 namespace {
 
-constexpr DampedSpring iconSpringParameters{0.6, 0.7};
+constexpr DampedSpring iconSpringParameters { 0.6, 0.7 };
 
 QEasingCurve bezier(double x1, double y1, double x2, double y2)
 {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QEasingCurve>
@@ -19,7 +20,7 @@ struct DampedSpring {
 
 namespace AnimationCurves {
 
-QEasingCurve easeOut();   // cubic Bézier (0, 0, 0.58, 1)
+QEasingCurve easeOut(); // cubic Bézier (0, 0, 0.58, 1)
 QEasingCurve easeInOut(); // cubic Bézier (0.42, 0, 0.58, 1)
 
 // The welcome icon's landing: DampedSpring{0.6, 0.7} over its settling time, ending at exactly 1.

@@ -1,10 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/CapsuleLabel.h"
 
 #include <QPainter>
 #include <cmath>
 
 CapsuleLabel::CapsuleLabel(const QString &text, const QFont &font, ColorRole textColor, ColorRole fillColor,
-                           QMargins padding, QWidget *parent)
+    QMargins padding, QWidget *parent)
     : QWidget(parent)
     , m_text(text)
     , m_textColor(std::move(textColor))
@@ -34,7 +35,7 @@ QSize CapsuleLabel::sizeHint() const
         + m_padding.right();
     const int height = metrics.height() + m_padding.top() + m_padding.bottom();
     // Never narrower than tall, so a one-digit count is a circle rather than a sliver.
-    return {qMax(width, height), height};
+    return { qMax(width, height), height };
 }
 
 void CapsuleLabel::paintEvent(QPaintEvent *)

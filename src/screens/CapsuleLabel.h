@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QWidget>
@@ -10,7 +11,7 @@ public:
     using ColorRole = std::function<QColor(const QPalette &)>;
 
     CapsuleLabel(const QString &text, const QFont &font, ColorRole textColor, ColorRole fillColor,
-                 QMargins padding, QWidget *parent = nullptr);
+        QMargins padding, QWidget *parent = nullptr);
 
     QString text() const { return m_text; }
     void setText(const QString &text);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ColorDetailView.h"
 
 #include "model/Contrast.h"
@@ -36,8 +37,8 @@ ContrastBadge *makeBadge(const QString &label, double ratio, QWidget *parent)
 
 } // namespace
 
-ColorDetailView::ColorDetailView(const PickedColor &color, CopyCallback onCopy, std::function<void()> onBack,
-                                 QWidget *parent)
+ColorDetailView::ColorDetailView(
+    const PickedColor &color, CopyCallback onCopy, std::function<void()> onBack, QWidget *parent)
     : QWidget(parent)
     , m_color(color)
     , m_onCopy(std::move(onCopy))
@@ -95,8 +96,9 @@ ColorDetailView::ColorDetailView(const PickedColor &color, CopyCallback onCopy, 
     panel->setAttribute(Qt::WA_StyledBackground);
     const QColor panelFill = Theme::withAlpha(Theme::controlBackground(palette()), 0.5);
     const QColor panelEdge = Theme::withAlpha(Theme::text(palette()), 0.06);
-    panel->setStyleSheet(QStringLiteral("#formatList { background: %1; border: 1px solid %2; border-radius: 8px; }")
-                             .arg(panelFill.name(QColor::HexArgb), panelEdge.name(QColor::HexArgb)));
+    panel->setStyleSheet(
+        QStringLiteral("#formatList { background: %1; border: 1px solid %2; border-radius: 8px; }")
+            .arg(panelFill.name(QColor::HexArgb), panelEdge.name(QColor::HexArgb)));
     auto *lines = new QVBoxLayout(panel);
     lines->setContentsMargins(1, 1, 1, 1);
     lines->setSpacing(1);
@@ -112,8 +114,8 @@ ColorDetailView::ColorDetailView(const PickedColor &color, CopyCallback onCopy, 
     auto *contrast = new QVBoxLayout;
     contrast->setContentsMargins(8, 0, 8, 0);
     contrast->setSpacing(8);
-    auto *heading = new ElidedLabel(tr("Contrast Ratios"), Theme::font(11, QFont::DemiBold), &Theme::secondaryText,
-                                    content);
+    auto *heading = new ElidedLabel(
+        tr("Contrast Ratios"), Theme::font(11, QFont::DemiBold), &Theme::secondaryText, content);
     contrast->addWidget(heading);
     const double luminance = relativeLuminance(color.red, color.green, color.blue);
     m_whiteBadge = makeBadge(tr("vs White"), contrastRatio(luminance, whiteLuminance), content);
@@ -163,7 +165,8 @@ void ColorDetailView::copy(ColorFormat format)
     });
 }
 
-void ColorDetailView::setCopiedFormat(std::optional<ColorFormat> format, int milliseconds, QEasingCurve::Type easing)
+void ColorDetailView::setCopiedFormat(
+    std::optional<ColorFormat> format, int milliseconds, QEasingCurve::Type easing)
 {
     m_copiedFormat = format;
     for (FormatLine *line : m_lines)

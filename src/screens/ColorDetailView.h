@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "model/PickedColor.h"
@@ -27,7 +28,7 @@ public:
     static constexpr int copiedMarkMilliseconds = 1500;
 
     ColorDetailView(const PickedColor &color, CopyCallback onCopy, std::function<void()> onBack,
-                    QWidget *parent = nullptr);
+        QWidget *parent = nullptr);
 
     const PickedColor &color() const { return m_color; }
     std::optional<ColorFormat> copiedFormat() const { return m_copiedFormat; }

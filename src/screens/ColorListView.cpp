@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ColorListView.h"
 
 #include "history/ColorListViewModel.h"
@@ -43,7 +44,7 @@ SymbolButton *footerButton(const QString &symbol, int symbolSize, const QString 
     style.radius = 4;
     const int side = 20;
     style.padding = QMargins((side - symbolSize) / 2, (side - symbolSize) / 2, (side - symbolSize + 1) / 2,
-                             (side - symbolSize + 1) / 2);
+        (side - symbolSize + 1) / 2);
     auto *button = new SymbolButton(QString(), style, parent);
     button->setAccessibleName(name);
     button->setToolTip(name);
@@ -53,7 +54,7 @@ SymbolButton *footerButton(const QString &symbol, int symbolSize, const QString 
 } // namespace
 
 ColorListView::ColorListView(ColorListViewModel &viewModel, SettingsStore &store,
-                             std::function<void()> onOpenSettings, std::function<void()> onQuit, QWidget *parent)
+    std::function<void()> onOpenSettings, std::function<void()> onQuit, QWidget *parent)
     : QWidget(parent)
     , m_viewModel(viewModel)
     , m_store(store)
@@ -165,7 +166,7 @@ QWidget *ColorListView::buildFooter()
     const auto exportAction = [this](const QString &text, bool pinnedOnly, bool asJSON) {
         QAction *action = m_exportMenu->addAction(text);
         connect(action, &QAction::triggered, this,
-                [this, pinnedOnly, asJSON] { m_viewModel.exportColors(pinnedOnly, asJSON); });
+            [this, pinnedOnly, asJSON] { m_viewModel.exportColors(pinnedOnly, asJSON); });
         return action;
     };
     m_exportPinnedText = exportAction(tr("Export Pinned as Text"), true, false);
@@ -198,11 +199,12 @@ QWidget *ColorListView::buildEmptyState()
     stack->setContentsMargins(16, 36, 16, 36);
     stack->setSpacing(8);
     stack->addWidget(symbolLabel(QStringLiteral("eyedropper"), 32, Theme::tertiaryText(palette()), empty), 0,
-                     Qt::AlignHCenter);
+        Qt::AlignHCenter);
     auto *title = new ElidedLabel(tr("No colors yet"), Theme::font(13), &Theme::secondaryText, empty);
     title->setAlignment(Qt::AlignCenter);
     stack->addWidget(title);
-    auto *hint = new ElidedLabel(tr("Click Pick Color to get started"), Theme::font(11), &Theme::tertiaryText, empty);
+    auto *hint = new ElidedLabel(
+        tr("Click Pick Color to get started"), Theme::font(11), &Theme::tertiaryText, empty);
     hint->setAlignment(Qt::AlignCenter);
     stack->addWidget(hint);
     return empty;
@@ -222,7 +224,8 @@ ColorRowView *ColorListView::buildRow(const PickedColor &color, ColorFormat form
 {
     ColorListViewModel &model = m_viewModel;
     auto *row = new ColorRowView(
-        color, format, [&model, color] { model.copyColor(color); }, [&model, color] { model.togglePin(color); },
+        color, format, [&model, color] { model.copyColor(color); },
+        [&model, color] { model.togglePin(color); },
         [&model, color](const QString &name) { model.renameColor(color, name); },
         [&model, color] { model.deleteColor(color); });
     connect(row, &ColorRowView::activated, this, [this, color] { openColor(color); });
@@ -269,16 +272,17 @@ void ColorListView::rebuildColors()
     auto *stack = new QVBoxLayout(content);
     stack->setContentsMargins(0, 4, 0, 4);
     stack->setSpacing(0);
-    const auto addSection = [&](const QString &title, const QString &objectName, const QList<PickedColor> &section) {
-        if (section.isEmpty())
-            return;
-        stack->addWidget(buildSectionHeader(title, objectName));
-        for (const PickedColor &color : section) {
-            ColorRowView *row = buildRow(color, format);
-            stack->addWidget(row);
-            m_rows.append(row);
-        }
-    };
+    const auto addSection
+        = [&](const QString &title, const QString &objectName, const QList<PickedColor> &section) {
+              if (section.isEmpty())
+                  return;
+              stack->addWidget(buildSectionHeader(title, objectName));
+              for (const PickedColor &color : section) {
+                  ColorRowView *row = buildRow(color, format);
+                  stack->addWidget(row);
+                  m_rows.append(row);
+              }
+          };
     addSection(tr("PINNED"), QStringLiteral("pinnedHeader"), pinned);
     addSection(tr("RECENT"), QStringLiteral("recentHeader"), recent);
     stack->addStretch(1);

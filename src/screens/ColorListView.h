@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "model/PickedColor.h"
@@ -37,7 +38,7 @@ public:
     static constexpr int screenChangeMilliseconds = 200;
 
     ColorListView(ColorListViewModel &viewModel, SettingsStore &store, std::function<void()> onOpenSettings,
-                  std::function<void()> onQuit, QWidget *parent = nullptr);
+        std::function<void()> onQuit, QWidget *parent = nullptr);
 
     // The colour whose detail screen is shown, as it was when opened; none while the list shows.
     const std::optional<PickedColor> &selectedColor() const { return m_selectedColor; }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ColorRowView.h"
 
 #include "screens/ColorSwatch.h"
@@ -14,8 +15,8 @@
 #include <QVBoxLayout>
 
 ColorRowView::ColorRowView(const PickedColor &color, ColorFormat format, std::function<void()> onCopy,
-                           std::function<void()> onPin, std::function<void(const QString &)> onRename,
-                           std::function<void()> onDelete, QWidget *parent)
+    std::function<void()> onPin, std::function<void(const QString &)> onRename,
+    std::function<void()> onDelete, QWidget *parent)
     : QWidget(parent)
     , m_color(color)
     , m_format(format)
@@ -52,8 +53,8 @@ ColorRowView::ColorRowView(const PickedColor &color, ColorFormat format, std::fu
     if (color.isPinned) {
         auto *pin = new QLabel(this);
         pin->setObjectName(QStringLiteral("pinMark"));
-        pin->setPixmap(Symbols::pixmap(QStringLiteral("pin.fill"), 9, Theme::secondaryText(palette()),
-                                       devicePixelRatioF()));
+        pin->setPixmap(Symbols::pixmap(
+            QStringLiteral("pin.fill"), 9, Theme::secondaryText(palette()), devicePixelRatioF()));
         pin->setFixedSize(9, 9);
         row->addWidget(pin, 0, Qt::AlignVCenter);
     }
@@ -87,10 +88,10 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
             onCopy();
     });
     connect(menu->addAction(m_color.isPinned ? tr("Unpin") : tr("Pin")), &QAction::triggered, menu,
-            [onPin = m_onPin] {
-                if (onPin)
-                    onPin();
-            });
+        [onPin = m_onPin] {
+            if (onPin)
+                onPin();
+        });
     connect(menu->addAction(tr("Rename…")), &QAction::triggered, this, &ColorRowView::renameRequested);
     menu->addSeparator();
     QAction *remove = menu->addAction(tr("Delete"));

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "model/PickedColor.h"
@@ -16,8 +17,8 @@ class ColorRowView : public QWidget {
     Q_OBJECT
 public:
     ColorRowView(const PickedColor &color, ColorFormat format, std::function<void()> onCopy,
-                 std::function<void()> onPin, std::function<void(const QString &)> onRename,
-                 std::function<void()> onDelete, QWidget *parent = nullptr);
+        std::function<void()> onPin, std::function<void(const QString &)> onRename,
+        std::function<void()> onDelete, QWidget *parent = nullptr);
 
     const PickedColor &color() const { return m_color; }
     // Under the pointer and not since left by the keyboard for another row: the pointer takes

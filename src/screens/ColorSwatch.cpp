@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ColorSwatch.h"
 
 #include "screens/Theme.h"
@@ -18,11 +19,12 @@ ColorSwatch::ColorSwatch(double red, double green, double blue, int size, QWidge
 QColor ColorSwatch::color() const
 {
     // QColor clamps out-of-range components; the swatch can only show what the screen can.
-    return QColor::fromRgbF(float(qBound(0.0, m_red, 1.0)), float(qBound(0.0, m_green, 1.0)),
-                            float(qBound(0.0, m_blue, 1.0)));
+    return QColor::fromRgbF(
+        float(qBound(0.0, m_red, 1.0)), float(qBound(0.0, m_green, 1.0)), float(qBound(0.0, m_blue, 1.0)));
 }
 
-void ColorSwatch::paintSwatch(QPainter &painter, const QRectF &rect, const QColor &color, const QPalette &palette)
+void ColorSwatch::paintSwatch(
+    QPainter &painter, const QRectF &rect, const QColor &color, const QPalette &palette)
 {
     const qreal radius = rect.width() * 0.2;
     painter.save();

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QWidget>
@@ -13,7 +14,8 @@ public:
     int swatchSize() const { return m_size; }
 
     // Draws a swatch of side rect.width() at rect's top-left.
-    static void paintSwatch(QPainter &painter, const QRectF &rect, const QColor &color, const QPalette &palette);
+    static void paintSwatch(
+        QPainter &painter, const QRectF &rect, const QColor &color, const QPalette &palette);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ContrastBadge.h"
 
 #include "screens/CapsuleLabel.h"
@@ -7,7 +8,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-ContrastBadge::ContrastBadge(const QString &label, const QString &ratio, const QString &level, QWidget *parent)
+ContrastBadge::ContrastBadge(
+    const QString &label, const QString &ratio, const QString &level, QWidget *parent)
     : QWidget(parent)
     , m_label(label)
     , m_ratio(ratio)
@@ -29,7 +31,8 @@ ContrastBadge::ContrastBadge(const QString &label, const QString &ratio, const Q
 
     m_levelCapsule = new CapsuleLabel(
         level, Theme::font(10, QFont::DemiBold), [](const QPalette &) { return QColor(Qt::white); },
-        [level](const QPalette &palette) { return Theme::levelColor(level, palette); }, QMargins(6, 2, 6, 2), this);
+        [level](const QPalette &palette) { return Theme::levelColor(level, palette); }, QMargins(6, 2, 6, 2),
+        this);
     row->addWidget(m_levelCapsule, 0, Qt::AlignVCenter);
 
     setAccessibleName(label + QLatin1Char(' ') + ratio + QLatin1Char(' ') + level);

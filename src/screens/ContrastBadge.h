@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QWidget>
@@ -12,7 +13,8 @@ class QLabel;
 class ContrastBadge : public QWidget {
     Q_OBJECT
 public:
-    ContrastBadge(const QString &label, const QString &ratio, const QString &level, QWidget *parent = nullptr);
+    ContrastBadge(
+        const QString &label, const QString &ratio, const QString &level, QWidget *parent = nullptr);
 
     QString label() const { return m_label; }
     QString ratio() const { return m_ratio; }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/DestructiveMenuStyle.h"
 
 #include "screens/Theme.h"
@@ -10,8 +11,8 @@ DestructiveMenuStyle::DestructiveMenuStyle(QAction *destructive)
 {
 }
 
-void DestructiveMenuStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                                       const QWidget *widget) const
+void DestructiveMenuStyle::drawControl(
+    ControlElement element, const QStyleOption *option, QPainter *painter, const QWidget *widget) const
 {
     const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
     // The style option names no action: the item is known by its text.
@@ -22,7 +23,7 @@ void DestructiveMenuStyle::drawControl(ControlElement element, const QStyleOptio
     QStyleOptionMenuItem red(*item);
     const QColor color = Theme::red(item->palette);
     // Only the resting text: a highlighted item keeps the highlight's own text colour.
-    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+    for (const QPalette::ColorRole role : { QPalette::Text, QPalette::WindowText, QPalette::ButtonText })
         red.palette.setColor(role, color);
     QProxyStyle::drawControl(element, &red, painter, widget);
 }

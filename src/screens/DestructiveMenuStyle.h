@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QPointer>
@@ -14,7 +15,7 @@ public:
     explicit DestructiveMenuStyle(QAction *destructive);
 
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
-                     const QWidget *widget = nullptr) const override;
+        const QWidget *widget = nullptr) const override;
 
 private:
     QPointer<QAction> m_destructive;

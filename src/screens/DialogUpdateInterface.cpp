@@ -1,8 +1,9 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/DialogUpdateInterface.h"
 
 #include "screens/ReleaseNotesView.h"
-#include "screens/Theme.h"
 #include "screens/Symbols.h"
+#include "screens/Theme.h"
 #include "services/Appcast.h"
 
 #include <QDBusConnection>
@@ -85,8 +86,8 @@ void DialogUpdateInterface::askAboutUpdate(const AppcastItem &update, const QStr
     layout->setSpacing(16);
 
     auto *symbol = new QLabel;
-    symbol->setPixmap(Symbols::pixmap(
-        QStringLiteral("eyedropper"), 48, Theme::accent(), dialog->devicePixelRatioF()));
+    symbol->setPixmap(
+        Symbols::pixmap(QStringLiteral("eyedropper"), 48, Theme::accent(), dialog->devicePixelRatioF()));
     symbol->setFixedSize(48, 48);
     layout->addWidget(symbol, 0, Qt::AlignTop);
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ElidedLabel.h"
 
 #include <QPainter>
@@ -118,7 +119,7 @@ QSize ElidedLabel::minimumSizeHint() const
     if (m_wrapping)
         return { qMin(sizeHint().width(), metrics.horizontalAdvance(QLatin1Char('M')) * 4),
             metrics.height() };
-    return {qMin(sizeHint().width(), metrics.horizontalAdvance(QStringLiteral("…")) * 3), metrics.height()};
+    return { qMin(sizeHint().width(), metrics.horizontalAdvance(QStringLiteral("…")) * 3), metrics.height() };
 }
 
 int ElidedLabel::heightForWidth(int width) const

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The second screen of the welcome window: the check mark, the confirmation, the shortcut card
 // and "Start Using".
 #include "screens/OnboardingView.h"
@@ -19,17 +20,17 @@ QList<OnboardingView::Timing> OnboardingView::confirmationEntrance()
 {
     using namespace AnimationCurves;
     return {
-        {Step::ScreenChange, 0, easeInOut(), 400, false},
-        {Step::CircleTrim, 500, easeOut(), 400, false},
-        {Step::CheckmarkTrim, 900, easeOut(), 300, false},
+        { Step::ScreenChange, 0, easeInOut(), 400, false },
+        { Step::CircleTrim, 500, easeOut(), 400, false },
+        { Step::CheckmarkTrim, 900, easeOut(), 300, false },
         // 1.2 seconds each way.
-        {Step::GreenGlow, 1200, easeInOutThereAndBack(), 2400, true},
-        {Step::HeadlineVisible, 1300, easeOut(), 400, false},
-        {Step::SubtextVisible, 1500, easeOut(), 400, false},
-        {Step::PreviewVisible, 1700, easeOut(), 400, false},
-        {Step::Button2Visible, 2100, easeInOut(), 300, false},
+        { Step::GreenGlow, 1200, easeInOutThereAndBack(), 2400, true },
+        { Step::HeadlineVisible, 1300, easeOut(), 400, false },
+        { Step::SubtextVisible, 1500, easeOut(), 400, false },
+        { Step::PreviewVisible, 1700, easeOut(), 400, false },
+        { Step::Button2Visible, 2100, easeInOut(), 300, false },
         // Starts again from the leading side on each sweep.
-        {Step::Shimmer, 2300, QEasingCurve(QEasingCurve::Linear), 2000, true},
+        { Step::Shimmer, 2300, QEasingCurve(QEasingCurve::Linear), 2000, true },
     };
 }
 
@@ -40,9 +41,9 @@ OnboardingView::ConfirmationLayout OnboardingView::confirmationLayout() const
     const qreal subtextHeight = QFontMetricsF(systemFont(15)).height();
     const QFontMetricsF cardMetrics(systemFont(13, QFont::Medium));
     const qreal cardContent
-        = std::max({24.0, cardMetrics.height(), QFontMetricsF(systemFont(16, QFont::Medium)).height()});
-    const qreal cardWidth = 24 + 16 + 8 + cardMetrics.horizontalAdvance(tr("Pick Color")) + 20 + 1 + 20 + 16 + 8
-        + cardMetrics.horizontalAdvance(tr("Last: #FF6B35")) + 24;
+        = std::max({ 24.0, cardMetrics.height(), QFontMetricsF(systemFont(16, QFont::Medium)).height() });
+    const qreal cardWidth = 24 + 16 + 8 + cardMetrics.horizontalAdvance(tr("Pick Color")) + 20 + 1 + 20 + 16
+        + 8 + cardMetrics.horizontalAdvance(tr("Last: #FF6B35")) + 24;
     const qreal cardHeight = 14 + cardContent + 14;
     const QFontMetricsF buttonMetrics(systemFont(16, QFont::DemiBold));
     const qreal buttonHeight = 14 + buttonMetrics.height() + 14;
@@ -88,7 +89,7 @@ void OnboardingView::paintConfirmation(QPainter &painter) const
     ringPen.setMiterLimit(10);
     painter.strokePath(trimmedPath(ring, circleTrim()), ringPen);
     painter.strokePath(trimmedPath(OnboardingCheckmarkShape::path(mark), checkmarkTrim()),
-                       QPen(success, 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        QPen(success, 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 
     painter.save();
     enter(painter, progress(Step::HeadlineVisible), 10);
@@ -119,12 +120,12 @@ void OnboardingView::paintConfirmation(QPainter &painter) const
     qreal x = cardRect.left() + 24;
     // Drawn in the desktop's primary text colour, like the popover it stands for.
     Symbols::paint(painter, QRectF(x, midY - 8, 16, 16), QStringLiteral("eyedropper"),
-                   QApplication::palette().color(QPalette::WindowText));
+        QApplication::palette().color(QPalette::WindowText));
     x += 16 + 8;
     const QString pick = tr("Pick Color");
     painter.setPen(text);
     painter.drawText(QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(pick) + 1, cardRect.height()),
-                     Qt::AlignLeft | Qt::AlignVCenter, pick);
+        Qt::AlignLeft | Qt::AlignVCenter, pick);
     x += cardMetrics.horizontalAdvance(pick) + 20;
     painter.setPen(Qt::NoPen);
     painter.setBrush(border);
@@ -135,7 +136,7 @@ void OnboardingView::paintConfirmation(QPainter &painter) const
     const QString last = tr("Last: #FF6B35");
     painter.setPen(text);
     painter.drawText(QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(last) + 1, cardRect.height()),
-                     Qt::AlignLeft | Qt::AlignVCenter, last);
+        Qt::AlignLeft | Qt::AlignVCenter, last);
     painter.restore();
 
     const qreal shown = progress(Step::Button2Visible);

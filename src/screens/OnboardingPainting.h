@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // What the welcome window's two screens share to lay themselves out and paint: its metrics,
@@ -39,7 +40,7 @@ inline void enter(QPainter &painter, qreal progress, qreal distance)
 // A blurred shadow of a rounded shape, built from concentric layers (a box blur's look, which
 // is all a soft shadow under a button needs).
 inline void paintShadow(QPainter &painter, const QRectF &shape, qreal cornerRadius, const QColor &color,
-                 qreal opacity, qreal radius, qreal offsetY)
+    qreal opacity, qreal radius, qreal offsetY)
 {
     constexpr int layers = 8;
     painter.setPen(Qt::NoPen);
@@ -61,7 +62,7 @@ inline qreal wrappedHeight(const QFont &font, const QString &string, qreal width
 
 struct OnboardingView::WelcomeLayout {
     qreal contentHeight; // everything but the two flexible spacers
-    QRectF icon;     // the glow's 120-point circle
+    QRectF icon; // the glow's 120-point circle
     QRectF title;
     std::array<QRectF, 3> bullets; // each line's row
     QRectF button;

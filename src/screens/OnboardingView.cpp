@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/OnboardingView.h"
 
 #include "screens/OnboardingPainting.h"
@@ -51,7 +52,7 @@ bool OnboardingView::isAnimating() const
 std::pair<qreal, qreal> OnboardingView::shimmerBand(qreal width, qreal phase)
 {
     const qreal left = (width + 0.4 * width) * phase - 0.2 * width;
-    return {left, left + 0.4 * width};
+    return { left, left + 0.4 * width };
 }
 
 QParallelAnimationGroup *OnboardingView::makeEntrance(const QList<Timing> &timings)
@@ -78,14 +79,14 @@ QParallelAnimationGroup *OnboardingView::makeEntrance(const QList<Timing> &timin
         sequence->addAnimation(animation);
         const Step step = timing.step;
         connect(animation, &QVariantAnimation::valueChanged, this,
-                [this, step](const QVariant &value) { setProgress(step, value.toReal()); });
+            [this, step](const QVariant &value) { setProgress(step, value.toReal()); });
         connect(animation, &QAbstractAnimation::stateChanged, this,
-                [this, step](QAbstractAnimation::State state) {
-                    if (state == QAbstractAnimation::Running && !hasFired(step)) {
-                        m_fired[std::size_t(step)] = true;
-                        update();
-                    }
-                });
+            [this, step](QAbstractAnimation::State state) {
+                if (state == QAbstractAnimation::Running && !hasFired(step)) {
+                    m_fired[std::size_t(step)] = true;
+                    update();
+                }
+            });
         group->addAnimation(sequence);
     }
     return group;
@@ -115,7 +116,7 @@ void OnboardingView::showEvent(QShowEvent *event)
         return;
     }
     // Back from being minimised: carry on where the choreography paused.
-    for (QParallelAnimationGroup *group : {m_welcome, m_confirmation}) {
+    for (QParallelAnimationGroup *group : { m_welcome, m_confirmation }) {
         if (group && group->state() == QAbstractAnimation::Paused)
             group->resume();
     }
@@ -125,7 +126,7 @@ void OnboardingView::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     if (event->spontaneous()) {
-        for (QParallelAnimationGroup *group : {m_welcome, m_confirmation}) {
+        for (QParallelAnimationGroup *group : { m_welcome, m_confirmation }) {
             if (group && group->state() == QAbstractAnimation::Running)
                 group->pause();
         }
@@ -215,8 +216,8 @@ void OnboardingView::mouseMoveEvent(QMouseEvent *event)
 
 void OnboardingView::keyPressEvent(QKeyEvent *event)
 {
-    const bool press = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
-        || event->key() == Qt::Key_Space;
+    const bool press
+        = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
     switch (press ? activeButton() : Button::None) {
     case Button::GetStarted:
         getStarted();
@@ -258,8 +259,8 @@ void OnboardingView::paintEvent(QPaintEvent *)
 }
 
 void OnboardingView::paintButton(QPainter &painter, const QRectF &capsule, const QString &label, int textPx,
-                                 int arrowPx, int spacing, qreal shadowOpacity, qreal shadowRadius,
-                                 qreal shadowOffset, qreal shimmer) const
+    int arrowPx, int spacing, qreal shadowOpacity, qreal shadowRadius, qreal shadowOffset,
+    qreal shimmer) const
 {
     const qreal radius = capsule.height() / 2;
     paintShadow(painter, capsule, radius, accent, shadowOpacity, shadowRadius, shadowOffset);
@@ -285,8 +286,9 @@ void OnboardingView::paintButton(QPainter &painter, const QRectF &capsule, const
     const qreal x = capsule.center().x() - rowWidth / 2;
     painter.setFont(font);
     painter.setPen(Qt::white);
-    painter.drawText(QRectF(x, capsule.top(), textWidth + 1, capsule.height()), Qt::AlignLeft | Qt::AlignVCenter,
-                     label);
-    Symbols::paint(painter, QRectF(x + textWidth + spacing, capsule.center().y() - arrowPx / 2.0, arrowPx, arrowPx),
-                   QStringLiteral("arrow.right"), Qt::white);
+    painter.drawText(
+        QRectF(x, capsule.top(), textWidth + 1, capsule.height()), Qt::AlignLeft | Qt::AlignVCenter, label);
+    Symbols::paint(painter,
+        QRectF(x + textWidth + spacing, capsule.center().y() - arrowPx / 2.0, arrowPx, arrowPx),
+        QStringLiteral("arrow.right"), Qt::white);
 }

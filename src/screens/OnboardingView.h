@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QEasingCurve>
@@ -109,14 +110,13 @@ private:
     void paintWelcome(QPainter &painter) const;
     void paintConfirmation(QPainter &painter) const;
     void paintButton(QPainter &painter, const QRectF &capsule, const QString &text, int textPx, int arrowPx,
-                     int spacing, qreal shadowOpacity, qreal shadowRadius, qreal shadowOffset,
-                     qreal shimmer) const;
+        int spacing, qreal shadowOpacity, qreal shadowRadius, qreal shadowOffset, qreal shimmer) const;
 
     SettingsStore &m_store;
     std::function<void()> m_onComplete;
     int m_currentScreen = 0;
-    std::array<bool, stepCount> m_fired{};
-    std::array<qreal, stepCount> m_progress{};
+    std::array<bool, stepCount> m_fired {};
+    std::array<qreal, stepCount> m_progress {};
     bool m_entranceStarted = false;
     QParallelAnimationGroup *m_welcome = nullptr;
     QParallelAnimationGroup *m_confirmation = nullptr;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The first screen of the welcome window: the icon in its glow, the title, three feature lines
 // and "Get Started".
 #include "screens/OnboardingView.h"
@@ -19,15 +20,15 @@ QList<OnboardingView::Timing> OnboardingView::welcomeEntrance()
 {
     using namespace AnimationCurves;
     return {
-        {Step::Appeared, 0, easeOut(), 300, false},
-        {Step::IconLanded, 200, iconSpring(), iconSpringMilliseconds(), false},
-        {Step::TitleVisible, 500, easeOut(), 400, false},
-        {Step::Bullet1Visible, 700, easeOut(), 350, false},
-        {Step::Bullet2Visible, 850, easeOut(), 350, false},
-        {Step::Bullet3Visible, 1000, easeOut(), 350, false},
-        {Step::ButtonVisible, 1200, easeOut(), 300, false},
+        { Step::Appeared, 0, easeOut(), 300, false },
+        { Step::IconLanded, 200, iconSpring(), iconSpringMilliseconds(), false },
+        { Step::TitleVisible, 500, easeOut(), 400, false },
+        { Step::Bullet1Visible, 700, easeOut(), 350, false },
+        { Step::Bullet2Visible, 850, easeOut(), 350, false },
+        { Step::Bullet3Visible, 1000, easeOut(), 350, false },
+        { Step::ButtonVisible, 1200, easeOut(), 300, false },
         // 2 seconds each way.
-        {Step::GlowPulse, 1300, easeInOutThereAndBack(), 4000, true},
+        { Step::GlowPulse, 1300, easeInOutThereAndBack(), 4000, true },
     };
 }
 
@@ -43,7 +44,7 @@ OnboardingView::WelcomeLayout OnboardingView::welcomeLayout() const
         tr("The color value is copied to your clipboard instantly in your preferred format."),
         tr("Pin your favorite colors and build a palette you can export anytime."),
     };
-    std::array<qreal, 3> lineHeights{};
+    std::array<qreal, 3> lineHeights {};
     qreal bulletsHeight = 2 * rowSpacing;
     for (std::size_t i = 0; i < 3; ++i) {
         lineHeights[i] = qMax(symbolHeight, wrappedHeight(bulletFont, lines[int(i)], textWidth));
@@ -99,7 +100,8 @@ void OnboardingView::paintWelcome(QPainter &painter) const
     painter.setPen(Qt::NoPen);
     painter.setBrush(halo);
     painter.drawEllipse(centre, 60 + blur, 60 + blur);
-    Symbols::paint(painter, QRectF(centre.x() - 24, centre.y() - 24, 48, 48), QStringLiteral("eyedropper"), accent);
+    Symbols::paint(
+        painter, QRectF(centre.x() - 24, centre.y() - 24, 48, 48), QStringLiteral("eyedropper"), accent);
     painter.restore();
 
     painter.save();
@@ -114,24 +116,26 @@ void OnboardingView::paintWelcome(QPainter &painter) const
         QString line;
         Step step;
     } bullets[] = {
-        {"eyedropper.halffull", tr("Pick any color from anywhere on your screen with one click."),
-         Step::Bullet1Visible},
-        {"doc.on.clipboard", tr("The color value is copied to your clipboard instantly in your preferred format."),
-         Step::Bullet2Visible},
-        {"pin.fill", tr("Pin your favorite colors and build a palette you can export anytime."),
-         Step::Bullet3Visible},
+        { "eyedropper.halffull", tr("Pick any color from anywhere on your screen with one click."),
+            Step::Bullet1Visible },
+        { "doc.on.clipboard",
+            tr("The color value is copied to your clipboard instantly in your preferred format."),
+            Step::Bullet2Visible },
+        { "pin.fill", tr("Pin your favorite colors and build a palette you can export anytime."),
+            Step::Bullet3Visible },
     };
     const qreal symbolHeight = QFontMetricsF(systemFont(16, QFont::Medium)).height();
     for (std::size_t i = 0; i < 3; ++i) {
         const QRectF row = layout.bullets[i];
         painter.save();
         enter(painter, progress(bullets[i].step), 8);
-        Symbols::paint(painter, QRectF(row.left(), row.top() + (symbolHeight - 16) / 2, bulletSymbolFrame, 16),
-                       QLatin1String(bullets[i].symbol), accent);
+        Symbols::paint(painter,
+            QRectF(row.left(), row.top() + (symbolHeight - 16) / 2, bulletSymbolFrame, 16),
+            QLatin1String(bullets[i].symbol), accent);
         painter.setFont(systemFont(14));
         painter.setPen(mutedText);
         painter.drawText(row.adjusted(bulletSymbolFrame + rowSpacing, 0, 0, 0),
-                         Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, bullets[i].line);
+            Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, bullets[i].line);
         painter.restore();
     }
 

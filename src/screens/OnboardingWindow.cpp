@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/OnboardingWindow.h"
 
 #include "screens/OnboardingView.h"
@@ -27,10 +28,10 @@ OnboardingWindow::OnboardingWindow(
     m_closeButton->setCursor(Qt::ArrowCursor);
     m_closeButton->setFocusPolicy(Qt::NoFocus);
     m_closeButton->setGeometry(16, 16, 14, 14);
-    m_closeButton->setStyleSheet(QStringLiteral(
-        "QToolButton { border: none; border-radius: 7px; background: #30363D; color: #8B949E;"
-        " font-size: 12px; font-weight: bold; padding: 0 0 1px 0; }"
-        "QToolButton:hover { background: #FF5F57; color: #4D0000; }"));
+    m_closeButton->setStyleSheet(
+        QStringLiteral("QToolButton { border: none; border-radius: 7px; background: #30363D; color: #8B949E;"
+                       " font-size: 12px; font-weight: bold; padding: 0 0 1px 0; }"
+                       "QToolButton:hover { background: #FF5F57; color: #4D0000; }"));
     connect(m_closeButton, &QToolButton::clicked, this, &QWidget::close);
     m_view->setFocus();
 }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QPoint>
@@ -18,8 +19,8 @@ class OnboardingWindow : public QWidget {
 public:
     // `isCutToShape`: the desktop shows no translucent windows (no compositor), so the window
     // is cut to its rounded frame instead.
-    OnboardingWindow(SettingsStore &store, std::function<void()> onComplete, bool isCutToShape,
-        QWidget *parent = nullptr);
+    OnboardingWindow(
+        SettingsStore &store, std::function<void()> onComplete, bool isCutToShape, QWidget *parent = nullptr);
 
     OnboardingView *view() const { return m_view; }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/RenameColorSheet.h"
 
 #include "screens/ColorSwatch.h"
@@ -32,8 +33,8 @@ RenameColorSheet::RenameColorSheet(
     colorRow->setSpacing(8);
     colorRow->addWidget(new ColorSwatch(color.red, color.green, color.blue, 24, this));
     // Always the upper-case hex, whatever format the list shows.
-    auto *hex = new ElidedLabel(color.formatted(ColorFormat::hex), Theme::monospacedFont(13), &Theme::secondaryText,
-                                this);
+    auto *hex = new ElidedLabel(
+        color.formatted(ColorFormat::hex), Theme::monospacedFont(13), &Theme::secondaryText, this);
     hex->setObjectName(QStringLiteral("hexLabel"));
     colorRow->addWidget(hex);
     stack->addLayout(colorRow);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "model/PickedColor.h"
@@ -15,8 +16,8 @@ class QPushButton;
 class RenameColorSheet : public QWidget {
     Q_OBJECT
 public:
-    RenameColorSheet(const PickedColor &color, std::function<void(const QString &)> onRename,
-                     QWidget *parent = nullptr);
+    RenameColorSheet(
+        const PickedColor &color, std::function<void(const QString &)> onRename, QWidget *parent = nullptr);
 
     const PickedColor &color() const { return m_color; }
     QLineEdit *nameField() const { return m_field; }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings window's About page: version, updates and where to find the maker.
 #include "screens/SettingsView.h"
 
@@ -6,10 +7,10 @@
 #include "hotkeys/HotkeyManager.h"
 #include "hotkeys/HotkeyRecorderView.h"
 #include "model/ColorFormat.h"
-#include "screens/SettingsWidgets.h"
-#include "screens/Theme.h"
 #include "screens/SettingsTabButton.h"
+#include "screens/SettingsWidgets.h"
 #include "screens/Symbols.h"
+#include "screens/Theme.h"
 #include "services/LaunchAtLogin.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"

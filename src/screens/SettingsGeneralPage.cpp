@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings window's General page: format, shortcuts, the tray dot, launch at login and the
 // history limit.
 #include "screens/SettingsView.h"
@@ -7,10 +8,10 @@
 #include "hotkeys/HotkeyManager.h"
 #include "hotkeys/HotkeyRecorderView.h"
 #include "model/ColorFormat.h"
-#include "screens/SettingsWidgets.h"
-#include "screens/Theme.h"
 #include "screens/SettingsTabButton.h"
+#include "screens/SettingsWidgets.h"
 #include "screens/Symbols.h"
+#include "screens/Theme.h"
 #include "services/LaunchAtLogin.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
@@ -86,9 +87,8 @@ QWidget *SettingsView::makeGeneralPage()
     // being recorded the manager lets go of its grabs so the press reaches the recorder.
     const auto reregister = [this] { m_hotkeyManager.reregisterAll(); };
     const auto suspend = [this](bool isRecording) { m_hotkeyManager.setSuspended(isRecording); };
-    const auto clearIcon = [](const QColor &color) {
-        return Symbols::icon(QStringLiteral("xmark.circle.fill"), 14, color);
-    };
+    const auto clearIcon
+        = [](const QColor &color) { return Symbols::icon(QStringLiteral("xmark.circle.fill"), 14, color); };
     m_pickRecorder = new HotkeyRecorderView(tr("Pick color"), m_store, PreferenceKeys::pickKeyCode,
         PreferenceKeys::pickModifiers, PreferenceKeys::pickKeyChar, reregister, clearIcon);
     m_pickRecorder->setOnRecordingChanged(suspend);

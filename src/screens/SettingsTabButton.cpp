@@ -1,7 +1,8 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/SettingsTabButton.h"
 
-#include "screens/Theme.h"
 #include "screens/Symbols.h"
+#include "screens/Theme.h"
 
 #include <QPainter>
 #include <QPainterPath>

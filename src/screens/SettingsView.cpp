@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/SettingsView.h"
 
 #include "BuildInfo.h"
@@ -5,10 +6,10 @@
 #include "hotkeys/HotkeyManager.h"
 #include "hotkeys/HotkeyRecorderView.h"
 #include "model/ColorFormat.h"
-#include "screens/SettingsWidgets.h"
-#include "screens/Theme.h"
 #include "screens/SettingsTabButton.h"
+#include "screens/SettingsWidgets.h"
 #include "screens/Symbols.h"
+#include "screens/Theme.h"
 #include "services/LaunchAtLogin.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"

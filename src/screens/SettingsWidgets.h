@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // The small widgets the settings window's pages share: labels in the window's tones, links,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/SymbolButton.h"
 
 #include "screens/Symbols.h"
@@ -32,8 +33,8 @@ QSize SymbolButton::sizeHint() const
         width += metrics.horizontalAdvance(text());
         height = qMax(height, metrics.height());
     }
-    return {width + m_style.padding.left() + m_style.padding.right(),
-            height + m_style.padding.top() + m_style.padding.bottom()};
+    return { width + m_style.padding.left() + m_style.padding.right(),
+        height + m_style.padding.top() + m_style.padding.bottom() };
 }
 
 QSize SymbolButton::minimumSizeHint() const
@@ -76,20 +77,20 @@ void SymbolButton::paintEvent(QPaintEvent *)
     const QFontMetrics metrics(font());
     const bool hasSymbol = !m_style.symbol.isEmpty();
     const int textWidth = text().isEmpty() ? 0 : metrics.horizontalAdvance(text());
-    const int contentWidth = (hasSymbol ? m_style.symbolSize : 0) + (hasSymbol && textWidth ? m_style.spacing : 0)
-        + textWidth;
+    const int contentWidth
+        = (hasSymbol ? m_style.symbolSize : 0) + (hasSymbol && textWidth ? m_style.spacing : 0) + textWidth;
     const QRect inner = rect().marginsRemoved(m_style.padding);
     int x = m_style.centred ? rect().x() + (rect().width() - contentWidth) / 2 : inner.x();
     const qreal centreY = rect().height() / 2.0;
     if (hasSymbol) {
         Symbols::paint(painter,
-                       QRectF(x, centreY - m_style.symbolSize / 2.0, m_style.symbolSize, m_style.symbolSize),
-                       m_style.symbol, foreground);
+            QRectF(x, centreY - m_style.symbolSize / 2.0, m_style.symbolSize, m_style.symbolSize),
+            m_style.symbol, foreground);
         x += m_style.symbolSize + m_style.spacing;
     }
     if (textWidth) {
         painter.setPen(foreground);
-        painter.drawText(QRect(x, 0, textWidth + 1, height()), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                         text());
+        painter.drawText(QRect(x, 0, textWidth + 1, height()),
+            Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
     }
 }

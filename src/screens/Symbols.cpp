@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/Symbols.h"
 
 #include <QFile>
@@ -22,9 +23,8 @@ bool exists(const QString &name)
 
 void paint(QPainter &painter, const QRectF &rect, const QString &name, const QColor &color)
 {
-    const QPixmap tinted = pixmap(name, qCeil(qMax(rect.width(), rect.height())), color, painter.device()
-                                      ? painter.device()->devicePixelRatioF()
-                                      : 1.0);
+    const QPixmap tinted = pixmap(name, qCeil(qMax(rect.width(), rect.height())), color,
+        painter.device() ? painter.device()->devicePixelRatioF() : 1.0);
     if (tinted.isNull())
         return;
     const qreal side = qMin(rect.width(), rect.height());

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include <QByteArray>
@@ -14,7 +15,7 @@
 class CommandRunner {
 public:
     virtual ~CommandRunner() = default;
-    virtual std::optional<QByteArray> run(const QString &program, const QStringList &arguments,
-                                          bool captureOutput)
+    virtual std::optional<QByteArray> run(
+        const QString &program, const QStringList &arguments, bool captureOutput)
         = 0;
 };

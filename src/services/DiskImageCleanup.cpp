@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "services/DiskImageCleanup.h"
 
 #include "services/ProcessCommandRunner.h"
@@ -31,7 +32,8 @@ QByteArray decodeMountTableField(const QByteArray &field)
     QByteArray decoded;
     decoded.reserve(field.size());
     for (qsizetype i = 0; i < field.size(); ++i) {
-        const auto isOctal = [&](qsizetype at) { return at < field.size() && field[at] >= '0' && field[at] <= '7'; };
+        const auto isOctal
+            = [&](qsizetype at) { return at < field.size() && field[at] >= '0' && field[at] <= '7'; };
         if (field[i] == '\\' && isOctal(i + 1) && isOctal(i + 2) && isOctal(i + 3)) {
             decoded += char(((field[i + 1] - '0') << 6) | ((field[i + 2] - '0') << 3) | (field[i + 3] - '0'));
             i += 3;
@@ -105,15 +107,15 @@ void DiskImageCleanup::cleanUp() const
             continue;
         unmounted.append(volume.device);
         if (!m_runner->run(QStringLiteral("udisksctl"),
-                           {QStringLiteral("unmount"), QStringLiteral("-b"), volume.device,
-                            QStringLiteral("--no-user-interaction")},
-                           false))
+                { QStringLiteral("unmount"), QStringLiteral("-b"), volume.device,
+                    QStringLiteral("--no-user-interaction") },
+                false))
             return;
     }
     if (!m_runner->run(QStringLiteral("udisksctl"),
-                       {QStringLiteral("loop-delete"), QStringLiteral("-b"), source->image.loopDevice,
-                        QStringLiteral("--no-user-interaction")},
-                       false))
+            { QStringLiteral("loop-delete"), QStringLiteral("-b"), source->image.loopDevice,
+                QStringLiteral("--no-user-interaction") },
+            false))
         return;
     // Whatever udisks answered, the image file goes. Without the user's data folder Qt's
     // trash silently creates "Trash" in the working folder instead.
@@ -128,8 +130,8 @@ std::optional<DiskImageCleanup::SourceDiskImage> DiskImageCleanup::findSourceDis
     const QString bundleName = QFileInfo(m_environment.bundlePath).fileName();
     if (bundleName.isEmpty())
         return std::nullopt;
-    const std::optional<QByteArray> listing
-        = m_runner->run(QStringLiteral("losetup"), {QStringLiteral("--list"), QStringLiteral("--json")}, true);
+    const std::optional<QByteArray> listing = m_runner->run(
+        QStringLiteral("losetup"), { QStringLiteral("--list"), QStringLiteral("--json") }, true);
     if (!listing)
         return std::nullopt;
     const QList<LoopDevice> loops = parseLoopDevices(*listing);
@@ -144,7 +146,7 @@ std::optional<DiskImageCleanup::SourceDiskImage> DiskImageCleanup::findSourceDis
     for (const AttachedImage &image : attachedImages(loops, mounts)) {
         for (const MountedVolume &volume : image.volumes) {
             if (QFileInfo::exists(volume.mountPoint + QLatin1Char('/') + bundleName))
-                return SourceDiskImage{image, volume.mountPoint};
+                return SourceDiskImage { image, volume.mountPoint };
         }
     }
     return std::nullopt;
@@ -169,9 +171,10 @@ QList<DiskImageCleanup::LoopDevice> DiskImageCleanup::parseLoopDevices(const QBy
         const QString file = backingFile.toString();
         // The kernel marks a backing file removed since attaching; whatever sits at that path
         // now is not the image.
-        if (file.isEmpty() || file.endsWith(QLatin1String(" (deleted)")) || !file.startsWith(QLatin1Char('/')))
+        if (file.isEmpty() || file.endsWith(QLatin1String(" (deleted)"))
+            || !file.startsWith(QLatin1Char('/')))
             continue;
-        loops.append({name.toString(), file});
+        loops.append({ name.toString(), file });
     }
     return loops;
 }
@@ -189,17 +192,17 @@ QList<DiskImageCleanup::MountedVolume> DiskImageCleanup::parseMountTable(const Q
         const std::optional<QString> source = pathFromBytes(decodeMountTableField(fields[separator + 2]));
         if (!mountPoint || !source || !mountPoint->startsWith(QLatin1Char('/')))
             continue;
-        mounts.append({*source, *mountPoint});
+        mounts.append({ *source, *mountPoint });
     }
     return mounts;
 }
 
-QList<DiskImageCleanup::AttachedImage> DiskImageCleanup::attachedImages(const QList<LoopDevice> &loops,
-                                                                        const QList<MountedVolume> &mounts)
+QList<DiskImageCleanup::AttachedImage> DiskImageCleanup::attachedImages(
+    const QList<LoopDevice> &loops, const QList<MountedVolume> &mounts)
 {
     QList<AttachedImage> images;
     for (const LoopDevice &loop : loops) {
-        AttachedImage image{loop.backingFile, loop.device, {}};
+        AttachedImage image { loop.backingFile, loop.device, {} };
         for (const MountedVolume &mount : mounts) {
             if (isDeviceOrPartition(mount.device, loop.device))
                 image.volumes.append(mount);
@@ -211,5 +214,6 @@ QList<DiskImageCleanup::AttachedImage> DiskImageCleanup::attachedImages(const QL
 
 void cleanUpInstallerDiskImage()
 {
-    DiskImageCleanup(DiskImageCleanup::currentEnvironment(), std::make_shared<ProcessCommandRunner>()).start();
+    DiskImageCleanup(DiskImageCleanup::currentEnvironment(), std::make_shared<ProcessCommandRunner>())
+        .start();
 }

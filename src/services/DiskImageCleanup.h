@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "services/CommandRunner.h"
@@ -21,11 +22,11 @@
 class DiskImageCleanup {
 public:
     struct MountedVolume {
-        QString device;     // /dev/loop0 or one of its partitions, /dev/loop0p1
+        QString device; // /dev/loop0 or one of its partitions, /dev/loop0p1
         QString mountPoint;
     };
     struct AttachedImage {
-        QString imagePath;  // the backing file
+        QString imagePath; // the backing file
         QString loopDevice; // /dev/loopN
         QList<MountedVolume> volumes;
     };
@@ -39,7 +40,7 @@ public:
         QString bundlePath;
         QString homePath;
         QString mountTablePath = QStringLiteral("/proc/self/mountinfo");
-        std::chrono::milliseconds delay{8000};
+        std::chrono::milliseconds delay { 8000 };
     };
 
     // The running program's bundle, the user's home folder and the 8-second delay.
@@ -67,8 +68,8 @@ public:
     };
     static QList<LoopDevice> parseLoopDevices(const QByteArray &losetupJson);
     static QList<MountedVolume> parseMountTable(const QByteArray &mountInfo);
-    static QList<AttachedImage> attachedImages(const QList<LoopDevice> &loops,
-                                               const QList<MountedVolume> &mounts);
+    static QList<AttachedImage> attachedImages(
+        const QList<LoopDevice> &loops, const QList<MountedVolume> &mounts);
 
 private:
     Environment m_environment;

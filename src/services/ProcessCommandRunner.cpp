@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "services/ProcessCommandRunner.h"
 
 #include <QProcess>
@@ -7,8 +8,8 @@ namespace {
 constexpr int runLimitMs = 60'000;
 } // namespace
 
-std::optional<QByteArray> ProcessCommandRunner::run(const QString &program, const QStringList &arguments,
-                                                    bool captureOutput)
+std::optional<QByteArray> ProcessCommandRunner::run(
+    const QString &program, const QStringList &arguments, bool captureOutput)
 {
     QProcess process;
     process.setStandardErrorFile(QProcess::nullDevice());

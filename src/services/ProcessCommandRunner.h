@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "services/CommandRunner.h"
@@ -5,6 +6,6 @@
 // CommandRunner over QProcess; the program is looked up on PATH.
 class ProcessCommandRunner : public CommandRunner {
 public:
-    std::optional<QByteArray> run(const QString &program, const QStringList &arguments,
-                                  bool captureOutput) override;
+    std::optional<QByteArray> run(
+        const QString &program, const QStringList &arguments, bool captureOutput) override;
 };

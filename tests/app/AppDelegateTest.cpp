@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The launch sequence and the reactions of the tray program, with the desktop's facilities
 // played by fakes (offscreen: no tray host, so the delegate stays in its waiting state).
 #include "app/AppDelegate.h"
@@ -41,7 +42,7 @@ protected:
     FakeExportDialogs exportDialogs;
     FakeShortcutBackend shortcuts;
     XdgAutostartService loginItems { settings.dir.filePath(QStringLiteral("autostart/vantle.desktop")),
-                                     QStringLiteral("/usr/bin/vantle") };
+        QStringLiteral("/usr/bin/vantle") };
     AppearanceMonitor appearance;
     QNetworkAccessManager network;
     DialogUpdateInterface updateInterface; // never shown: the test build has no feed address

@@ -1,6 +1,7 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CommandLine.h"
-#include "model/ColorHistoryCodec.h"
 #include "history/PaletteExport.h"
+#include "model/ColorHistoryCodec.h"
 #include "services/PreferenceKeys.h"
 #include "support/TempSettings.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Where the popup opens: beside the tray icon on the side away from the panel, near the pointer
 // when the icon's place is unknown, always whole on the screen's available area and off the
 // icon; and when its content is built.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/StatusIcon.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +22,7 @@ int symbolPixels(const QImage &image, QRgb *sample)
 
 TEST(StatusIcon, DotCanvasInLightAndDark)
 {
-    for (bool dark : {false, true}) {
+    for (bool dark : { false, true }) {
         const QImage image = StatusIcon::iconWithDot(dark, QColor::fromRgbF(1.0, 0.42, 0.21, 0.2));
         ASSERT_EQ(image.size(), QSize(30, 18));
         // The dot: opaque picked colour at its centre (26, 9), whatever the stored alpha.

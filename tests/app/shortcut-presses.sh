@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The shortcuts at a person's pace, inside the private X desktop of tests/desktop/x11-session.sh:
 # keys held 80 ms as a hand holds them, many picks in a row ended in every way, with the welcome
 # window open all along, both shortcuts while the popup holds the keyboard, and a pick from the

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Vantle as a person meets it, inside the private X desktop of tests/desktop/x11-session.sh
 # (openbox, trayer, private session bus): start, tray icon, pick by shortcut onto the
 # clipboard, the dot in the tray, the popup from the tray and from `vantle toggle`,

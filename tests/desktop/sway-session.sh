@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs a command inside a private Wayland desktop: sway in headless mode (no GPU, no input
 # devices, no XWayland) on a private session bus. sway refuses to run as root, so as root the
 # whole session runs as the unprivileged user `nobody` in a private XDG_RUNTIME_DIR; files it

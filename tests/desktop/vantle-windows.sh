@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Sourced by the scripts that drive Vantle on an X desktop; $pid is the running Vantle.
 # windows: "id width height x y" for each mapped window of Vantle's.
 windows() {

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Sourced by the desktop test scripts.
 # wait_for SECONDS COMMAND...: retry briefly until COMMAND succeeds; false once SECONDS passed.
 wait_for() {

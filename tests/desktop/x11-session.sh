@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Runs a command inside a private X11 desktop: Xvfb on a free display, openbox as window
 # manager, trayer as system tray (XEmbed), all on a private session bus. Everything this
 # script starts is ended by PID when the command finishes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The update feed as the server sends it: whatever release it offers must be newer than ours,
 // complete, and downloadable only over http or https.
 #include "FuzzCheck.h"

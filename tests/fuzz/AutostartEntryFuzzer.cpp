@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The autostart entry: any file found at its place is read without trouble, and the entry we
 // write for any program path reads back as enabled and starts exactly that path.
 #include "FuzzCheck.h"

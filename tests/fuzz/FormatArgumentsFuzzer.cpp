@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // `vantle format`: each line of the input is one command-line word. Every colour the parser
 // accepts must survive its own hex text, and the whole command must answer without crashing.
 #include "FuzzCheck.h"
@@ -41,7 +42,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static QTemporaryDir folder;
     static SettingsStore store(folder.filePath(QStringLiteral("Vantle.conf")));
 
-    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QString text
+        = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     const QStringList words = text.split(QLatin1Char('\n'));
     for (const QString &word : words) {
         checkColor(word);
@@ -51,7 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QString err;
     QTextStream outStream(&out);
     QTextStream errStream(&err);
-    CommandContext context{outStream, errStream, store};
+    CommandContext context { outStream, errStream, store };
     const int status = runFormatCommand(words, context);
     FUZZ_CHECK(status == ExitStatus::ok || status == ExitStatus::usage);
     // A refusal always says why; an answer always says something.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The stored colour history as read from its file. Whatever decodes must write back and read
 // again to the very same records and the very same bytes, and every id read must be the id
 // stored (a digit beyond ASCII once read as the null id, shared by every record written so).

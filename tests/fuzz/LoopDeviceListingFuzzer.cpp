@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // `losetup --list --json` as the clean-up reads it: only absolute backing files that still
 // exist on their path are offered, each with its device name.
 #include "FuzzCheck.h"

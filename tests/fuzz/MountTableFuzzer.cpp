@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // /proc/self/mountinfo as the clean-up reads it, matched against a few loop devices: every
 // mount point is an absolute path whose bytes name exactly what the kernel wrote, and an image
 // only ever gets the volumes of its own device or its partitions.
@@ -35,9 +36,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         FUZZ_CHECK(QFile::decodeName(QFile::encodeName(mount.mountPoint)) == mount.mountPoint);
     }
     const QList<DiskImageCleanup::LoopDevice> loops = {
-        {QStringLiteral("/dev/loop0"), QStringLiteral("/home/user/Downloads/Vantle.iso")},
-        {QStringLiteral("/dev/loop1"), QStringLiteral("/tmp/other image.img")},
-        {QStringLiteral("/dev/loop10"), QStringLiteral("/tmp/ten.img")},
+        { QStringLiteral("/dev/loop0"), QStringLiteral("/home/user/Downloads/Vantle.iso") },
+        { QStringLiteral("/dev/loop1"), QStringLiteral("/tmp/other image.img") },
+        { QStringLiteral("/dev/loop10"), QStringLiteral("/tmp/ten.img") },
     };
     const QList<DiskImageCleanup::AttachedImage> images = DiskImageCleanup::attachedImages(loops, mounts);
     FUZZ_CHECK(images.size() == loops.size());

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The plain-program form of a fuzz target: runs every file of the given folders (or the given
 // files) through the target once, in name order, so a corpus replays without libFuzzer.
 #include "FuzzCheck.h"
@@ -36,8 +37,10 @@ int main(int argc, char **argv)
             return 1;
         }
         const QByteArray data = file.readAll();
-        std::fprintf(stderr, "replaying %s (%lld bytes)\n", qPrintable(path), static_cast<long long>(data.size()));
-        LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t *>(data.constData()), static_cast<size_t>(data.size()));
+        std::fprintf(
+            stderr, "replaying %s (%lld bytes)\n", qPrintable(path), static_cast<long long>(data.size()));
+        LLVMFuzzerTestOneInput(
+            reinterpret_cast<const uint8_t *>(data.constData()), static_cast<size_t>(data.size()));
     }
     std::printf("%lld inputs replayed\n", static_cast<long long>(files.size()));
     return 0;

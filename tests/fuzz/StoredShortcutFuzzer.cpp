@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The settings file as found on disk, read through the store, with the shortcut values the
 // hotkey manager registers: whatever the file says, the store opens, the values convert
 // without trouble, and the conversions agree with each other.
@@ -48,7 +49,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     {
         QFile file(path);
         FUZZ_CHECK(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        FUZZ_CHECK(file.write(reinterpret_cast<const char *>(data), static_cast<qint64>(size)) == qint64(size));
+        FUZZ_CHECK(
+            file.write(reinterpret_cast<const char *>(data), static_cast<qint64>(size)) == qint64(size));
     }
     {
         SettingsStore store(path);

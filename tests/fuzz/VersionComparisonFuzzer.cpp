@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Version comparison is an order: reflexive, antisymmetric and transitive on any three
 // versions (the input's first three lines), whatever the feed writes.
 #include "FuzzCheck.h"
@@ -17,7 +18,8 @@ int sign(int value)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const QString text
+        = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     QStringList versions = text.split(QLatin1Char('\n'));
     while (versions.size() < 3)
         versions << QString();

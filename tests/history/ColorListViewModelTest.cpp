@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/ColorListViewModel.h"
 #include "model/ColorHistoryCodec.h"
 #include "services/PreferenceKeys.h"

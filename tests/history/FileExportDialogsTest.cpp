@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/FileExportDialogs.h"
 
 #include <QAbstractButton>
@@ -18,7 +19,8 @@ TEST(FileExportDialogs, SaveDialogProposesTheNameInTheFolderForOneFileType)
         const char *name;
         const char *filter;
     };
-    for (const Case &c : {Case{true, "pinned-colors.json", "JSON (*.json)"}, Case{false, "colors.txt", "Plain Text (*.txt)"}}) {
+    for (const Case &c : { Case { true, "pinned-colors.json", "JSON (*.json)" },
+             Case { false, "colors.txt", "Plain Text (*.txt)" } }) {
         SCOPED_TRACE(c.name);
         FileExportDialogs dialogs;
         std::optional<std::optional<QString>> chosen;

@@ -1,6 +1,7 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/PaletteExport.h"
-#include "model/ColorHistoryCodec.h"
 #include "history/ColorListViewModel.h"
+#include "model/ColorHistoryCodec.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
 #include "support/HistoryFakes.h"

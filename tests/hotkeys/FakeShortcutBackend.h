@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 #include "hotkeys/GlobalShortcutBackend.h"
@@ -13,7 +14,10 @@ public:
 
     void registerShortcut(const GlobalShortcut &shortcut) override
     {
-        calls << QStringLiteral("register %1 %2 %3").arg(shortcut.id).arg(shortcut.keyCode).arg(shortcut.modifiers);
+        calls << QStringLiteral("register %1 %2 %3")
+                     .arg(shortcut.id)
+                     .arg(shortcut.keyCode)
+                     .arg(shortcut.modifiers);
         registered << shortcut;
     }
     void unregisterShortcut(int id) override

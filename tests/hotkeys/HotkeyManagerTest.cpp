@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "hotkeys/HotkeyManager.h"
 
 #include "FakeShortcutBackend.h"
@@ -43,8 +44,8 @@ TEST(HotkeyManager, ReregisterReleasesBothThenRegistersPickBeforePopover)
     f.setPick(9, 262144);
     f.manager.reregisterAll();
     EXPECT_EQ(f.backend.calls,
-        QStringList({"register 1 8 655360", "register 2 7 655360", "unregister 1", "unregister 2",
-            "register 1 9 262144", "register 2 7 655360"}));
+        QStringList({ "register 1 8 655360", "register 2 7 655360", "unregister 1", "unregister 2",
+            "register 1 9 262144", "register 2 7 655360" }));
     EXPECT_EQ(f.backend.registered.at(0).description, QStringLiteral("Pick a color"));
     EXPECT_EQ(f.backend.registered.at(1).description, QStringLiteral("Show or hide Vantle"));
 }
@@ -55,11 +56,12 @@ TEST(HotkeyManager, UnsetOrUnregistrableShortcutsRegisterNothing)
         qint64 keyCode;
         qint64 modifiers;
     };
-    for (const Row row : {Row{-1, 655360}, Row{-7, 0}, Row{4294967296LL, 655360}, Row{7, -1}}) {
+    for (const Row row : { Row { -1, 655360 }, Row { -7, 0 }, Row { 4294967296LL, 655360 }, Row { 7, -1 } }) {
         Fixture f;
         f.setPopover(row.keyCode, row.modifiers);
         f.manager.reregisterAll();
-        EXPECT_EQ(f.backend.calls, QStringList({"register 1 8 655360"})) << row.keyCode << " " << row.modifiers;
+        EXPECT_EQ(f.backend.calls, QStringList({ "register 1 8 655360" }))
+            << row.keyCode << " " << row.modifiers;
     }
 }
 
@@ -68,7 +70,7 @@ TEST(HotkeyManager, OnlyTheFourModifierBitsReachTheBackend)
     Fixture f;
     f.setPick(8, 655360 | 65536 | 8388608); // caps lock and function bits
     f.manager.registerPickHotkey();
-    EXPECT_EQ(f.backend.calls, QStringList({"register 1 8 655360"}));
+    EXPECT_EQ(f.backend.calls, QStringList({ "register 1 8 655360" }));
 }
 
 TEST(HotkeyManager, PressesBecomeSignalsOnlyOnceTheHandlerIsInstalled)

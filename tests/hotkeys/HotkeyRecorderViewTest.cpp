@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "hotkeys/HotkeyRecorderView.h"
 
 #include "services/PreferenceKeys.h"
@@ -22,8 +23,9 @@ struct Pane {
     Pane()
     {
         Preferences::pickShortcut.write(*settings.store, { 7, 262144, QStringLiteral("X") });
-        recorder = new HotkeyRecorderView(QStringLiteral("Pick color"), *settings.store, pickKeyCode, pickModifiers,
-            pickKeyChar, [this] { ++changes; }, {}, &window);
+        recorder = new HotkeyRecorderView(
+            QStringLiteral("Pick color"), *settings.store, pickKeyCode, pickModifiers, pickKeyChar,
+            [this] { ++changes; }, {}, &window);
         recorder->setOnRecordingChanged([this](bool isRecording) { recordingChanges << isRecording; });
         sibling = new QLineEdit(&window);
         auto *layout = new QVBoxLayout(&window);
@@ -48,7 +50,10 @@ struct Pane {
 
     qint64 keyCode() const { return settings.store->integerForKey(pickKeyCode); }
     qint64 modifiers() const { return settings.store->integerForKey(pickModifiers); }
-    QString keyChar() const { return settings.store->stringForKey(pickKeyChar).value_or(QStringLiteral("?")); }
+    QString keyChar() const
+    {
+        return settings.store->stringForKey(pickKeyChar).value_or(QStringLiteral("?"));
+    }
     QString fieldText() const { return recorder->field()->text(); }
 
     TempSettings settings;
@@ -106,7 +111,7 @@ TEST(HotkeyRecorderView, AcceptedPressesStoreThePhysicalKeyAndTheTextItTypes)
         EXPECT_EQ(pane.changes, 1);
         EXPECT_EQ(pane.fieldText(), row.display);
         EXPECT_EQ(pane.sibling->text(), QString()) << "the press was swallowed";
-        EXPECT_EQ(pane.recordingChanges, QList<bool>({true, false}));
+        EXPECT_EQ(pane.recordingChanges, QList<bool>({ true, false }));
     }
 }
 
@@ -151,7 +156,7 @@ TEST(HotkeyRecorderView, EscapeSecondClickAndHidingStopWithoutAChange)
         EXPECT_EQ(pane.keyChar(), QStringLiteral("X"));
         EXPECT_EQ(pane.fieldText(), QStringLiteral("Ctrl+X"));
         EXPECT_EQ(pane.changes, 0);
-        EXPECT_EQ(pane.recordingChanges, QList<bool>({true, false}));
+        EXPECT_EQ(pane.recordingChanges, QList<bool>({ true, false }));
     }
 }
 
@@ -179,8 +184,8 @@ TEST(HotkeyRecorderView, StoredCodeWithoutTextShowsNoneButOffersClear)
     settings.store->setInteger(popoverKeyCode, 7);
     settings.store->setInteger(popoverModifiers, 655360);
     settings.store->setString(popoverKeyChar, QString());
-    HotkeyRecorderView view(QStringLiteral("Toggle popover"), *settings.store, popoverKeyCode, popoverModifiers,
-        popoverKeyChar, [] {});
+    HotkeyRecorderView view(QStringLiteral("Toggle popover"), *settings.store, popoverKeyCode,
+        popoverModifiers, popoverKeyChar, [] {});
     view.show();
     EXPECT_EQ(view.field()->text(), QStringLiteral("None - click to set"));
     EXPECT_TRUE(view.clearButton()->isVisible());

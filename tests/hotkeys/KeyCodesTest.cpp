@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "hotkeys/KeyCodes.h"
 
 #include <gtest/gtest.h>
@@ -72,18 +73,19 @@ TEST(KeyCodes, OnlyTheFourStoredBitsBecomePlatformModifiers)
         Qt::KeyboardModifiers qt;
     };
     const Row rows[] = {
-        {655360, 0x08 | 0x01, Qt::AltModifier | Qt::ShiftModifier},
-        {1048576 | 524288 | 262144, 0x40 | 0x08 | 0x04, Qt::MetaModifier | Qt::AltModifier | Qt::ControlModifier},
-        {655360 | 65536 | 8388608, 0x08 | 0x01, Qt::AltModifier | Qt::ShiftModifier}, // caps lock, function
-        {65536, 0, Qt::NoModifier},
-        {0, 0, Qt::NoModifier},
+        { 655360, 0x08 | 0x01, Qt::AltModifier | Qt::ShiftModifier },
+        { 1048576 | 524288 | 262144, 0x40 | 0x08 | 0x04,
+            Qt::MetaModifier | Qt::AltModifier | Qt::ControlModifier },
+        { 655360 | 65536 | 8388608, 0x08 | 0x01, Qt::AltModifier | Qt::ShiftModifier }, // caps lock, function
+        { 65536, 0, Qt::NoModifier },
+        { 0, 0, Qt::NoModifier },
     };
     for (const Row &row : rows) {
         SCOPED_TRACE(row.stored);
         EXPECT_EQ(x11Modifiers(row.stored), row.x11);
         EXPECT_EQ(qtModifiers(row.stored), row.qt);
     }
-    EXPECT_EQ(x11Modifiers(commandFlag | optionFlag, {0x01, 0x04, 0x20, 0x10}), 0x30)
+    EXPECT_EQ(x11Modifiers(commandFlag | optionFlag, { 0x01, 0x04, 0x20, 0x10 }), 0x30)
         << "Alt and Super follow the server's modifier mapping";
     EXPECT_EQ(storedModifiersForQt(Qt::AltModifier | Qt::ShiftModifier | Qt::KeypadModifier), 655360);
     EXPECT_EQ(storedModifiersForQt(Qt::MetaModifier | Qt::GroupSwitchModifier), commandFlag);

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # install-checks.sh CHECK BUILD_DIR: checks what `cmake --install` and `make package` deliver.
 # Each check installs into its own temporary prefix. Exit status 77 means "skipped": a tool the
 # check needs is not installed.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/ColorFormat.h"
 #include "model/PickedColor.h"
 
@@ -14,24 +15,24 @@ struct Example {
 
 // The worked examples every format must reproduce to the character.
 const Example examples[] = {
-    {1.0, 0.42, 0.21, 1.0, "#FF6B36", "rgb(255, 107, 54)", "hsl(16, 100%, 61%)", "hsb(16, 79%, 100%)",
-     "rgba(255, 107, 54, 1.0)", "UIColor(red: 1.00, green: 0.42, blue: 0.21, alpha: 1.00)"},
-    {0.2, 0.4, 0.8, 0.75, "#3366CC", "rgb(51, 102, 204)", "hsl(220, 60%, 50%)", "hsb(220, 75%, 80%)",
-     "rgba(51, 102, 204, 0.8)", "UIColor(red: 0.20, green: 0.40, blue: 0.80, alpha: 0.75)"},
-    {0.5, 0.5, 0.5, 1.0, "#808080", "rgb(128, 128, 128)", "hsl(0, 0%, 50%)", "hsb(0, 0%, 50%)",
-     "rgba(128, 128, 128, 1.0)", "UIColor(red: 0.50, green: 0.50, blue: 0.50, alpha: 1.00)"},
-    {1.0, 0.0, 0.007, 1.0, "#FF0002", "rgb(255, 0, 2)", "hsl(360, 100%, 50%)", "hsb(360, 100%, 100%)",
-     "rgba(255, 0, 2, 1.0)", "UIColor(red: 1.00, green: 0.00, blue: 0.01, alpha: 1.00)"},
-    {0.25, 0.5, 0.5, 0.25, "#408080", "rgb(64, 128, 128)", "hsl(180, 33%, 38%)", "hsb(180, 50%, 50%)",
-     "rgba(64, 128, 128, 0.2)", "UIColor(red: 0.25, green: 0.50, blue: 0.50, alpha: 0.25)"},
+    { 1.0, 0.42, 0.21, 1.0, "#FF6B36", "rgb(255, 107, 54)", "hsl(16, 100%, 61%)", "hsb(16, 79%, 100%)",
+        "rgba(255, 107, 54, 1.0)", "UIColor(red: 1.00, green: 0.42, blue: 0.21, alpha: 1.00)" },
+    { 0.2, 0.4, 0.8, 0.75, "#3366CC", "rgb(51, 102, 204)", "hsl(220, 60%, 50%)", "hsb(220, 75%, 80%)",
+        "rgba(51, 102, 204, 0.8)", "UIColor(red: 0.20, green: 0.40, blue: 0.80, alpha: 0.75)" },
+    { 0.5, 0.5, 0.5, 1.0, "#808080", "rgb(128, 128, 128)", "hsl(0, 0%, 50%)", "hsb(0, 0%, 50%)",
+        "rgba(128, 128, 128, 1.0)", "UIColor(red: 0.50, green: 0.50, blue: 0.50, alpha: 1.00)" },
+    { 1.0, 0.0, 0.007, 1.0, "#FF0002", "rgb(255, 0, 2)", "hsl(360, 100%, 50%)", "hsb(360, 100%, 100%)",
+        "rgba(255, 0, 2, 1.0)", "UIColor(red: 1.00, green: 0.00, blue: 0.01, alpha: 1.00)" },
+    { 0.25, 0.5, 0.5, 0.25, "#408080", "rgb(64, 128, 128)", "hsl(180, 33%, 38%)", "hsb(180, 50%, 50%)",
+        "rgba(64, 128, 128, 0.2)", "UIColor(red: 0.25, green: 0.50, blue: 0.50, alpha: 0.25)" },
     // Black and white.
-    {0, 0, 0, 1, "#000000", "rgb(0, 0, 0)", "hsl(0, 0%, 0%)", "hsb(0, 0%, 0%)", "rgba(0, 0, 0, 1.0)",
-     "UIColor(red: 0.00, green: 0.00, blue: 0.00, alpha: 1.00)"},
-    {1, 1, 1, 1, "#FFFFFF", "rgb(255, 255, 255)", "hsl(0, 0%, 100%)", "hsb(0, 0%, 100%)", "rgba(255, 255, 255, 1.0)",
-     "UIColor(red: 1.00, green: 1.00, blue: 1.00, alpha: 1.00)"},
+    { 0, 0, 0, 1, "#000000", "rgb(0, 0, 0)", "hsl(0, 0%, 0%)", "hsb(0, 0%, 0%)", "rgba(0, 0, 0, 1.0)",
+        "UIColor(red: 0.00, green: 0.00, blue: 0.00, alpha: 1.00)" },
+    { 1, 1, 1, 1, "#FFFFFF", "rgb(255, 255, 255)", "hsl(0, 0%, 100%)", "hsb(0, 0%, 100%)",
+        "rgba(255, 255, 255, 1.0)", "UIColor(red: 1.00, green: 1.00, blue: 1.00, alpha: 1.00)" },
     // Out of range: clamped in the 8-bit formats, printed as is in the others.
-    {1.02, -0.01, 0.5, 1.0, "#FF0080", "rgb(255, 0, 128)", "hsl(330, 104%, 51%)", "hsb(330, 101%, 102%)",
-     "rgba(255, 0, 128, 1.0)", "UIColor(red: 1.02, green: -0.01, blue: 0.50, alpha: 1.00)"},
+    { 1.02, -0.01, 0.5, 1.0, "#FF0080", "rgb(255, 0, 128)", "hsl(330, 104%, 51%)", "hsb(330, 101%, 102%)",
+        "rgba(255, 0, 128, 1.0)", "UIColor(red: 1.02, green: -0.01, blue: 0.50, alpha: 1.00)" },
 };
 
 } // namespace
@@ -51,7 +52,8 @@ TEST(ColorFormat, WorkedExamplesInEveryFormat)
         EXPECT_EQ(c.formatted(ColorFormat::uiColor), QLatin1String(e.uiColor));
         // SwiftUI is the UIColor text without alpha.
         QString swiftUI = QString::fromLatin1(e.uiColor);
-        swiftUI = QStringLiteral("Color") + swiftUI.mid(7, swiftUI.indexOf(QStringLiteral(", alpha")) - 7) + QLatin1Char(')');
+        swiftUI = QStringLiteral("Color") + swiftUI.mid(7, swiftUI.indexOf(QStringLiteral(", alpha")) - 7)
+            + QLatin1Char(')');
         EXPECT_EQ(c.formatted(ColorFormat::swiftUI), swiftUI);
     }
 }
@@ -62,10 +64,16 @@ TEST(ColorFormat, ChannelRoundingHalvesAwayFromZeroAndClamps)
         double component;
         int channel;
     } cases[] = {
-        {0.5, 128}, // 127.5 rounds up
-        {0.21, 54}, // 53.55
-        {-0.01, 0}, {-0.5 / 255, 0}, {1.02, 255}, {1e300, 255}, {-1e300, 0}, {0, 0}, {1, 255},
-        {126.5 / 255, 127},
+        { 0.5, 128 }, // 127.5 rounds up
+        { 0.21, 54 }, // 53.55
+        { -0.01, 0 },
+        { -0.5 / 255, 0 },
+        { 1.02, 255 },
+        { 1e300, 255 },
+        { -1e300, 0 },
+        { 0, 0 },
+        { 1, 255 },
+        { 126.5 / 255, 127 },
     };
     for (const auto &c : cases)
         EXPECT_EQ(eightBitChannel(c.component), c.channel) << c.component;
@@ -91,7 +99,8 @@ TEST(ColorFormat, FixedDecimalsRoundTiesToEvenAndKeepSign)
     EXPECT_EQ(formatColor(0, 0, 0, 0.75, ColorFormat::css), u"rgba(0, 0, 0, 0.8)");
     EXPECT_EQ(formatColor(0, 0, 0, 0.25, ColorFormat::css), u"rgba(0, 0, 0, 0.2)");
     // 0.125 is exact: "%.2f" gives 0.12; 0.375 gives 0.38.
-    EXPECT_EQ(formatColor(0.125, 0.375, -0.001, 1, ColorFormat::swiftUI), u"Color(red: 0.12, green: 0.38, blue: -0.00)");
+    EXPECT_EQ(formatColor(0.125, 0.375, -0.001, 1, ColorFormat::swiftUI),
+        u"Color(red: 0.12, green: 0.38, blue: -0.00)");
 }
 
 TEST(ColorFormat, NumbersIgnoreTheUsersLocale)
@@ -102,9 +111,10 @@ TEST(ColorFormat, NumbersIgnoreTheUsersLocale)
     const bool haveGerman = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(formatColor(1.0, 0.42, 0.21, 0.75, ColorFormat::uiColor),
-              u"UIColor(red: 1.00, green: 0.42, blue: 0.21, alpha: 0.75)");
+        u"UIColor(red: 1.00, green: 0.42, blue: 0.21, alpha: 0.75)");
     EXPECT_EQ(formatColor(1.0, 0.42, 0.21, 0.75, ColorFormat::css), u"rgba(255, 107, 54, 0.8)");
-    EXPECT_EQ(formatColor(1234.0, 0, 0, 1, ColorFormat::hsl), u"hsl(0, -100%, 61700%)"); // no digit grouping; unclamped
+    EXPECT_EQ(formatColor(1234.0, 0, 0, 1, ColorFormat::hsl),
+        u"hsl(0, -100%, 61700%)"); // no digit grouping; unclamped
     std::setlocale(LC_ALL, saved.c_str());
     QLocale::setDefault(QLocale::c());
     if (!haveGerman)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/Contrast.h"
 
 #include <gtest/gtest.h>
@@ -8,11 +9,11 @@ TEST(Contrast, WorkedValues)
         double r, g, b, luminance;
         const char *white, *whiteLevel, *black, *blackLevel;
     } cases[] = {
-        {1.0, 0.42, 0.21, 0.3206, "2.8:1", "Fail", "7.4:1", "AAA"},
-        {0.5, 0.5, 0.5, 0.2140, "4.0:1", "AA Large", "5.3:1", "AA"},
-        {0.2, 0.4, 0.8, 0.1457, "5.4:1", "AA", "3.9:1", "AA Large"},
-        {0.0, 0.0, 0.0, 0.0, "21.0:1", "AAA", "1.0:1", "Fail"},
-        {1.0, 1.0, 1.0, 1.0, "1.0:1", "Fail", "21.0:1", "AAA"},
+        { 1.0, 0.42, 0.21, 0.3206, "2.8:1", "Fail", "7.4:1", "AAA" },
+        { 0.5, 0.5, 0.5, 0.2140, "4.0:1", "AA Large", "5.3:1", "AA" },
+        { 0.2, 0.4, 0.8, 0.1457, "5.4:1", "AA", "3.9:1", "AA Large" },
+        { 0.0, 0.0, 0.0, 0.0, "21.0:1", "AAA", "1.0:1", "Fail" },
+        { 1.0, 1.0, 1.0, 1.0, "1.0:1", "Fail", "21.0:1", "AAA" },
     };
     for (const auto &c : cases) {
         const double l = relativeLuminance(c.r, c.g, c.b);

@@ -1,5 +1,6 @@
-#include "model/ColorHistoryCodec.h"
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/PickedColor.h"
+#include "model/ColorHistoryCodec.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -8,7 +9,8 @@
 
 namespace {
 
-PickedColor sample(const char *uuid, double r, std::optional<QString> name = std::nullopt, bool pinned = false)
+PickedColor sample(
+    const char *uuid, double r, std::optional<QString> name = std::nullopt, bool pinned = false)
 {
     PickedColor c;
     c.id = QUuid::fromString(QLatin1String(uuid));
@@ -26,14 +28,15 @@ PickedColor sample(const char *uuid, double r, std::optional<QString> name = std
 
 TEST(PickedColor, EncodesTheExactStoredForm)
 {
-    const PickedColor c = sample("6f9619ff-8b86-d011-b42d-00c04fc964ff", 1.0, QStringLiteral("Sky/Sea \"1\""), true);
-    const auto json = encodeColorHistory({c});
+    const PickedColor c
+        = sample("6f9619ff-8b86-d011-b42d-00c04fc964ff", 1.0, QStringLiteral("Sky/Sea \"1\""), true);
+    const auto json = encodeColorHistory({ c });
     ASSERT_TRUE(json);
     EXPECT_EQ(*json,
-              R"([{"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":0.42,"blue":0.21,"alpha":1,)"
-              R"("name":"Sky\/Sea \"1\"","isPinned":true,"timestamp":785000000.125}])");
+        R"([{"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":0.42,"blue":0.21,"alpha":1,)"
+        R"("name":"Sky\/Sea \"1\"","isPinned":true,"timestamp":785000000.125}])");
     // No name: the key is left out, never null.
-    const auto unnamed = encodeColorHistory({sample("6f9619ff-8b86-d011-b42d-00c04fc964ff", 0.5)});
+    const auto unnamed = encodeColorHistory({ sample("6f9619ff-8b86-d011-b42d-00c04fc964ff", 0.5) });
     ASSERT_TRUE(unnamed);
     EXPECT_FALSE(unnamed->contains("name"));
     EXPECT_EQ(encodeColorHistory({}), QByteArray("[]"));
@@ -45,7 +48,7 @@ TEST(PickedColor, RoundTripsEveryValueExactly)
     const QString names[] = { QStringLiteral("Ünïcødé 🎨 \t\n\x01 /\\"), QStringLiteral("\uFEFF\uFEFFmarks"),
         QStringView(u"\xDC00\xD800 halves").toString() };
     QList<PickedColor> colors;
-    for (double v : {0.1, 1.0 / 3.0, 1.02, -0.01, 5e-324, 0.30000000000000004}) {
+    for (double v : { 0.1, 1.0 / 3.0, 1.02, -0.01, 5e-324, 0.30000000000000004 }) {
         PickedColor c = PickedColor::fromSample(v, v / 7, 1 - v, 0.75);
         c.name = names[colors.size() % 3];
         colors.append(c);
@@ -130,7 +133,8 @@ TEST(PickedColor, ReadsWhatEarlierVersionsRead)
 
 TEST(PickedColor, OneBadElementRejectsTheWholeHistory)
 {
-    const QByteArray good = R"({"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":1,"blue":1,"alpha":1,"isPinned":false,"timestamp":0})";
+    const QByteArray good
+        = R"({"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":1,"blue":1,"alpha":1,"isPinned":false,"timestamp":0})";
     const QByteArray bad[] = {
         R"({"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":1,"blue":1,"alpha":1,"timestamp":0})", // no isPinned
         R"({"id":"6F9619FF-8B86-D011-B42D-00C04FC964FF","red":1,"green":1,"blue":1,"alpha":1,"isPinned":false})", // no timestamp
@@ -170,6 +174,6 @@ TEST(PickedColor, EqualityIsAllFieldsIdentityIsId)
 
 TEST(PickedColor, EncodingFailsForNumbersJsonCannotHold)
 {
-    EXPECT_FALSE(encodeColorHistory({PickedColor::fromSample(std::nan(""), 0, 0, 1)}));
-    EXPECT_FALSE(encodeColorHistory({PickedColor::fromSample(0, 0, 0, INFINITY)}));
+    EXPECT_FALSE(encodeColorHistory({ PickedColor::fromSample(std::nan(""), 0, 0, 1) }));
+    EXPECT_FALSE(encodeColorHistory({ PickedColor::fromSample(0, 0, 0, INFINITY) }));
 }

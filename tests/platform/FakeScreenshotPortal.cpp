@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "FakeScreenshotPortal.h"
 
 #include <QDBusArgument>
@@ -8,14 +9,14 @@
 FakeScreenshotPortal::FakeScreenshotPortal(const QString &connectionName)
     : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName))
 {
-    const bool objectRegistered = m_bus.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), this,
-                                                       QDBusConnection::ExportAllSlots);
+    const bool objectRegistered = m_bus.registerObject(
+        QStringLiteral("/org/freedesktop/portal/desktop"), this, QDBusConnection::ExportAllSlots);
     // Each test's portal takes the name over from the one before, whose release may still be
     // on its way through the bus.
     const bool nameOwned = m_bus.interface()
                                ->registerService(QStringLiteral("org.freedesktop.portal.Desktop"),
-                                                 QDBusConnectionInterface::ReplaceExistingService,
-                                                 QDBusConnectionInterface::AllowReplacement)
+                                   QDBusConnectionInterface::ReplaceExistingService,
+                                   QDBusConnectionInterface::AllowReplacement)
                                .value()
         == QDBusConnectionInterface::ServiceRegistered;
     m_registered = objectRegistered && nameOwned;
@@ -39,8 +40,8 @@ void FakeScreenshotPortal::respond(const QString &path, uint response, double r,
         color.endStructure();
         results.insert(QStringLiteral("color"), QVariant::fromValue(color));
     }
-    QDBusMessage signal =
-        QDBusMessage::createSignal(path, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
+    QDBusMessage signal = QDBusMessage::createSignal(
+        path, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
     signal << response << results;
     m_bus.send(signal);
 }
@@ -51,7 +52,8 @@ QDBusObjectPath FakeScreenshotPortal::PickColor(const QString &, const QVariantM
     lastToken = options.value(QStringLiteral("handle_token")).toString();
     QString sender = message().service().mid(1);
     sender.replace(QLatin1Char('.'), QLatin1Char('_'));
-    const QString predicted = QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, lastToken);
+    const QString predicted
+        = QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, lastToken);
     const QDBusMessage call = message();
     setDelayedReply(true);
     switch (answer) {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Our portal clients against the real xdg-desktop-portal frontend, with the test backend behind
 // it, all on a private session bus (the test runs under dbus-run-session).
 #include "TestPortalBackend.h"

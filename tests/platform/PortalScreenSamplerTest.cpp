@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/portal/PortalScreenSampler.h"
 #include "FakeScreenshotPortal.h"
 #include "platform/portal/PortalRequest.h"
@@ -51,13 +52,13 @@ TEST(PortalScreenSampler, AnswersOfThePortal)
         bool picks;
         const char *what;
     } cases[] = {
-        {Answer::picked, true, "picked"},
-        {Answer::cancelled, false, "cancelled by the user"},
-        {Answer::failed, false, "ended by the portal"},
-        {Answer::responseFirst, true, "Response before the method's reply"},
-        {Answer::otherHandle, true, "another handle returned"},
-        {Answer::error, false, "the method failed"},
-        {Answer::picked, true, "picked again after a failure"},
+        { Answer::picked, true, "picked" },
+        { Answer::cancelled, false, "cancelled by the user" },
+        { Answer::failed, false, "ended by the portal" },
+        { Answer::responseFirst, true, "Response before the method's reply" },
+        { Answer::otherHandle, true, "another handle returned" },
+        { Answer::error, false, "the method failed" },
+        { Answer::picked, true, "picked again after a failure" },
     };
     for (const Case &c : cases) {
         portal.answer = c.answer;
@@ -94,7 +95,7 @@ TEST(PortalScreenSampler, SecondPickWhileOneRunsEndsWithNothing)
     ASSERT_TRUE(portal.isRegistered());
     PortalScreenSampler sampler(QDBusConnection::sessionBus());
     int firstCalls = 0, secondCalls = 0;
-    std::optional<SampledColor> first, second = SampledColor{};
+    std::optional<SampledColor> first, second = SampledColor {};
     sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor> c) { ++firstCalls, first = c; });
     sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor> c) { ++secondCalls, second = c; });
     EXPECT_TRUE(QTest::qWaitFor([&] { return firstCalls && secondCalls; }, 10000));

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The test portal backend as a program of its own, for desktop tests where Vantle runs as a
 // separate process: it serves the backend interfaces under its bus name and takes orders from
 // the test script through org.vantle.TestPortal at /org/vantle/TestPortal (dbus-send):

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/QtClipboard.h"
 
 #include <QClipboard>
@@ -13,7 +14,8 @@ namespace {
 QString readWithXclip(const char *selection)
 {
     QProcess xclip;
-    xclip.start(QStringLiteral("xclip"), {QStringLiteral("-o"), QStringLiteral("-selection"), QString::fromLatin1(selection)});
+    xclip.start(QStringLiteral("xclip"),
+        { QStringLiteral("-o"), QStringLiteral("-selection"), QString::fromLatin1(selection) });
     [&] { QTRY_VERIFY_WITH_TIMEOUT(xclip.state() == QProcess::NotRunning, 10000); }();
     return QString::fromUtf8(xclip.readAllStandardOutput());
 }
@@ -22,7 +24,8 @@ TEST(QtClipboard, ReplacesTheClipboardTextOnly)
 {
     QGuiApplication::clipboard()->setText(QStringLiteral("selection sentinel"), QClipboard::Selection);
     QtClipboard clipboard(false);
-    for (const QString &text : {QStringLiteral("#FF6B36"), QStringLiteral("Color(red: 1.00, green: 0.42, blue: 0.21)")}) {
+    for (const QString &text :
+        { QStringLiteral("#FF6B36"), QStringLiteral("Color(red: 1.00, green: 0.42, blue: 0.21)") }) {
         EXPECT_TRUE(clipboard.setText(text));
         EXPECT_EQ(QGuiApplication::clipboard()->text(QClipboard::Clipboard), text);
         if (QGuiApplication::platformName() == u"xcb") {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Helpers for the sampler's desktop test, run under a private X server:
 //   target X Y W H COLOR_LEFT COLOR_RIGHT FILE   a window split into two colours at an exact
 //                                                position; every button press that reaches it
@@ -49,8 +50,8 @@ int paintPattern()
     const int width = screen->width_in_pixels;
     const int height = screen->height_in_pixels;
     const xcb_pixmap_t pixmap = xcb_generate_id(connection);
-    xcb_create_pixmap(connection, screen->root_depth, pixmap, screen->root, uint16_t(width),
-                      uint16_t(height));
+    xcb_create_pixmap(
+        connection, screen->root_depth, pixmap, screen->root, uint16_t(width), uint16_t(height));
     const xcb_gcontext_t gc = xcb_generate_id(connection);
     xcb_create_gc(connection, gc, pixmap, 0, nullptr);
     const uint32_t maxBytes = xcb_get_maximum_request_length(connection) * 4 - 64;
@@ -63,8 +64,8 @@ int paintPattern()
             for (int x = 0; x < width; ++x)
                 band[size_t(y) * width + x] = patternAt(x, top + y) & 0x00ffffffu;
         xcb_put_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, pixmap, gc, uint16_t(width), uint16_t(rows), 0,
-                      int16_t(top), 0, screen->root_depth, uint32_t(band.size() * 4),
-                      reinterpret_cast<const uint8_t *>(band.data()));
+            int16_t(top), 0, screen->root_depth, uint32_t(band.size() * 4),
+            reinterpret_cast<const uint8_t *>(band.data()));
     }
     xcb_change_window_attributes(connection, screen->root, XCB_CW_BACK_PIXMAP, &pixmap);
     xcb_clear_area(connection, 0, screen->root, 0, 0, 0, 0);
@@ -107,10 +108,10 @@ int checkLoupe(const QString &shotFile, const QPoint &hotspot)
             if (std::hypot(offset.x(), offset.y()) + zoom * 0.75 > diameter / 2.0 - 3)
                 continue;
             const QPoint source = hotspot + QPoint(i, j);
-            const QRgb expected =
-                shot.rect().contains(source) ? patternAt(source.x(), source.y()) : qRgb(0, 0, 0);
+            const QRgb expected
+                = shot.rect().contains(source) ? patternAt(source.x(), source.y()) : qRgb(0, 0, 0);
             // Past the grid line on the first row and column and clear of the hotspot's frame.
-            const QPoint insides[] = {QPoint(3, 3), QPoint(zoom / 2, zoom / 2), QPoint(zoom - 3, zoom - 3)};
+            const QPoint insides[] = { QPoint(3, 3), QPoint(zoom / 2, zoom / 2), QPoint(zoom - 3, zoom - 3) };
             for (const QPoint inside : insides) {
                 ++checked;
                 const QRgb actual = shot.pixel(cell + inside) | 0xff000000u;
@@ -118,8 +119,8 @@ int checkLoupe(const QString &shotFile, const QPoint &hotspot)
                     continue;
                 if (++wrong <= 5)
                     std::printf("cell (%d, %d) at %d,%d shows %s, expected %s\n", i, j, (cell + inside).x(),
-                                (cell + inside).y(), qPrintable(QColor(actual).name()),
-                                qPrintable(QColor(expected).name()));
+                        (cell + inside).y(), qPrintable(QColor(actual).name()),
+                        qPrintable(QColor(expected).name()));
             }
         }
     }
@@ -170,10 +171,9 @@ int waitForGrab(double seconds)
     QElapsedTimer clock;
     clock.start();
     while (clock.elapsed() < seconds * 1000) {
-        xcb_grab_pointer_reply_t *reply = xcb_grab_pointer_reply(
-            connection,
-            xcb_grab_pointer(connection, 0, root, 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE,
-                             XCB_CURRENT_TIME),
+        xcb_grab_pointer_reply_t *reply = xcb_grab_pointer_reply(connection,
+            xcb_grab_pointer(connection, 0, root, 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_NONE,
+                XCB_NONE, XCB_CURRENT_TIME),
             nullptr);
         const bool heldElsewhere = reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
         std::free(reply);
@@ -198,7 +198,8 @@ int main(int argc, char **argv)
     if (argc == 2 && QByteArray(argv[1]) == "pattern")
         return paintPattern();
     if (argc == 4 && QByteArray(argv[1]) == "pattern-hex") {
-        std::printf("%s\n", qPrintable(QColor(patternAt(std::atoi(argv[2]), std::atoi(argv[3]))).name().toUpper()));
+        std::printf(
+            "%s\n", qPrintable(QColor(patternAt(std::atoi(argv[2]), std::atoi(argv[3]))).name().toUpper()));
         return 0;
     }
     if (argc == 5 && QByteArray(argv[1]) == "check-loupe") {
@@ -206,13 +207,15 @@ int main(int argc, char **argv)
         return checkLoupe(QString::fromLocal8Bit(argv[2]), QPoint(std::atoi(argv[3]), std::atoi(argv[4])));
     }
     if (argc != 9 || QByteArray(argv[1]) != "target") {
-        std::fprintf(stderr, "usage: %s target X Y W H LEFT RIGHT FILE | wait-grab SECONDS | pattern"
-                             " | pattern-hex X Y | check-loupe SHOT HX HY\n", argv[0]);
+        std::fprintf(stderr,
+            "usage: %s target X Y W H LEFT RIGHT FILE | wait-grab SECONDS | pattern"
+            " | pattern-hex X Y | check-loupe SHOT HX HY\n",
+            argv[0]);
         return 2;
     }
     QApplication app(argc, argv);
     Target target(QColor(QString::fromLatin1(argv[6])), QColor(QString::fromLatin1(argv[7])),
-                  QString::fromLocal8Bit(argv[8]));
+        QString::fromLocal8Bit(argv[8]));
     target.setGeometry(std::atoi(argv[2]), std::atoi(argv[3]), std::atoi(argv[4]), std::atoi(argv[5]));
     target.show();
     return app.exec();

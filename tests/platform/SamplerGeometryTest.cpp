@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/x11/SamplerGeometry.h"
 
 #include <gtest/gtest.h>
@@ -26,15 +27,17 @@ QPointF localFromDevice(const ScreenArea &screen, const QPoint &device)
 
 TEST(SamplerGeometry, EveryDevicePixelIsReachableAtEachScale)
 {
-    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
-        const ScreenArea screen = screenArea(QRect(QPoint(1920, 0), QSize(int(2560 / scale), int(1440 / scale))), scale);
+    for (const double scale : { 1.0, 1.25, 1.5, 1.75, 2.0 }) {
+        const ScreenArea screen
+            = screenArea(QRect(QPoint(1920, 0), QSize(int(2560 / scale), int(1440 / scale))), scale);
         for (int x = screen.device.left(); x <= screen.device.left() + 40; ++x)
-            for (const int y : {0, 1, 2, 3, 719, screen.device.bottom()}) {
+            for (const int y : { 0, 1, 2, 3, 719, screen.device.bottom() }) {
                 const QPoint device(x, y);
                 ASSERT_EQ(deviceFromLocalLogical(screen, localFromDevice(screen, device)), device)
                     << "scale " << scale;
-                ASSERT_EQ(deviceFromLocalLogical(screen, logicalFromDevice(screen, device) - screen.logical.topLeft()),
-                          device)
+                ASSERT_EQ(deviceFromLocalLogical(
+                              screen, logicalFromDevice(screen, device) - screen.logical.topLeft()),
+                    device)
                     << "scale " << scale;
             }
     }
@@ -56,21 +59,22 @@ TEST(SamplerGeometry, ScreenAreasKeepTheirOriginAndScaleTheirSize)
 TEST(SamplerGeometry, ArrowNudgesStopAtEdgesAndCrossOntoNeighbours)
 {
     // A 1920x1080 screen at scale 1 with a 4K screen at scale 2 to its right.
-    const QList<ScreenArea> screens = {screenArea(QRect(0, 0, 1920, 1080), 1), screenArea(QRect(1920, 0, 1920, 1080), 2)};
+    const QList<ScreenArea> screens
+        = { screenArea(QRect(0, 0, 1920, 1080), 1), screenArea(QRect(1920, 0, 1920, 1080), 2) };
     struct Case {
         QPoint from;
         int dx, dy;
         QPoint expected;
     } cases[] = {
-        {{100, 100}, 1, 0, {101, 100}},
-        {{100, 100}, 0, -10, {100, 90}},
-        {{5, 5}, -10, -10, {0, 0}}, // a Shift+arrow at the corner stops on the corner pixel
-        {{0, 0}, -1, 0, {0, 0}},
-        {{1919, 500}, 1, 0, {1920, 500}}, // onto the next screen
-        {{1915, 500}, 10, 0, {1925, 500}},
-        {{1919, 1079}, 0, 1, {1919, 1079}}, // below the shorter screen is nowhere
-        {{1919, 1079}, 5, 5, {1924, 1084}}, // the 4K screen is 2160 device pixels tall
-        {{3839 + 1920, 2159}, 1, 1, {3839 + 1920, 2159}},
+        { { 100, 100 }, 1, 0, { 101, 100 } },
+        { { 100, 100 }, 0, -10, { 100, 90 } },
+        { { 5, 5 }, -10, -10, { 0, 0 } }, // a Shift+arrow at the corner stops on the corner pixel
+        { { 0, 0 }, -1, 0, { 0, 0 } },
+        { { 1919, 500 }, 1, 0, { 1920, 500 } }, // onto the next screen
+        { { 1915, 500 }, 10, 0, { 1925, 500 } },
+        { { 1919, 1079 }, 0, 1, { 1919, 1079 } }, // below the shorter screen is nowhere
+        { { 1919, 1079 }, 5, 5, { 1924, 1084 } }, // the 4K screen is 2160 device pixels tall
+        { { 3839 + 1920, 2159 }, 1, 1, { 3839 + 1920, 2159 } },
     };
     for (const Case &c : cases)
         EXPECT_EQ(nudged(screens, c.from, c.dx, c.dy), c.expected) << c.from << " by " << c.dx << "," << c.dy;
@@ -105,13 +109,13 @@ TEST(SamplerGeometry, LoupeFlipsToStayOnScreen)
         QPoint hotspot;
         QPoint expectedTopLeft;
     } cases[] = {
-        {{2500, 500}, {2500 + 1 + gap, 500 + 1 + gap}}, // below right
-        {{3839, 500}, {3839 - gap - 140, 519}}, // right edge: flips left
-        {{2500, 1079}, {2519, 1079 - gap - 170}}, // bottom edge: flips up
-        {{3839, 1079}, {3839 - gap - 140, 1079 - gap - 170}}, // corner: both
-        {{1920, 0}, {1939, 19}}, // top-left corner: stays below right
-        {{3700, 950}, {3700 - gap - 140, 950 - gap - 170}}, // box would just overflow: flips
-        {{3662, 500}, {3662 + 1 + gap, 519}}, // box ends on the last column: no flip
+        { { 2500, 500 }, { 2500 + 1 + gap, 500 + 1 + gap } }, // below right
+        { { 3839, 500 }, { 3839 - gap - 140, 519 } }, // right edge: flips left
+        { { 2500, 1079 }, { 2519, 1079 - gap - 170 } }, // bottom edge: flips up
+        { { 3839, 1079 }, { 3839 - gap - 140, 1079 - gap - 170 } }, // corner: both
+        { { 1920, 0 }, { 1939, 19 } }, // top-left corner: stays below right
+        { { 3700, 950 }, { 3700 - gap - 140, 950 - gap - 170 } }, // box would just overflow: flips
+        { { 3662, 500 }, { 3662 + 1 + gap, 519 } }, // box ends on the last column: no flip
     };
     for (const Case &c : cases) {
         const QRect placed = loupePlacement(screen, c.hotspot, box, gap);
@@ -131,9 +135,11 @@ TEST(SamplerGeometry, SamplesTheExactFrozenPixel)
     for (int y = 0; y < desktop.height(); ++y)
         for (int x = 0; x < desktop.width(); ++x)
             desktop.setPixel(x, y, qRgb(x % 256, y, (x / 256) * 100));
-    for (const double scale : {1.0, 1.5, 2.0}) {
-        const ScreenArea screen = screenArea(QRect(QPoint(0, 0), QSizeF(300 / scale, 200 / scale).toSize()), scale);
-        for (const QPoint device : {QPoint(0, 0), QPoint(299, 199), QPoint(257, 3), QPoint(1, 198), QPoint(150, 101)}) {
+    for (const double scale : { 1.0, 1.5, 2.0 }) {
+        const ScreenArea screen
+            = screenArea(QRect(QPoint(0, 0), QSizeF(300 / scale, 200 / scale).toSize()), scale);
+        for (const QPoint device :
+            { QPoint(0, 0), QPoint(299, 199), QPoint(257, 3), QPoint(1, 198), QPoint(150, 101) }) {
             const QPoint hit = deviceFromLocalLogical(screen, localFromDevice(screen, device));
             const auto rgb = sampleAt(desktop, QPoint(0, 0), hit);
             ASSERT_TRUE(rgb);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The data-control clipboard on a real compositor: headless sway, where no surface ever has
 // keyboard focus (no input devices), exactly like a tray program after a global shortcut. Runs
 // inside tests/desktop/sway-session.sh; wl-paste is the other program reading what we copied.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Another X client that holds Alt+Shift+<key> before Vantle asks for it, as a desktop's own
 // shortcut daemon would. Prints "grabbed" once the server accepted the grab and holds it until
 // its standard input closes.
@@ -18,16 +19,15 @@ int main(int argc, char **argv)
     xcb_keycode_t *keycodes = xcb_key_symbols_get_keycode(symbols, keysym);
     if (!keycodes)
         return 1;
-    const xcb_void_cookie_t cookie = xcb_grab_key_checked(connection, 1, root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT,
-        keycodes[0], XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const xcb_void_cookie_t cookie = xcb_grab_key_checked(connection, 1, root,
+        XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT, keycodes[0], XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     if (xcb_generic_error_t *error = xcb_request_check(connection, cookie)) {
         std::free(error);
         return 1;
     }
     std::puts("grabbed");
     std::fflush(stdout);
-    while (std::getchar() != EOF) {
-    }
+    while (std::getchar() != EOF) { }
     std::free(keycodes);
     xcb_key_symbols_free(symbols);
     xcb_disconnect(connection);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Global shortcuts on a real X server (run inside tests/desktop/x11-session.sh): real grabs,
 // real key presses from xdotool through the XTest extension.
 #include "platform/x11/XcbShortcutBackend.h"
@@ -36,20 +37,21 @@ void xdotool(const QStringList &arguments)
 
 void key(const QString &chord)
 {
-    xdotool({QStringLiteral("key"), QStringLiteral("--clearmodifiers"), chord});
+    xdotool({ QStringLiteral("key"), QStringLiteral("--clearmodifiers"), chord });
 }
 
 // A failed test must not leave a lock on for the next one.
 void turnLocksOff()
 {
     QProcess xset;
-    xset.start(QStringLiteral("xset"), {QStringLiteral("q")});
+    xset.start(QStringLiteral("xset"), { QStringLiteral("q") });
     xset.waitForFinished(10000);
     const QString state = QString::fromLatin1(xset.readAllStandardOutput()).simplified();
-    for (const char *lock : {"Caps Lock", "Num Lock"}) {
+    for (const char *lock : { "Caps Lock", "Num Lock" }) {
         if (state.contains(QLatin1String(lock) + QStringLiteral(": on")))
             QProcess::execute(QStringLiteral("xdotool"),
-                {QStringLiteral("key"), QString::fromLatin1(lock).replace(QLatin1Char(' '), QLatin1Char('_'))});
+                { QStringLiteral("key"),
+                    QString::fromLatin1(lock).replace(QLatin1Char(' '), QLatin1Char('_')) });
     }
 }
 
@@ -63,7 +65,7 @@ protected:
         ASSERT_NE(backend, nullptr);
         manager = std::make_unique<HotkeyManager>(*settings.store, *backend);
         manager->installEventHandler();
-        setShortcut(pickKeyCode, pickModifiers, 8, 655360);    // Alt+Shift+C
+        setShortcut(pickKeyCode, pickModifiers, 8, 655360); // Alt+Shift+C
         setShortcut(popoverKeyCode, popoverModifiers, 7, 655360); // Alt+Shift+X
         g_messages.clear();
         previousHandler = qInstallMessageHandler(collectMessages);
@@ -90,7 +92,8 @@ protected:
         const int before = popover->count();
         key(chord);
         key(marker);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return popover->count() > before; }, 10000)) << "marker never arrived";
+        ASSERT_TRUE(QTest::qWaitFor([&] { return popover->count() > before; }, 10000))
+            << "marker never arrived";
     }
 
     TempSettings settings;
@@ -113,16 +116,16 @@ TEST_F(XcbShortcuts, PickFiresOnceWhateverLockIsOn)
 {
     manager->reregisterAll();
     spy();
-    const QStringList locks[] = {{}, {QStringLiteral("Num_Lock")}, {QStringLiteral("Caps_Lock")},
-        {QStringLiteral("Num_Lock"), QStringLiteral("Caps_Lock")}};
+    const QStringList locks[] = { {}, { QStringLiteral("Num_Lock") }, { QStringLiteral("Caps_Lock") },
+        { QStringLiteral("Num_Lock"), QStringLiteral("Caps_Lock") } };
     for (const QStringList &lock : locks) {
         SCOPED_TRACE(lock.join(QLatin1Char('+')).toStdString());
         for (const QString &k : lock)
-            xdotool({QStringLiteral("key"), k});
+            xdotool({ QStringLiteral("key"), k });
         pick->clear();
         pressThenMarker(QStringLiteral("alt+shift+c"));
         for (const QString &k : lock)
-            xdotool({QStringLiteral("key"), k}); // off again
+            xdotool({ QStringLiteral("key"), k }); // off again
         EXPECT_EQ(pick->count(), 1);
     }
 }
@@ -132,14 +135,14 @@ TEST_F(XcbShortcuts, HeldKeyFiresOnceThroughAutoRepeat)
     manager->reregisterAll();
     spy();
     // Repeat after 100 ms at 50 per second, so half a second of holding repeats many times.
-    QProcess::execute(QStringLiteral("xset"), {QStringLiteral("r"), QStringLiteral("rate"), QStringLiteral("100"),
-                                                  QStringLiteral("50")});
-    xdotool({QStringLiteral("keydown"), QStringLiteral("alt+shift+c")});
+    QProcess::execute(QStringLiteral("xset"),
+        { QStringLiteral("r"), QStringLiteral("rate"), QStringLiteral("100"), QStringLiteral("50") });
+    xdotool({ QStringLiteral("keydown"), QStringLiteral("alt+shift+c") });
     ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() > 0; }, 10000));
     QTest::qWait(600); // the hold itself: auto-repeat needs the key down for a while
-    xdotool({QStringLiteral("keyup"), QStringLiteral("alt+shift+c")});
+    xdotool({ QStringLiteral("keyup"), QStringLiteral("alt+shift+c") });
     pressThenMarker(QStringLiteral("alt+shift+c"));
-    QProcess::execute(QStringLiteral("xset"), {QStringLiteral("r"), QStringLiteral("rate")});
+    QProcess::execute(QStringLiteral("xset"), { QStringLiteral("r"), QStringLiteral("rate") });
     EXPECT_EQ(pick->count(), 2) << "one for the held press, one for the next press";
 }
 
@@ -151,7 +154,7 @@ public:
     {
         const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
         m_window = xcb_generate_id(m_connection);
-        const uint32_t values[] = {1, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE};
+        const uint32_t values[] = { 1, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE };
         xcb_create_window(m_connection, 0, m_window, screen->root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
             XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
         xcb_map_window(m_connection, m_window);
@@ -166,7 +169,8 @@ public:
     bool take()
     {
         xcb_grab_keyboard_reply_t *reply = xcb_grab_keyboard_reply(m_connection,
-            xcb_grab_keyboard(m_connection, 0, m_window, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+            xcb_grab_keyboard(
+                m_connection, 0, m_window, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
             nullptr);
         const bool taken = reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
         std::free(reply);
@@ -192,8 +196,8 @@ TEST_F(XcbShortcuts, EveryPressOfASeriesFiresWhereverTheReleaseGoes)
         const char *name;
         int grabMs; // how long our window keeps the keyboard after each press; -1: it takes none
     };
-    const Case cases[] = {{"nothing takes the keyboard", -1}, {"the loupe outlasts the release", 400},
-        {"the loupe ends before the release", 20}};
+    const Case cases[] = { { "nothing takes the keyboard", -1 }, { "the loupe outlasts the release", 400 },
+        { "the loupe ends before the release", 20 } };
     manager->reregisterAll();
     spy();
     KeyboardTaker taker;
@@ -205,8 +209,10 @@ TEST_F(XcbShortcuts, EveryPressOfASeriesFiresWhereverTheReleaseGoes)
         });
         pick->clear();
         for (int press = 1; press <= 6; ++press) {
-            xdotool({QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("80"), QStringLiteral("alt+shift+c")});
-            ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() >= press; }, 3000)) << "press " << press << " was lost";
+            xdotool({ QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("80"),
+                QStringLiteral("alt+shift+c") });
+            ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() >= press; }, 3000))
+                << "press " << press << " was lost";
             QTest::qWait(std::max(c.grabMs, 0) + 50);
         }
         QObject::disconnect(answer);
@@ -249,7 +255,7 @@ TEST_F(XcbShortcuts, ChangedShortcutReleasesTheOldCombinationAtOnce)
 TEST_F(XcbShortcuts, CombinationHeldByAnotherClientLeavesTheOtherShortcutWorking)
 {
     QProcess helper;
-    helper.start(QStringLiteral(XGRAB_HELPER), {QStringLiteral("c")});
+    helper.start(QStringLiteral(XGRAB_HELPER), { QStringLiteral("c") });
     ASSERT_TRUE(helper.waitForReadyRead(10000));
     ASSERT_EQ(helper.readLine().trimmed(), QByteArray("grabbed"));
 
@@ -258,9 +264,9 @@ TEST_F(XcbShortcuts, CombinationHeldByAnotherClientLeavesTheOtherShortcutWorking
     pressThenMarker(QStringLiteral("alt+shift+c"));
     EXPECT_EQ(pick->count(), 0) << "the other client has it";
     // With Num Lock on our own grab of the same key still works: only the taken variant failed.
-    xdotool({QStringLiteral("key"), QStringLiteral("Num_Lock")});
+    xdotool({ QStringLiteral("key"), QStringLiteral("Num_Lock") });
     pressThenMarker(QStringLiteral("alt+shift+c"));
-    xdotool({QStringLiteral("key"), QStringLiteral("Num_Lock")});
+    xdotool({ QStringLiteral("key"), QStringLiteral("Num_Lock") });
     EXPECT_EQ(pick->count(), 1);
     helper.closeWriteChannel();
     EXPECT_TRUE(helper.waitForFinished(10000));
@@ -287,7 +293,8 @@ TEST_F(XcbShortcuts, SameCombinationForBothGoesToPick)
     manager->reregisterAll();
     spy();
     for (int press = 1; press <= 3; ++press) {
-        xdotool({QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("80"), QStringLiteral("alt+shift+c")});
+        xdotool({ QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("80"),
+            QStringLiteral("alt+shift+c") });
         ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() >= press; }, 10000)) << "press " << press;
     }
     EXPECT_EQ(popover->count(), 0);
@@ -305,8 +312,10 @@ TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)
     manager->reregisterAll();
     spy();
     // Move the keysym c to another key, as a layout switch does.
-    QProcess::execute(QStringLiteral("xmodmap"), {QStringLiteral("-e"), QStringLiteral("keycode 54 = y Y")});
-    QProcess::execute(QStringLiteral("xmodmap"), {QStringLiteral("-e"), QStringLiteral("keycode 29 = c C")});
+    QProcess::execute(
+        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 54 = y Y") });
+    QProcess::execute(
+        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 29 = c C") });
     const int before = pick->count();
     // xdotool types by keysym: "c" now sits on key code 29.
     ASSERT_TRUE(QTest::qWaitFor(
@@ -315,6 +324,8 @@ TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)
             return QTest::qWaitFor([&] { return pick->count() > before; }, 500);
         },
         10000));
-    QProcess::execute(QStringLiteral("xmodmap"), {QStringLiteral("-e"), QStringLiteral("keycode 54 = c C")});
-    QProcess::execute(QStringLiteral("xmodmap"), {QStringLiteral("-e"), QStringLiteral("keycode 29 = y Y")});
+    QProcess::execute(
+        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 54 = c C") });
+    QProcess::execute(
+        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 29 = y Y") });
 }

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The X11 sampler on a real X server, driven as a person would: `vantle pick --print` over a
 # window of known colours, real clicks and keys through xdotool.
 set -euo pipefail

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Vantle on a Wayland desktop as a person meets it, inside tests/desktop/sway-session.sh
 # (headless sway, nobody focused, private session bus): the real xdg-desktop-portal frontend
 # with our test backend behind it, the tray program on QT_QPA_PLATFORM=wayland, a shortcut

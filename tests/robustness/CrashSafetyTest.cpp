@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A save cut short by SIGKILL loses nothing that was reported saved, never leaves a
 // half-written settings file, and never leaves a lock behind that stops the next start.
 #include "model/ColorHistoryCodec.h"
@@ -30,11 +31,11 @@ int killCount()
 
 // The preferences a user has set, which every save must carry along unchanged.
 const QList<std::pair<QString, QString>> presetValues = {
-    {PreferenceKeys::colorFormat, QStringLiteral("HSL")},
-    {PreferenceKeys::pickKeyCode, QStringLiteral("8")},
-    {PreferenceKeys::pickModifiers, QStringLiteral("786432")},
-    {PreferenceKeys::pickKeyChar, QStringLiteral("C")},
-    {PreferenceKeys::historyLimit, QStringLiteral("500")},
+    { PreferenceKeys::colorFormat, QStringLiteral("HSL") },
+    { PreferenceKeys::pickKeyCode, QStringLiteral("8") },
+    { PreferenceKeys::pickModifiers, QStringLiteral("786432") },
+    { PreferenceKeys::pickKeyChar, QStringLiteral("C") },
+    { PreferenceKeys::historyLimit, QStringLiteral("500") },
 };
 
 // Reads everything the helper printed so far and adds the ids of completed saves.
@@ -73,7 +74,7 @@ TEST(CrashSafety, KilledSavesLoseNoReportedColourAndLeaveNoStaleLock)
     for (int round = 0; round < kills; ++round) {
         QProcess helper;
         helper.setProgram(QStringLiteral(VANTLE_HISTORY_SAVER));
-        helper.setArguments({path});
+        helper.setArguments({ path });
         helper.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         QElapsedTimer starting;
         starting.start();
@@ -89,7 +90,7 @@ TEST(CrashSafety, KilledSavesLoseNoReportedColourAndLeaveNoStaleLock)
             QElapsedTimer waited;
             waited.start();
             while ((!ready || reported.size() < wanted) && helper.state() == QProcess::Running
-                   && waited.elapsed() < 30000) {
+                && waited.elapsed() < 30000) {
                 helper.waitForReadyRead(100);
                 collectReports(helper, reported, ready);
             }
@@ -121,7 +122,8 @@ TEST(CrashSafety, KilledSavesLoseNoReportedColourAndLeaveNoStaleLock)
                 stored.insert(color.id.toString(QUuid::WithoutBraces).toUpper());
         }
         for (const QString &id : reported)
-            ASSERT_TRUE(stored.contains(id)) << "round " << round << ": colour " << qPrintable(id) << " was lost";
+            ASSERT_TRUE(stored.contains(id))
+                << "round " << round << ": colour " << qPrintable(id) << " was lost";
 
         // The next start can write: no lock of the killed helper stands in the way. (A value
         // of its own each round: one the file already holds is not written at all.)
@@ -137,6 +139,6 @@ TEST(CrashSafety, KilledSavesLoseNoReportedColourAndLeaveNoStaleLock)
     EXPECT_GE(reported.size(), killsDuringSaves / 2) << "too few saves completed for the kills to mean much";
     std::printf("%d kills (%d during saves), %lld reported saves, all kept; slowest first write after a "
                 "kill %lld ms, slowest start to the saves %lld ms\n",
-                kills, killsDuringSaves, static_cast<long long>(reported.size()), static_cast<long long>(slowestWriteMs),
-                static_cast<long long>(slowestStartMs));
+        kills, killsDuringSaves, static_cast<long long>(reported.size()),
+        static_cast<long long>(slowestWriteMs), static_cast<long long>(slowestStartMs));
 }

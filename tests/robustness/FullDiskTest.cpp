@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // A full or read-only disk under the settings: a pick still copies and stays in the history in
 // memory, the file on disk stays as it was, the next save that can succeed writes every colour,
 // and an export says it failed and leaves no partial file.

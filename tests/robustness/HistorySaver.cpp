@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Test helper, not a test: saves the colour history in a loop the way the program does (read
 // the stored history, add a colour, write it back through the settings store) and reports on
 // standard output every save the store said reached the disk:
@@ -32,7 +33,8 @@ int main(int argc, char **argv)
     for (int i = 0; i < 100000; ++i) {
         colors.append(PickedColor::fromSample((i % 256) / 255.0, 0.5, 1.0 - (i % 256) / 255.0, 1.0));
         if (store.setData(PreferenceKeys::colorHistory, *encodeColorHistory(colors))) {
-            std::printf("saved %s\n", colors.last().id.toString(QUuid::WithoutBraces).toUpper().toLatin1().constData());
+            std::printf("saved %s\n",
+                colors.last().id.toString(QUuid::WithoutBraces).toUpper().toLatin1().constData());
             std::fflush(stdout);
         }
     }

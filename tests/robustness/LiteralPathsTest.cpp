@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Image and mount paths reach the tools (udisksctl, losetup) exactly as they are: no shell ever
 // sees them, and a mount point whose bytes are not UTF-8 is left alone rather than altered.
 #include "services/DiskImageCleanup.h"
@@ -21,7 +22,7 @@ TEST(LiteralPaths, ReachTheProgramAsOneArgumentEach)
 {
     ProcessCommandRunner runner;
     // printf prints each argument as it received it, each ending in a NUL byte.
-    QStringList arguments{QStringLiteral("%s\\0")};
+    QStringList arguments { QStringLiteral("%s\\0") };
     arguments += hostilePaths;
     const std::optional<QByteArray> output = runner.run(QStringLiteral("printf"), arguments, true);
     ASSERT_TRUE(output.has_value());
@@ -36,9 +37,10 @@ TEST(LiteralPaths, ReachTheProgramAsOneArgumentEach)
 TEST(LiteralPaths, MountPointsAreReadByteForByte)
 {
     // The kernel's escapes for space, tab, newline and backslash; everything else as it is.
-    const QByteArray mountInfo = "101 29 7:0 / /media/user/Vantle\\0401.0\\012$(id)\\134x ro - iso9660 /dev/loop0 ro\n"
-                                 "102 29 7:1 / /media/user/\xff\xfe-not-utf8 ro - iso9660 /dev/loop1 ro\n"
-                                 "103 29 7:2 / /media/user/\"q\"\\011'q' ro - iso9660 /dev/loop2 ro\n";
+    const QByteArray mountInfo
+        = "101 29 7:0 / /media/user/Vantle\\0401.0\\012$(id)\\134x ro - iso9660 /dev/loop0 ro\n"
+          "102 29 7:1 / /media/user/\xff\xfe-not-utf8 ro - iso9660 /dev/loop1 ro\n"
+          "103 29 7:2 / /media/user/\"q\"\\011'q' ro - iso9660 /dev/loop2 ro\n";
     const QList<DiskImageCleanup::MountedVolume> mounts = DiskImageCleanup::parseMountTable(mountInfo);
     ASSERT_EQ(mounts.size(), 2);
     EXPECT_EQ(mounts[0].mountPoint, QStringLiteral("/media/user/Vantle 1.0\n$(id)\\x"));

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Two Vantles started at the same instant, 20 times (10 on the session bus, 10 without one, on
 # the fallback socket): each time exactly one keeps running, the other hands over and ends,
 # and the settings the survivor writes at launch are all on disk.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/AnimationCurves.h"
 #include "screens/OnboardingCheckmarkShape.h"
 #include "screens/OnboardingView.h"
@@ -33,14 +34,14 @@ TEST(AnimationCurves, EaseCurvesAndThereAndBack)
         qreal progress;
         qreal expected;
     } cases[] = {
-        {"ease-out is quick to start", AnimationCurves::easeOut(), 0.25, 0.378},
-        {"ease-out ends at 1", AnimationCurves::easeOut(), 1, 1},
-        {"ease-in-out is symmetric", AnimationCurves::easeInOut(), 0.5, 0.5},
-        {"ease-in-out is slow to start", AnimationCurves::easeInOut(), 0.1, 0.02},
-        {"pulse starts low", AnimationCurves::easeInOutThereAndBack(), 0, 0},
-        {"pulse is full at half the loop", AnimationCurves::easeInOutThereAndBack(), 0.5, 1},
-        {"pulse is back at the end", AnimationCurves::easeInOutThereAndBack(), 1, 0},
-        {"pulse comes back the same way", AnimationCurves::easeInOutThereAndBack(), 0.75, 0.5},
+        { "ease-out is quick to start", AnimationCurves::easeOut(), 0.25, 0.378 },
+        { "ease-out ends at 1", AnimationCurves::easeOut(), 1, 1 },
+        { "ease-in-out is symmetric", AnimationCurves::easeInOut(), 0.5, 0.5 },
+        { "ease-in-out is slow to start", AnimationCurves::easeInOut(), 0.1, 0.02 },
+        { "pulse starts low", AnimationCurves::easeInOutThereAndBack(), 0, 0 },
+        { "pulse is full at half the loop", AnimationCurves::easeInOutThereAndBack(), 0.5, 1 },
+        { "pulse is back at the end", AnimationCurves::easeInOutThereAndBack(), 1, 0 },
+        { "pulse comes back the same way", AnimationCurves::easeInOutThereAndBack(), 0.75, 0.5 },
     };
     for (const auto &c : cases)
         EXPECT_NEAR(c.curve.valueForProgress(c.progress), c.expected, 0.02) << c.name;
@@ -57,9 +58,9 @@ TEST(TrimmedPath, DrawsTheFractionOfTheLengthFromTheStart)
     ring.arcMoveTo(QRectF(0, 0, 72, 72), 90);
     ring.arcTo(QRectF(0, 0, 72, 72), 90, -360);
 
-    for (const QPainterPath &path : {check, ring}) {
+    for (const QPainterPath &path : { check, ring }) {
         EXPECT_TRUE(trimmedPath(path, 0).isEmpty());
-        for (qreal fraction : {0.1, 0.25, 0.5, 0.9}) {
+        for (qreal fraction : { 0.1, 0.25, 0.5, 0.9 }) {
             const QPainterPath part = trimmedPath(path, fraction);
             EXPECT_NEAR(part.length(), path.length() * fraction, path.length() * 0.01) << fraction;
             EXPECT_EQ(part.pointAtPercent(0), path.pointAtPercent(0));
@@ -80,7 +81,7 @@ TEST(OnboardingView, ShimmerBandSweepsFromOutsideToOutside)
         qreal phase;
         qreal left;
         qreal right;
-    } cases[] = {{0, -40, 40}, {0.5, 100, 180}, {1, 240, 320}};
+    } cases[] = { { 0, -40, 40 }, { 0.5, 100, 180 }, { 1, 240, 320 } };
     for (const auto &c : cases) {
         const auto [left, right] = OnboardingView::shimmerBand(200, c.phase);
         EXPECT_DOUBLE_EQ(left, c.left) << c.phase;

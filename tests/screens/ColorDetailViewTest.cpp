@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ColorDetailView.h"
 #include "screens/ContrastBadge.h"
 #include "screens/FormatLine.h"
@@ -26,7 +27,11 @@ struct Copy {
 struct DetailHarness {
     explicit DetailHarness(const PickedColor &color)
         : view(
-              color, [this](const PickedColor &c, ColorFormat f) { copies.append({c.id, f}); }, [this] { ++backs; })
+            color,
+            [this](const PickedColor &c, ColorFormat f) {
+                copies.append({ c.id, f });
+            },
+            [this] { ++backs; })
     {
         view.setScheduler([this](int milliseconds, std::function<void()> job) {
             EXPECT_EQ(milliseconds, 1500);
@@ -68,7 +73,7 @@ TEST(ColorDetailView, ShowsTheNineFormatsInDeclaredOrder)
         EXPECT_EQ(line->markSymbol(), u"doc.on.doc");
         if (i > 0) { // stacked top to bottom in declaration order
             EXPECT_GT(line->mapTo(&harness.view, QPoint()).y(),
-                      harness.view.line(allColorFormats[i - 1])->mapTo(&harness.view, QPoint()).y());
+                harness.view.line(allColorFormats[i - 1])->mapTo(&harness.view, QPoint()).y());
         }
     }
 }
@@ -78,7 +83,7 @@ TEST(ColorDetailView, NameAppearsOnlyWhenPresent)
     const struct {
         std::optional<QString> name;
         bool shown;
-    } cases[] = {{std::nullopt, false}, {QString(), false}, {QStringLiteral("Brand"), true}};
+    } cases[] = { { std::nullopt, false }, { QString(), false }, { QStringLiteral("Brand"), true } };
     for (const auto &c : cases) {
         DetailHarness harness(makeColor(0.2, 0.4, 0.8, c.name));
         EXPECT_EQ(harness.view.findChild<QWidget *>(QStringLiteral("nameLabel")) != nullptr, c.shown);
@@ -94,16 +99,16 @@ TEST(ColorDetailView, ClickCopiesThatFormatAndMovesTheCheckMark)
     ASSERT_EQ(harness.copies.size(), 1);
     EXPECT_EQ(harness.copies[0].id, color.id);
     EXPECT_EQ(harness.copies[0].format, ColorFormat::hex);
-    EXPECT_EQ(harness.checked(), QList<ColorFormat>{ColorFormat::hex});
+    EXPECT_EQ(harness.checked(), QList<ColorFormat> { ColorFormat::hex });
 
     harness.click(ColorFormat::rgb);
     EXPECT_EQ(harness.copies.last().format, ColorFormat::rgb);
-    EXPECT_EQ(harness.checked(), QList<ColorFormat>{ColorFormat::rgb});
+    EXPECT_EQ(harness.checked(), QList<ColorFormat> { ColorFormat::rgb });
 
     // The Hex reset comes first and must leave the newer RGB mark alone.
     ASSERT_EQ(harness.pending.size(), 2);
     harness.pending[0]();
-    EXPECT_EQ(harness.checked(), QList<ColorFormat>{ColorFormat::rgb});
+    EXPECT_EQ(harness.checked(), QList<ColorFormat> { ColorFormat::rgb });
     harness.pending[1]();
     EXPECT_TRUE(harness.checked().isEmpty());
     EXPECT_EQ(harness.view.copiedFormat(), std::nullopt);
@@ -131,7 +136,8 @@ TEST(ColorDetailView, KeyboardCopiesAndBacksOut)
 
     QTest::keyClick(harness.view.line(ColorFormat::hsb), Qt::Key_Escape);
     EXPECT_EQ(harness.backs, 1);
-    QTest::mouseClick(harness.view.findChild<QAbstractButton *>(QStringLiteral("backButton")), Qt::LeftButton);
+    QTest::mouseClick(
+        harness.view.findChild<QAbstractButton *>(QStringLiteral("backButton")), Qt::LeftButton);
     EXPECT_EQ(harness.backs, 2);
 }
 
@@ -139,7 +145,8 @@ TEST(ColorDetailView, CheckMarkResetsAfterOneAndAHalfSeconds)
 {
     // The real timer: not before about 1.5 s (coarse timers may fire up to 5 % early), and
     // surely within a generous bound.
-    ColorDetailView view(makeColor(0.1, 0.2, 0.3), [](const PickedColor &, ColorFormat) {}, [] {});
+    ColorDetailView view(
+        makeColor(0.1, 0.2, 0.3), [](const PickedColor &, ColorFormat) {}, [] {});
     view.show();
     QElapsedTimer clock;
     clock.start();
@@ -163,12 +170,12 @@ TEST(ColorDetailView, ContrastBadgesForWhiteBlackAndGrey)
         const char *black, *blackLevel;
         QColor blackColor;
     } cases[] = {
-        {1.0, "1.0:1", "Fail", red, "21.0:1", "AAA", green},
-        {0.0, "21.0:1", "AAA", green, "1.0:1", "Fail", red},
-        {0.5, "4.0:1", "AA Large", orange, "5.3:1", "AA", green},
+        { 1.0, "1.0:1", "Fail", red, "21.0:1", "AAA", green },
+        { 0.0, "21.0:1", "AAA", green, "1.0:1", "Fail", red },
+        { 0.5, "4.0:1", "AA Large", orange, "5.3:1", "AA", green },
         // Shown rounded up, levelled on the unrounded ratio.
-        {0.466, "4.5:1", "AA Large", orange, "4.7:1", "AA", green},
-        {0.345, "7.1:1", "AAA", green, "3.0:1", "Fail", red},
+        { 0.466, "4.5:1", "AA Large", orange, "4.7:1", "AA", green },
+        { 0.345, "7.1:1", "AAA", green, "3.0:1", "Fail", red },
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.grey);
@@ -194,13 +201,14 @@ TEST(ContrastBadge, LevelColours)
         const char *level;
         QColor color;
     } cases[] = {
-        {"AAA", Theme::green(palette)},
-        {"AA", Theme::green(palette)},
-        {"AA Large", Theme::orange(palette)},
-        {"Fail", Theme::red(palette)},
+        { "AAA", Theme::green(palette) },
+        { "AA", Theme::green(palette) },
+        { "AA Large", Theme::orange(palette) },
+        { "Fail", Theme::red(palette) },
     };
     for (const auto &c : cases) {
-        const ContrastBadge badge(QStringLiteral("vs White"), QStringLiteral("4.5:1"), QLatin1String(c.level));
+        const ContrastBadge badge(
+            QStringLiteral("vs White"), QStringLiteral("4.5:1"), QLatin1String(c.level));
         EXPECT_EQ(badge.levelColor(), c.color) << c.level;
     }
     EXPECT_NE(Theme::green(palette), Theme::orange(palette));

@@ -1,7 +1,8 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screens/ColorListView.h"
 #include "history/ColorListViewModel.h"
 #include "model/ColorHistoryCodec.h"
 #include "screens/ColorDetailView.h"
-#include "screens/ColorListView.h"
 #include "screens/ColorRowView.h"
 #include "screens/ElidedLabel.h"
 #include "screens/RenameColorSheet.h"
@@ -18,8 +19,8 @@
 
 namespace {
 
-PickedColor makeColor(double r, double g, double b, bool pinned = false,
-                      std::optional<QString> name = std::nullopt)
+PickedColor makeColor(
+    double r, double g, double b, bool pinned = false, std::optional<QString> name = std::nullopt)
 {
     PickedColor color = PickedColor::fromSample(r, g, b, 1.0);
     color.isPinned = pinned;
@@ -33,15 +34,15 @@ public: // the case tables below reach in from lambdas
     {
         settings.store->setString(PreferenceKeys::colorFormat, format);
         settings.store->setData(PreferenceKeys::colorHistory, *encodeColorHistory(colors));
-        model = std::make_unique<ColorListViewModel>(*settings.store, sampler, clipboard, confirmation, dialogs);
+        model = std::make_unique<ColorListViewModel>(
+            *settings.store, sampler, clipboard, confirmation, dialogs);
         view = std::make_unique<ColorListView>(
             *model, *settings.store, [this] { ++settingsOpened; }, [this] { ++quits; });
         view->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(view.get()));
     }
 
-    template <typename T = QWidget>
-    T *child(const char *name) const
+    template<typename T = QWidget> T *child(const char *name) const
     {
         return view->findChild<T *>(QLatin1String(name));
     }
@@ -124,10 +125,10 @@ TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
         QList<PickedColor> colors;
         bool pinned, recent, empty;
     } cases[] = {
-        {"empty", {}, false, false, true},
-        {"all pinned", {makeColor(1, 0, 0, true), makeColor(0, 1, 0, true)}, true, false, false},
-        {"none pinned", {makeColor(1, 0, 0), makeColor(0, 1, 0), makeColor(0, 0, 1)}, false, true, false},
-        {"mixed", {makeColor(1, 0, 0), makeColor(0, 1, 0, true), makeColor(0, 0, 1)}, true, true, false},
+        { "empty", {}, false, false, true },
+        { "all pinned", { makeColor(1, 0, 0, true), makeColor(0, 1, 0, true) }, true, false, false },
+        { "none pinned", { makeColor(1, 0, 0), makeColor(0, 1, 0), makeColor(0, 0, 1) }, false, true, false },
+        { "mixed", { makeColor(1, 0, 0), makeColor(0, 1, 0, true), makeColor(0, 0, 1) }, true, true, false },
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.what);
@@ -137,7 +138,7 @@ TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
         EXPECT_EQ(shown("emptyState"), c.empty);
         // Every colour counts, pinned or not.
         EXPECT_EQ(view->findChild<QWidget *>(QStringLiteral("countBadge"))->accessibleName(),
-                  QString::number(c.colors.size()));
+            QString::number(c.colors.size()));
         EXPECT_EQ(view->rows().size(), c.colors.size());
         // Pinned rows come first, each section in history order.
         QList<QUuid> expected;
@@ -168,11 +169,11 @@ TEST_F(ColorListViewTest, ClickOnRowCopiesInPreferredFormatAndOpensDetail)
 {
     const PickedColor first = makeColor(1.0, 0.42, 0.21);
     const PickedColor second = makeColor(0.2, 0.4, 0.8, false, QStringLiteral("Sky"));
-    build({first, second}, QStringLiteral("RGB"));
+    build({ first, second }, QStringLiteral("RGB"));
     ASSERT_EQ(rowFor(second.id)->valueText(), second.formatted(ColorFormat::rgb));
 
     QTest::mouseClick(rowFor(second.id), Qt::LeftButton);
-    EXPECT_EQ(clipboard.texts, QStringList{second.formatted(ColorFormat::rgb)});
+    EXPECT_EQ(clipboard.texts, QStringList { second.formatted(ColorFormat::rgb) });
     EXPECT_EQ(confirmation.messages.size(), 1);
     ASSERT_NE(view->detailView(), nullptr);
     EXPECT_EQ(view->detailView()->color(), second);
@@ -183,8 +184,8 @@ TEST_F(ColorListViewTest, ClickOnRowCopiesInPreferredFormatAndOpensDetail)
     view->detailView()->copy(ColorFormat::hsl);
     EXPECT_EQ(clipboard.current(), second.formatted(ColorFormat::hsl));
 
-    QTest::mouseClick(view->detailView()->findChild<QAbstractButton *>(QStringLiteral("backButton")),
-                      Qt::LeftButton);
+    QTest::mouseClick(
+        view->detailView()->findChild<QAbstractButton *>(QStringLiteral("backButton")), Qt::LeftButton);
     EXPECT_EQ(view->detailView(), nullptr);
     EXPECT_EQ(view->selectedColor(), std::nullopt);
     EXPECT_TRUE(child("pickButton")->isVisible());
@@ -194,7 +195,7 @@ TEST_F(ColorListViewTest, ClickOnRowCopiesInPreferredFormatAndOpensDetail)
 TEST_F(ColorListViewTest, DetailKeepsTheColourAsOpened)
 {
     const PickedColor color = makeColor(0.3, 0.6, 0.9);
-    build({color});
+    build({ color });
     QTest::mouseClick(view->rows().first(), Qt::LeftButton);
     model->renameColor(color, QStringLiteral("Later"));
     model->togglePin(color);
@@ -208,7 +209,7 @@ TEST_F(ColorListViewTest, DetailKeepsTheColourAsOpened)
 
 TEST_F(ColorListViewTest, KeyboardWalksRowsOpensAndBacksOut)
 {
-    const QList<PickedColor> colors = {makeColor(1, 0, 0, true), makeColor(0, 1, 0), makeColor(0, 0, 1)};
+    const QList<PickedColor> colors = { makeColor(1, 0, 0, true), makeColor(0, 1, 0), makeColor(0, 0, 1) };
     build(colors);
     const QList<ColorRowView *> rows = view->rows();
     rows[0]->setFocus();
@@ -222,7 +223,7 @@ TEST_F(ColorListViewTest, KeyboardWalksRowsOpensAndBacksOut)
     QTest::keyClick(rows[1], Qt::Key_Return);
     ASSERT_NE(view->detailView(), nullptr);
     EXPECT_EQ(view->detailView()->color().id, colors[1].id);
-    EXPECT_EQ(clipboard.texts, QStringList{colors[1].formatted(ColorFormat::hex)});
+    EXPECT_EQ(clipboard.texts, QStringList { colors[1].formatted(ColorFormat::hex) });
 
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_EQ(view->detailView(), nullptr);
@@ -260,30 +261,33 @@ TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
         bool pinned;
         std::function<void(ColorListViewTest &, const PickedColor &)> check;
     } cases[] = {
-        {"Copy", false,
-         [](ColorListViewTest &t, const PickedColor &c) {
-             EXPECT_EQ(t.clipboard.texts, QStringList{c.formatted(ColorFormat::hsl)});
-             EXPECT_EQ(t.view->detailView(), nullptr); // copying from the menu stays on the list
-         }},
-        {"Pin", false, [](ColorListViewTest &t, const PickedColor &c) { EXPECT_TRUE(t.stored(c.id)->isPinned); }},
-        {"Unpin", true, [](ColorListViewTest &t, const PickedColor &c) { EXPECT_FALSE(t.stored(c.id)->isPinned); }},
-        {"Delete", false,
-         [](ColorListViewTest &t, const PickedColor &c) {
-             EXPECT_FALSE(t.stored(c.id));
-             EXPECT_EQ(t.view->rows().size(), 1);
-         }},
+        { "Copy", false,
+            [](ColorListViewTest &t, const PickedColor &c) {
+                EXPECT_EQ(t.clipboard.texts, QStringList { c.formatted(ColorFormat::hsl) });
+                EXPECT_EQ(t.view->detailView(), nullptr); // copying from the menu stays on the list
+            } },
+        { "Pin", false,
+            [](ColorListViewTest &t, const PickedColor &c) { EXPECT_TRUE(t.stored(c.id)->isPinned); } },
+        { "Unpin", true,
+            [](ColorListViewTest &t, const PickedColor &c) { EXPECT_FALSE(t.stored(c.id)->isPinned); } },
+        { "Delete", false,
+            [](ColorListViewTest &t, const PickedColor &c) {
+                EXPECT_FALSE(t.stored(c.id));
+                EXPECT_EQ(t.view->rows().size(), 1);
+            } },
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.item);
         const PickedColor color = makeColor(0.9, 0.1, 0.5, c.pinned);
-        build({color, makeColor(0.1, 0.1, 0.1)}, QStringLiteral("HSL"));
+        build({ color, makeColor(0.1, 0.1, 0.1) }, QStringLiteral("HSL"));
         QMenu *menu = openContextMenu(rowFor(color.id));
         ASSERT_NE(menu, nullptr);
         QStringList texts;
         for (const QAction *action : menu->actions())
             texts.append(action->isSeparator() ? QStringLiteral("-") : action->text());
-        EXPECT_EQ(texts, (QStringList{QStringLiteral("Copy"), c.pinned ? QStringLiteral("Unpin") : QStringLiteral("Pin"),
-                                      QStringLiteral("Rename…"), QStringLiteral("-"), QStringLiteral("Delete")}));
+        EXPECT_EQ(texts,
+            (QStringList { QStringLiteral("Copy"), c.pinned ? QStringLiteral("Unpin") : QStringLiteral("Pin"),
+                QStringLiteral("Rename…"), QStringLiteral("-"), QStringLiteral("Delete") }));
         clickAction(menu, QLatin1String(c.item));
         c.check(*this, color);
         QTRY_VERIFY(!QApplication::activePopupWidget());
@@ -301,18 +305,21 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         Close close;
         std::optional<QString> expected;
     } cases[] = {
-        {"new name by Return", std::nullopt, QStringLiteral("Sky"), Close::returnKey, QStringLiteral("Sky")},
-        {"new name by Save", QStringLiteral("Old"), QStringLiteral(" Brand orange "), Close::saveButton,
-         QStringLiteral(" Brand orange ")},
-        {"empty clears", QStringLiteral("Old"), QString(), Close::saveButton, std::nullopt},
-        {"blanks are kept", QStringLiteral("Old"), QStringLiteral("   "), Close::returnKey, QStringLiteral("   ")},
-        {"Cancel keeps", QStringLiteral("Old"), QStringLiteral("New"), Close::cancelButton, QStringLiteral("Old")},
-        {"Escape keeps", std::nullopt, QStringLiteral("New"), Close::escapeKey, std::nullopt},
+        { "new name by Return", std::nullopt, QStringLiteral("Sky"), Close::returnKey,
+            QStringLiteral("Sky") },
+        { "new name by Save", QStringLiteral("Old"), QStringLiteral(" Brand orange "), Close::saveButton,
+            QStringLiteral(" Brand orange ") },
+        { "empty clears", QStringLiteral("Old"), QString(), Close::saveButton, std::nullopt },
+        { "blanks are kept", QStringLiteral("Old"), QStringLiteral("   "), Close::returnKey,
+            QStringLiteral("   ") },
+        { "Cancel keeps", QStringLiteral("Old"), QStringLiteral("New"), Close::cancelButton,
+            QStringLiteral("Old") },
+        { "Escape keeps", std::nullopt, QStringLiteral("New"), Close::escapeKey, std::nullopt },
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.what);
         const PickedColor color = makeColor(1.0, 0.42, 0.21, false, c.name);
-        build({color}, QStringLiteral("CSS rgba"));
+        build({ color }, QStringLiteral("CSS rgba"));
         clickAction(openContextMenu(view->rows().first()), QStringLiteral("Rename…"));
         RenameColorSheet *sheet = nullptr;
         QTRY_VERIFY((sheet = view->findChild<RenameColorSheet *>()) && sheet->isVisible());
@@ -380,10 +387,11 @@ TEST_F(ColorListViewTest, PickButtonReadsPickingAndRefusesWhileAPickRuns)
 
 TEST_F(ColorListViewTest, FooterButtonsAndExportEntries)
 {
-    build({makeColor(1, 0, 0, true), makeColor(0, 1, 0)});
+    build({ makeColor(1, 0, 0, true), makeColor(0, 1, 0) });
     const struct {
         const char *name, *accessible;
-    } buttons[] = {{"settingsButton", "Settings"}, {"exportButton", "Export colors"}, {"quitButton", "Quit vantle"}};
+    } buttons[] = { { "settingsButton", "Settings" }, { "exportButton", "Export colors" },
+        { "quitButton", "Quit vantle" } };
     for (const auto &b : buttons) {
         auto *button = child<QAbstractButton>(b.name);
         ASSERT_NE(button, nullptr) << b.name;
@@ -401,10 +409,10 @@ TEST_F(ColorListViewTest, FooterButtonsAndExportEntries)
         bool asJSON;
         const char *proposed;
     } entries[] = {
-        {"Export Pinned as Text", false, "pinned-colors.txt"},
-        {"Export Pinned as JSON", true, "pinned-colors.json"},
-        {"Export All as Text", false, "colors.txt"},
-        {"Export All as JSON", true, "colors.json"},
+        { "Export Pinned as Text", false, "pinned-colors.txt" },
+        { "Export Pinned as JSON", true, "pinned-colors.json" },
+        { "Export All as Text", false, "colors.txt" },
+        { "Export All as JSON", true, "colors.json" },
     };
     for (const auto &e : entries) {
         SCOPED_TRACE(e.item);

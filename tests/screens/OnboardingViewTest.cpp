@@ -1,5 +1,6 @@
-#include "ManualAnimationDriver.h"
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/OnboardingView.h"
+#include "ManualAnimationDriver.h"
 #include "screens/OnboardingWindow.h"
 #include "services/PreferenceKeys.h"
 #include "support/TempSettings.h"
@@ -21,8 +22,14 @@ struct Onboarding : ::testing::Test {
         view = std::make_unique<OnboardingView>(*settings.store, [this] { ++completions; });
         view->show();
     }
-    void pressGetStarted() { QTest::mouseClick(view.get(), Qt::LeftButton, {}, view->getStartedButtonRect().center().toPoint()); }
-    void pressStartUsing() { QTest::mouseClick(view.get(), Qt::LeftButton, {}, view->startUsingButtonRect().center().toPoint()); }
+    void pressGetStarted()
+    {
+        QTest::mouseClick(view.get(), Qt::LeftButton, {}, view->getStartedButtonRect().center().toPoint());
+    }
+    void pressStartUsing()
+    {
+        QTest::mouseClick(view.get(), Qt::LeftButton, {}, view->startUsingButtonRect().center().toPoint());
+    }
 
     // Walks the clock through a timetable and checks every step fires at its moment (within a
     // frame either way) and, if it ends, has finished when its duration is over.
@@ -72,15 +79,15 @@ TEST_F(Onboarding, WelcomeMotionCurves)
         qreal low;
         qreal high;
     } moments[] = {
-        {400, Step::IconLanded, 0.3, 0.95},     // rising on the spring
-        {620, Step::IconLanded, 1.02, 1.07},    // overshooting near its peak
-        {600, Step::TitleVisible, 0.35, 0.6},   // a quarter into an ease-out of 0.4 s
-        {1300, Step::ButtonVisible, 0.4, 0.7}, // a third into 0.3 s
-        {2300, Step::GlowPulse, 0.45, 0.55},    // halfway up, 1 s into 2 s
-        {3300, Step::GlowPulse, 0.99, 1.0},     // fully up after 2 s
-        {4300, Step::GlowPulse, 0.45, 0.55},    // and coming back down
-        {5300, Step::GlowPulse, 0.0, 0.01},     // down again after 4 s
-        {6300, Step::GlowPulse, 0.45, 0.55},    // and repeating
+        { 400, Step::IconLanded, 0.3, 0.95 }, // rising on the spring
+        { 620, Step::IconLanded, 1.02, 1.07 }, // overshooting near its peak
+        { 600, Step::TitleVisible, 0.35, 0.6 }, // a quarter into an ease-out of 0.4 s
+        { 1300, Step::ButtonVisible, 0.4, 0.7 }, // a third into 0.3 s
+        { 2300, Step::GlowPulse, 0.45, 0.55 }, // halfway up, 1 s into 2 s
+        { 3300, Step::GlowPulse, 0.99, 1.0 }, // fully up after 2 s
+        { 4300, Step::GlowPulse, 0.45, 0.55 }, // and coming back down
+        { 5300, Step::GlowPulse, 0.0, 0.01 }, // down again after 4 s
+        { 6300, Step::GlowPulse, 0.45, 0.55 }, // and repeating
     };
     for (const auto &m : moments) {
         driver.advanceTo(m.at);
@@ -125,15 +132,14 @@ TEST_F(Onboarding, ConfirmationDrawsTheRingThenTheCheckMarkAndKeepsMoving)
         qreal glow;
         qreal shimmer;
     } moments[] = {
-        {490, 0, 0, 0.3, 0},
-        {700, -1, 0, 0.3, 0},   // ring under way, check mark not yet
-        {910, 1, -1, 0.3, 0},   // ring closed, check mark starting
-        {1210, 1, 1, -1, 0},    // green glow starting
-        {2400, 1, 1, 1.0, -1},  // green glow fully up after 1.2 s
-        {3000, 1, 1, 0.65, 0.35}, // glow halfway back down, shimmer a third across
-        {3600, 1, 1, 0.3, 0.65}, // glow back at rest
-        {4290, 1, 1, -1, 0.995}, // end of the first sweep
-        {4310, 1, 1, -1, 0.005}, // the band starts again from the leading side
+        { 490, 0, 0, 0.3, 0 }, { 700, -1, 0, 0.3, 0 }, // ring under way, check mark not yet
+        { 910, 1, -1, 0.3, 0 }, // ring closed, check mark starting
+        { 1210, 1, 1, -1, 0 }, // green glow starting
+        { 2400, 1, 1, 1.0, -1 }, // green glow fully up after 1.2 s
+        { 3000, 1, 1, 0.65, 0.35 }, // glow halfway back down, shimmer a third across
+        { 3600, 1, 1, 0.3, 0.65 }, // glow back at rest
+        { 4290, 1, 1, -1, 0.995 }, // end of the first sweep
+        { 4310, 1, 1, -1, 0.005 }, // the band starts again from the leading side
     };
     for (const auto &m : moments) {
         driver.advanceTo(press + m.at);
@@ -235,7 +241,8 @@ TEST_F(Onboarding, PaintsTheScreensInTheirColours)
 TEST(OnboardingWindowTest, IsAFramelessFloatingWindowOfItsSize)
 {
     TempSettings settings;
-    OnboardingWindow window(*settings.store, [] {}, false);
+    OnboardingWindow window(
+        *settings.store, [] {}, false);
     // 520 × 420, taller only as far as the desktop's fonts need to keep the layout's spacing.
     EXPECT_EQ(window.width(), 520);
     EXPECT_GE(window.height(), 420);

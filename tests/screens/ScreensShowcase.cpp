@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Shows one screen of the popup on a real X display in a light or dark theme and captures the
 // screen with ImageMagick's `import`, for looking at the screens as a person sees them.
 //
@@ -101,14 +102,16 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     QCommandLineParser parser;
-    parser.addOption({QStringLiteral("theme"), QStringLiteral("light or dark"), QStringLiteral("theme")});
-    parser.addOption({QStringLiteral("screen"), QStringLiteral("empty, list, detail or rename"), QStringLiteral("screen")});
-    parser.addOption({QStringLiteral("output"), QStringLiteral("PNG file"), QStringLiteral("file")});
+    parser.addOption({ QStringLiteral("theme"), QStringLiteral("light or dark"), QStringLiteral("theme") });
+    parser.addOption({ QStringLiteral("screen"), QStringLiteral("empty, list, detail or rename"),
+        QStringLiteral("screen") });
+    parser.addOption({ QStringLiteral("output"), QStringLiteral("PNG file"), QStringLiteral("file") });
     parser.process(app);
 
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setPalette(parser.value(QStringLiteral("theme")) == u"dark" ? darkPalette()
-                                                                                : QApplication::style()->standardPalette());
+    QApplication::setPalette(parser.value(QStringLiteral("theme")) == u"dark"
+            ? darkPalette()
+            : QApplication::style()->standardPalette());
 
     QTemporaryDir dir;
     SettingsStore store(dir.filePath(QStringLiteral("Vantle.conf")));
@@ -135,7 +138,8 @@ int main(int argc, char **argv)
     FakeCopyConfirmation confirmation;
     FakeExportDialogs dialogs;
     ColorListViewModel model(store, sampler, clipboard, confirmation, dialogs);
-    ColorListView view(model, store, [] {}, [] {});
+    ColorListView view(
+        model, store, [] {}, [] {});
     view.setWindowTitle(QStringLiteral("vantle"));
     view.move(40, 40);
     view.show();
@@ -160,9 +164,9 @@ int main(int argc, char **argv)
                                  .arg(frame.height())
                                  .arg(qMax(0, frame.x()))
                                  .arg(qMax(0, frame.y()));
-        const int status = QProcess::execute(
-            QStringLiteral("import"), {QStringLiteral("-window"), QStringLiteral("root"), QStringLiteral("-crop"), crop,
-                                       parser.value(QStringLiteral("output"))});
+        const int status = QProcess::execute(QStringLiteral("import"),
+            { QStringLiteral("-window"), QStringLiteral("root"), QStringLiteral("-crop"), crop,
+                parser.value(QStringLiteral("output")) });
         const QStringList cut = screen == u"longest" ? cutTexts(*view.detailView()) : QStringList();
         for (const QString &text : cut)
             std::printf("cut: %s\n", qPrintable(text));

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Shows one settings page or update dialog on a real display, for screenshots of what a person
 // sees: settings-showcase general|about|more|update|progress|ready [--dark]
 #include "history/ColorListViewModel.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/SettingsWindow.h"
 #include "screens/SettingsView.h"
 

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Captures every popup screen in a light and a dark theme on the private X display that
 # tests/desktop/x11-session.sh provides, and checks that the popup keeps its 320-pixel width
 # and that the detail screen of the longest texts draws every one of them whole.

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Screenshots of the settings pages and update dialogs as a person sees them, for review.
 # Run inside tests/desktop/x11-session.sh:
 #   tests/desktop/x11-session.sh tests/screens/screenshots.sh build/bin/settings-showcase OUTDIR

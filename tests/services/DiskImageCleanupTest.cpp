@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "services/DiskImageCleanup.h"
 #include "services/ProcessCommandRunner.h"
 
@@ -44,16 +45,16 @@ struct Machine {
     {
         writeFile(root.filePath(QStringLiteral("losetup.json")), json);
         writeFile(bin() + QStringLiteral("/losetup"),
-                  "#!/bin/sh\nexec /bin/cat '" + root.filePath(QStringLiteral("losetup.json")).toUtf8() + "'\n",
-                  true);
+            "#!/bin/sh\nexec /bin/cat '" + root.filePath(QStringLiteral("losetup.json")).toUtf8() + "'\n",
+            true);
     }
     // Logs each call's arguments, one per line, and answers with `exitCode`.
     void standInUdisksctl(int exitCode) const
     {
         writeFile(bin() + QStringLiteral("/udisksctl"),
-                  "#!/bin/sh\nfor a in \"$@\"; do printf '%s\\n' \"$a\" >> '" + log().toUtf8()
-                      + "'; done\necho noise; echo noise >&2\nexit " + QByteArray::number(exitCode) + "\n",
-                  true);
+            "#!/bin/sh\nfor a in \"$@\"; do printf '%s\\n' \"$a\" >> '" + log().toUtf8()
+                + "'; done\necho noise; echo noise >&2\nexit " + QByteArray::number(exitCode) + "\n",
+            true);
     }
     // A mounted volume: a folder holding the program, listed in the mount table for `device`.
     QString volume(const QString &name, const QString &device, bool holdsProgram = true)
@@ -64,7 +65,8 @@ struct Machine {
             writeFile(mountPoint + QStringLiteral("/Vantle.AppImage"), "program");
         QByteArray escaped = mountPoint.toUtf8();
         escaped.replace("\\", "\\134").replace(" ", "\\040").replace("\n", "\\012").replace("\t", "\\011");
-        mountTableText += "90 29 7:0 / " + escaped + " rw,nosuid shared:1 - ext4 " + device.toUtf8() + " rw\n";
+        mountTableText
+            += "90 29 7:0 / " + escaped + " rw,nosuid shared:1 - ext4 " + device.toUtf8() + " rw\n";
         writeFile(mountTable(), mountTableText);
         return mountPoint;
     }
@@ -103,8 +105,8 @@ QByteArray losetupJson(const QList<std::pair<QString, QString>> &devices)
         QByteArray file = devices[i].second.toUtf8();
         file.replace("\\", "\\\\").replace("\"", "\\\"").replace("\n", "\\u000a");
         json += "      {\"name\": \"" + devices[i].first.toUtf8()
-            + "\", \"sizelimit\": 0, \"offset\": 0, \"autoclear\": false, \"ro\": true, \"back-file\": \"" + file
-            + "\", \"dio\": false, \"log-sec\": 512}" + (i + 1 < devices.size() ? ",\n" : "\n");
+            + "\", \"sizelimit\": 0, \"offset\": 0, \"autoclear\": false, \"ro\": true, \"back-file\": \""
+            + file + "\", \"dio\": false, \"log-sec\": 512}" + (i + 1 < devices.size() ? ",\n" : "\n");
     }
     return json + "   ]\n}\n";
 }
@@ -121,9 +123,9 @@ TEST(DiskImageCleanup, ListingJoinsLoopDevicesWithTheirMountedVolumes)
                                  "94 22 7:12 / /media/u/NotUtf8\\351 ro - ext4 /dev/loop12 rw\n"
                                  "garbage line\n";
     const auto loops = DiskImageCleanup::parseLoopDevices(
-        losetupJson({{QStringLiteral("/dev/loop1"), QStringLiteral("/home/u/My \"Apps\" $(rm -rf ~).img")},
-                     {QStringLiteral("/dev/loop2"), QStringLiteral("/home/u/parts.img")},
-                     {QStringLiteral("/dev/loop3"), QStringLiteral("/home/u/gone.img (deleted)")}}));
+        losetupJson({ { QStringLiteral("/dev/loop1"), QStringLiteral("/home/u/My \"Apps\" $(rm -rf ~).img") },
+            { QStringLiteral("/dev/loop2"), QStringLiteral("/home/u/parts.img") },
+            { QStringLiteral("/dev/loop3"), QStringLiteral("/home/u/gone.img (deleted)") } }));
     ASSERT_EQ(loops.size(), 2);
     EXPECT_EQ(loops[0].backingFile, QStringLiteral("/home/u/My \"Apps\" $(rm -rf ~).img"));
 
@@ -140,10 +142,10 @@ TEST(DiskImageCleanup, ListingJoinsLoopDevicesWithTheirMountedVolumes)
 
 TEST(DiskImageCleanup, UnreadableListingsGiveNothing)
 {
-    const QList<QByteArray> listings = {"", "garbage", "{\"loopdevices\": []}", "{\"loopdevices\": {}}",
-                                        "[1, 2]", "{\"loopdevices\": [{\"name\": 7, \"back-file\": \"/x.img\"}]}",
-                                        "{\"loopdevices\": [{\"name\": \"/dev/loop0\", \"back-file\": null}]}",
-                                        "{\"loopdevices\": [{\"name\": \"/dev/loop0\", \"back-file\": \"/a\xff.img\"}]}"};
+    const QList<QByteArray> listings = { "", "garbage", "{\"loopdevices\": []}", "{\"loopdevices\": {}}",
+        "[1, 2]", "{\"loopdevices\": [{\"name\": 7, \"back-file\": \"/x.img\"}]}",
+        "{\"loopdevices\": [{\"name\": \"/dev/loop0\", \"back-file\": null}]}",
+        "{\"loopdevices\": [{\"name\": \"/dev/loop0\", \"back-file\": \"/a\xff.img\"}]}" };
     for (const QByteArray &listing : listings)
         EXPECT_TRUE(DiskImageCleanup::parseLoopDevices(listing).isEmpty()) << listing.constData();
 }
@@ -155,11 +157,11 @@ TEST(DiskImageCleanup, OnlyAnApplicationsFolderStartsTheCleanUp)
         QString bundle;
         bool expected;
     } cases[] = {
-        {QStringLiteral("/Applications/Vantle.AppImage"), true},
-        {machine.home() + QStringLiteral("/Applications/Vantle.AppImage"), true},
-        {QStringLiteral("/usr/bin/vantle"), false},
-        {machine.home() + QStringLiteral("/Downloads/Vantle.AppImage"), false},
-        {QStringLiteral("/media/u/Vantle/Vantle.AppImage"), false},
+        { QStringLiteral("/Applications/Vantle.AppImage"), true },
+        { machine.home() + QStringLiteral("/Applications/Vantle.AppImage"), true },
+        { QStringLiteral("/usr/bin/vantle"), false },
+        { machine.home() + QStringLiteral("/Downloads/Vantle.AppImage"), false },
+        { QStringLiteral("/media/u/Vantle/Vantle.AppImage"), false },
     };
     for (const auto &c : cases)
         EXPECT_EQ(machine.cleanup(c.bundle).isInApplicationsFolder(), c.expected) << c.bundle.toStdString();
@@ -175,9 +177,8 @@ TEST(DiskImageCleanup, DetachesAndTrashesTheFirstImageHoldingTheProgram)
     machine.volume(QStringLiteral("photos"), QStringLiteral("/dev/loop3"), false);
     machine.volume(QStringLiteral("Vantle 1.0"), QStringLiteral("/dev/loop4p1"));
     machine.volume(QStringLiteral("Vantle copy"), QStringLiteral("/dev/loop5"));
-    machine.standInLosetup(losetupJson({{QStringLiteral("/dev/loop3"), unrelated},
-                                        {QStringLiteral("/dev/loop4"), first},
-                                        {QStringLiteral("/dev/loop5"), second}}));
+    machine.standInLosetup(losetupJson({ { QStringLiteral("/dev/loop3"), unrelated },
+        { QStringLiteral("/dev/loop4"), first }, { QStringLiteral("/dev/loop5"), second } }));
     machine.standInUdisksctl(0);
 
     ASSERT_TRUE(machine.cleanup().start());
@@ -190,10 +191,9 @@ TEST(DiskImageCleanup, DetachesAndTrashesTheFirstImageHoldingTheProgram)
     EXPECT_TRUE(QFileInfo::exists(second));
     EXPECT_TRUE(QFileInfo::exists(unrelated));
     EXPECT_EQ(machine.udisksCalls(),
-              QStringList({QStringLiteral("unmount"), QStringLiteral("-b"), QStringLiteral("/dev/loop4p1"),
-                           QStringLiteral("--no-user-interaction"), QStringLiteral("loop-delete"),
-                           QStringLiteral("-b"), QStringLiteral("/dev/loop4"),
-                           QStringLiteral("--no-user-interaction")}));
+        QStringList({ QStringLiteral("unmount"), QStringLiteral("-b"), QStringLiteral("/dev/loop4p1"),
+            QStringLiteral("--no-user-interaction"), QStringLiteral("loop-delete"), QStringLiteral("-b"),
+            QStringLiteral("/dev/loop4"), QStringLiteral("--no-user-interaction") }));
     EXPECT_FALSE(QFileInfo::exists(QStringLiteral("pwned")));
 }
 
@@ -202,7 +202,7 @@ TEST(DiskImageCleanup, AFailedDetachStillTrashesTheImage)
     Machine machine;
     const QString image = machine.image(QStringLiteral("Vantle.img"));
     machine.volume(QStringLiteral("Vantle"), QStringLiteral("/dev/loop0"));
-    machine.standInLosetup(losetupJson({{QStringLiteral("/dev/loop0"), image}}));
+    machine.standInLosetup(losetupJson({ { QStringLiteral("/dev/loop0"), image } }));
     machine.standInUdisksctl(1);
 
     machine.cleanup().cleanUp();
@@ -221,15 +221,16 @@ TEST(DiskImageCleanup, NothingHappensWithoutAMatchOrTools)
         bool udisksInstalled;
         bool listed;
     } cases[] = {
-        {"volume without the program", false, true, true},
-        {"no udisksctl", true, false, true},
-        {"no images attached", true, true, false},
+        { "volume without the program", false, true, true },
+        { "no udisksctl", true, false, true },
+        { "no images attached", true, true, false },
     };
     for (const auto &c : cases) {
         Machine machine;
         const QString image = machine.image(QStringLiteral("Vantle.img"));
         machine.volume(QStringLiteral("Vantle"), QStringLiteral("/dev/loop0"), c.programOnVolume);
-        machine.standInLosetup(c.listed ? losetupJson({{QStringLiteral("/dev/loop0"), image}}) : losetupJson({}));
+        machine.standInLosetup(
+            c.listed ? losetupJson({ { QStringLiteral("/dev/loop0"), image } }) : losetupJson({}));
         if (c.udisksInstalled)
             machine.standInUdisksctl(0);
 
@@ -245,7 +246,7 @@ TEST(DiskImageCleanup, ALaunchFromElsewhereDoesNothing)
     Machine machine;
     const QString image = machine.image(QStringLiteral("Vantle.img"));
     const QString mountPoint = machine.volume(QStringLiteral("Vantle"), QStringLiteral("/dev/loop0"));
-    machine.standInLosetup(losetupJson({{QStringLiteral("/dev/loop0"), image}}));
+    machine.standInLosetup(losetupJson({ { QStringLiteral("/dev/loop0"), image } }));
     machine.standInUdisksctl(0);
 
     EXPECT_FALSE(machine.cleanup(mountPoint + QStringLiteral("/Vantle.AppImage")).start());

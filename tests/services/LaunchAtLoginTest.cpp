@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "services/LaunchAtLogin.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsViewModel.h"
@@ -13,7 +14,7 @@ namespace {
 struct AutostartFixture {
     TempSettings settings;
     QString entryPath = settings.dir.filePath(QStringLiteral("config/autostart/vantle.desktop"));
-    XdgAutostartService service{entryPath, QStringLiteral("/opt/My Apps/vantle \"$HOME\" 100%.AppImage")};
+    XdgAutostartService service { entryPath, QStringLiteral("/opt/My Apps/vantle \"$HOME\" 100%.AppImage") };
 
     AutostartFixture() { SettingsViewModel::registerDefaults(*settings.store); }
     bool wanted() const { return settings.store->boolForKey(PreferenceKeys::launchAtLogin); }
@@ -46,7 +47,8 @@ TEST(XdgAutostartService, EntryStartsTheProgramWithExecQuoting)
     const QByteArray text = entry.readAll();
     // Exec quoting escapes '"' and '$' with a backslash, the string escape doubles it again,
     // and a literal percent sign is doubled.
-    EXPECT_TRUE(text.contains(R"(Exec="/opt/My Apps/vantle \\"\\$HOME\\" 100%%.AppImage")")) << text.constData();
+    EXPECT_TRUE(text.contains(R"(Exec="/opt/My Apps/vantle \\"\\$HOME\\" 100%%.AppImage")"))
+        << text.constData();
     EXPECT_TRUE(f.service.unregisterItem());
     EXPECT_FALSE(QFile::exists(f.entryPath));
     EXPECT_TRUE(f.service.unregisterItem()) << "nothing to remove is not a failure";
@@ -58,12 +60,11 @@ TEST(XdgAutostartService, EntriesSwitchedOffByTheDesktopCountAsDisabled)
         const char *text;
         bool enabled;
     } cases[] = {
-        {"[Desktop Entry]\nExec=vantle\n", true},
-        {"[Desktop Entry]\nExec=vantle\nHidden=true\n", false},
-        {"[Desktop Entry]\nExec=vantle\nHidden = True \n", false},
-        {"[Desktop Entry]\nExec=vantle\nX-GNOME-Autostart-enabled=false\n", false},
-        {"[Desktop Entry]\nExec=vantle\n[Desktop Action pick]\nHidden=true\n", true},
-        {"\xff\xfe\x00 garbage", true}, // present and not switched off
+        { "[Desktop Entry]\nExec=vantle\n", true }, { "[Desktop Entry]\nExec=vantle\nHidden=true\n", false },
+        { "[Desktop Entry]\nExec=vantle\nHidden = True \n", false },
+        { "[Desktop Entry]\nExec=vantle\nX-GNOME-Autostart-enabled=false\n", false },
+        { "[Desktop Entry]\nExec=vantle\n[Desktop Action pick]\nHidden=true\n", true },
+        { "\xff\xfe\x00 garbage", true }, // present and not switched off
     };
     for (const auto &c : cases) {
         AutostartFixture f;

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The folders of src/ are layers: each may include its own headers and those of the layers
 # below it, never one above. model is the bottom; app, the composition root, sees everything.
 #   layers-test.sh SRC_DIR

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // Readable failure messages for Qt values in GoogleTest (force-included into every test).

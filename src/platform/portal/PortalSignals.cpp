@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/portal/PortalSignals.h"
 
 // An empty path matches the signal from every object of the portal.

@@ -98,11 +98,14 @@ read -r icon_w icon_h icon_x icon_y < <(xwininfo -id "$(tray_icon)" | awk '
 xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
 wait_for 10 popup_shown || fail "a click on the tray icon did not open the popup"
 shot popup
-# Below the icon of the top panel, whole on the screen.
-read -r _ popup_y _ popup_h < <(popup_geometry)
+# Below the icon of the top panel, whole on the screen (once placed: it is placed again when its
+# content has its size).
 screen_h=$(xdpyinfo | awk '/dimensions:/ {split($2, d, "x"); print d[2]}')
-((popup_y >= icon_y + icon_h && popup_y + popup_h <= screen_h)) \
-    || fail "the popup (y $popup_y, $popup_h tall) is not between the tray icon (y $icon_y) and the screen's bottom"
+popup_below_icon() {
+    read -r _ popup_y _ popup_h < <(popup_geometry) && ((popup_y >= icon_y + icon_h && popup_y + popup_h <= screen_h))
+}
+wait_for 5 popup_below_icon \
+    || fail "the popup ($(popup_geometry)) is not between the tray icon (y $icon_y) and the screen's bottom"
 xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
 wait_for 10 popup_hidden || fail "a second click on the tray icon did not close the popup"
 

@@ -1,0 +1,257 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Reads Vantle as a screen reader does: the accessibility bus of the private X desktop of
+x11-session.sh, Vantle's tree in the AT-SPI registry, the focused object after real key presses.
+
+    from atspi import Session
+    with Session() as s:          # starts the accessibility bus and Vantle with a new profile
+        s.key("alt+shift+x")
+        s.wait(lambda: s.find(role="push button", name="Pick Color"))
+        s.check("focus starts on Pick Color", s.focused_name() == "Pick Color")
+    # exits 1 listing every failed check, 77 when the bus or pyatspi is missing
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+try:
+    import pyatspi
+except ImportError:
+    print("SKIP: python3-pyatspi is not installed", file=sys.stderr)
+    sys.exit(77)
+
+BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
+
+
+def describe(acc):
+    """ "role 'name'" of an accessible, as a failure message shows it."""
+    try:
+        return f"{acc.getRoleName()} '{acc.name}'"
+    except Exception:  # gone while we looked
+        return "<gone>"
+
+
+class Session:
+    def __init__(self, args=(), settings=None, env=None):
+        self.args = list(args)
+        self.settings = settings or {}
+        self.extra_env = env or {}
+        self.failures = []
+        self.procs = []
+
+    # --- life ----------------------------------------------------------------------------
+    def __enter__(self):
+        if not os.path.exists(BUS_LAUNCHER) or not shutil.which("xdotool"):
+            print("SKIP: at-spi2-core or xdotool is missing", file=sys.stderr)
+            sys.exit(77)
+        self.home = tempfile.mkdtemp()
+        env = dict(os.environ)
+        env.pop("NO_AT_BRIDGE", None)
+        env.update(HOME=self.home, XDG_CONFIG_HOME=f"{self.home}/config",
+                   XDG_DATA_HOME=f"{self.home}/data", XDG_RUNTIME_DIR=f"{self.home}/run",
+                   QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_ACCESSIBILITY="1")
+        os.makedirs(f"{self.home}/config/Vantle")
+        os.makedirs(f"{self.home}/run", mode=0o700)
+        if self.settings:
+            with open(f"{self.home}/config/Vantle/Vantle.conf", "w") as conf:
+                conf.write("[General]\n")
+                for key, value in self.settings.items():
+                    conf.write(f"{key}={value}\n")
+        env.update(self.extra_env)
+        self.env = env
+        self.procs.append(subprocess.Popen([BUS_LAUNCHER, "--launch-immediately"], env=env,
+                                           stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        time.sleep(0.5)
+        self.vantle = subprocess.Popen([os.environ["VANTLE_BIN"], *self.args], env=env)
+        self.procs.append(self.vantle)
+        if not self.wait(self.app, 20):
+            self.fail("Vantle never joined the accessibility registry")
+            self.finish()
+        return self
+
+    def __exit__(self, kind, value, tb):
+        if kind is None:
+            self.finish()
+        self.stop()
+        return False
+
+    def stop(self):
+        for proc in reversed(self.procs):
+            proc.kill()
+            proc.wait()
+        self.procs = []
+        shutil.rmtree(self.home, ignore_errors=True)
+
+    def finish(self):
+        """Ends the test: exit 1 with every failed check, else 0."""
+        for failure in self.failures:
+            print(f"FAIL: {failure}", file=sys.stderr)
+        if self.failures and os.environ.get("VANTLE_SHOTS"):
+            subprocess.run(["import", "-window", "root", f"{os.environ['VANTLE_SHOTS']}/failure.png"])
+        self.stop()
+        sys.exit(1 if self.failures else 0)
+
+    # --- input ---------------------------------------------------------------------------
+    def key(self, *keys):
+        """Each key held 80 ms, as a hand holds it; then a moment for the tree to follow."""
+        for k in keys:
+            subprocess.run(["xdotool", "key", "--delay", "80", k], check=True)
+            time.sleep(0.15)
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--delay", "40", text], check=True)
+        time.sleep(0.15)
+
+    # --- reading -------------------------------------------------------------------------
+    def app(self):
+        desktop = pyatspi.Registry.getDesktop(0)
+        for i in range(desktop.childCount):
+            child = desktop.getChildAtIndex(i)
+            try:
+                if child is not None and child.get_process_id() == self.vantle.pid:
+                    return child
+            except Exception:
+                continue
+        return None
+
+    def walk(self, root=None, showing_only=True):
+        """Every object under root (Vantle's windows by default), depth first."""
+        root = root or self.app()
+        if root is None:
+            return
+        stack = [root]
+        while stack:
+            acc = stack.pop()
+            try:
+                if showing_only and acc is not root and acc.getRole() != pyatspi.ROLE_APPLICATION:
+                    if not acc.getState().contains(pyatspi.STATE_SHOWING):
+                        continue
+                yield acc
+                stack.extend(reversed([acc.getChildAtIndex(i) for i in range(acc.childCount)]))
+            except Exception:
+                continue
+
+    def find_all(self, role=None, name=None, prefix=None, root=None):
+        found = []
+        for acc in self.walk(root):
+            try:
+                if role and acc.getRoleName() != role:
+                    continue
+                if name is not None and acc.name != name:
+                    continue
+                if prefix is not None and not (acc.name or "").startswith(prefix):
+                    continue
+                found.append(acc)
+            except Exception:
+                continue
+        return found
+
+    def find(self, role=None, name=None, prefix=None, root=None):
+        found = self.find_all(role, name, prefix, root)
+        return found[0] if found else None
+
+    def focused(self):
+        for acc in self.walk():
+            try:
+                if acc.getState().contains(pyatspi.STATE_FOCUSED):
+                    return acc
+            except Exception:
+                continue
+        return None
+
+    def focused_name(self):
+        acc = self.focused()
+        return acc.name if acc is not None else None
+
+    def actions(self, acc):
+        try:
+            action = acc.queryAction()
+            return [action.getName(i) for i in range(action.nActions)]
+        except NotImplementedError:
+            return []
+
+    def value(self, acc):
+        try:
+            return acc.queryValue().currentValue
+        except NotImplementedError:
+            return None
+
+    def text(self, acc):
+        try:
+            t = acc.queryText()
+            return t.getText(0, t.characterCount)
+        except NotImplementedError:
+            return None
+
+    def dump(self, root=None):
+        """The tree as indented lines, for a failure message."""
+        lines = []
+        root = root or self.app()
+
+        def visit(acc, depth):
+            try:
+                if depth and not acc.getState().contains(pyatspi.STATE_SHOWING):
+                    return
+                lines.append("  " * depth + describe(acc))
+                for i in range(acc.childCount):
+                    visit(acc.getChildAtIndex(i), depth + 1)
+            except Exception:
+                pass
+
+        if root is not None:
+            visit(root, 0)
+        return "\n".join(lines)
+
+    # --- checking ------------------------------------------------------------------------
+    def wait(self, predicate, timeout=5.0):
+        deadline = time.monotonic() + timeout
+        while True:
+            try:
+                result = predicate()
+            except Exception:
+                result = None
+            if result or time.monotonic() > deadline:
+                return result
+            time.sleep(0.1)
+
+    def fail(self, message):
+        self.failures.append(message)
+
+    def check(self, label, ok, detail=""):
+        if not ok:
+            self.fail(f"{label}{': ' + detail if detail else ''}")
+        return ok
+
+    def expect_focus(self, label, name=None, role=None, prefix=None, timeout=3.0):
+        """After a key: the focused object is the one named (and of the role given)."""
+
+        def matches():
+            acc = self.focused()
+            if acc is None:
+                return False
+            if role and acc.getRoleName() != role:
+                return False
+            if name is not None and acc.name != name:
+                return False
+            if prefix is not None and not (acc.name or "").startswith(prefix):
+                return False
+            return True
+
+        if not self.wait(matches, timeout):
+            acc = self.focused()
+            self.fail(f"{label}: focus on {describe(acc) if acc else 'nothing'}, expected "
+                      f"{role or 'any role'} '{name if name is not None else (prefix or '') + '…'}'")
+            return False
+        return True
+
+    def expect_tree(self, label, table, root=None):
+        """table: (role, name) rows, name ending in "…" for a prefix; each must be showing."""
+        for role, name in table:
+            if name.endswith("…") and len(name) > 1:
+                acc = self.wait(lambda: self.find(role=role, prefix=name[:-1], root=root), 2)
+            else:
+                acc = self.wait(lambda: self.find(role=role, name=name, root=root), 2)
+            if acc is None:
+                self.fail(f"{label}: no {role} '{name}' in\n{self.dump(root)}")

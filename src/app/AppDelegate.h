@@ -16,7 +16,7 @@ class LoginItemService;
 class OnboardingWindow;
 class PopupWindow;
 class QMenu;
-class QNetworkAccessManager;
+class UpdateNetwork;
 class QSystemTrayIcon;
 class ScreenColorSampler;
 class SettingsStore;
@@ -42,7 +42,7 @@ public:
         GlobalShortcutBackend &shortcuts;
         LoginItemService &loginItems;
         AppearanceMonitor &appearance;
-        QNetworkAccessManager &network;
+        UpdateNetwork &network;
         UpdateUserInterface &updateInterface;
         // Qt's windows are Wayland surfaces, which the compositor places.
         bool isWayland;

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <memory>
 
-class QLocalServer;
+class LocalRequestListener;
 
 // Makes Vantle a single instance per user session and takes requests from other processes
 // (`vantle pick`, `vantle toggle`, a second `vantle` start; InstanceClient.h sends them).
@@ -34,10 +34,9 @@ Q_SIGNALS:
 
 private:
     InstanceServer() = default;
-    void serveLocalSocket(std::unique_ptr<QLocalServer> server);
     void handleRequest(const QByteArray &request);
 
-    std::unique_ptr<QLocalServer> m_localServer;
+    std::unique_ptr<LocalRequestListener> m_listener;
     int m_lockFd = -1;
     bool m_ownsBusName = false;
 };

@@ -8,13 +8,13 @@
 #include "history/FileExportDialogs.h"
 #include "platform/PlatformBackends.h"
 #include "platform/WindowCompositing.h"
+#include "platform/network/LoadedUpdateNetwork.h"
 #include "platform/portal/AppearanceMonitor.h"
 #include "screens/DialogUpdateInterface.h"
 #include "services/SettingsStore.h"
 #include "services/XdgAutostartService.h"
 
 #include <QApplication>
-#include <QNetworkAccessManager>
 #include <QSocketNotifier>
 #include <QTextStream>
 #include <QThreadPool>
@@ -88,7 +88,7 @@ int runTrayApplication()
     XdgAutostartService loginItems(
         XdgAutostartService::standardEntryPath(), XdgAutostartService::runningProgramPath());
     AppearanceMonitor appearance;
-    QNetworkAccessManager network;
+    LoadedUpdateNetwork network;
     DialogUpdateInterface updateInterface;
 
     AppDelegate delegate({ store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,

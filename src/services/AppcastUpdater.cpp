@@ -5,16 +5,14 @@
 #include "services/DownloadFileName.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
+#include "services/UpdateNetwork.h"
 #include "services/UpdateSignature.h"
 #include "services/UpdateUserInterface.h"
 
 #include <QDir>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <utility>
 
-AppcastUpdater::AppcastUpdater(SettingsStore &store, QNetworkAccessManager &network, UpdateUserInterface &ui,
+AppcastUpdater::AppcastUpdater(SettingsStore &store, UpdateNetwork &network, UpdateUserInterface &ui,
     UpdateBundle bundle, QObject *parent)
     : QObject(parent)
     , m_store(store)
@@ -28,17 +26,16 @@ AppcastUpdater::AppcastUpdater(SettingsStore &store, QNetworkAccessManager &netw
 
 AppcastUpdater::~AppcastUpdater()
 {
-    // A half-written download is not left behind when the program quits.
-    if (m_download) {
-        m_download->cancelled = true;
-        if (m_download->reply) {
-            m_download->reply->disconnect(this);
-            m_download->reply->abort();
-        }
-        m_download->file.remove();
+    // A half-written download is not left behind when the program quits. The transfer's own
+    // answer finds no download any more and does nothing.
+    if (const std::unique_ptr<Download> d = std::move(m_download)) {
+        if (d->transfer)
+            m_network.abort(d->transfer);
+        d->file.close();
+        d->file.remove();
     }
-    if (m_feedReply)
-        m_feedReply->abort();
+    if (m_feedTransfer)
+        m_network.abort(m_feedTransfer);
 }
 
 void AppcastUpdater::setAutomaticallyDownloadsUpdates(bool automatic)
@@ -67,8 +64,8 @@ void AppcastUpdater::runBackgroundCheck()
     if (!canCheckForUpdates() || !url.isValid() || url.host().isEmpty())
         return scheduleNextCheck();
     beginCheck();
-    m_feedReply = BoundedFetch::get(m_network, url, m_bundle.transferTimeout, BoundedFetch::maximumFeedSize,
-        this, [this](const BoundedFetch::Result &result) {
+    m_feedTransfer = BoundedFetch::get(m_network, url, m_bundle.transferTimeout,
+        BoundedFetch::maximumFeedSize, this, [this](const BoundedFetch::Result &result) {
             endCheck();
             scheduleNextCheck();
             // The user asked meanwhile: the answer is theirs to see, as if they had fetched it.
@@ -89,13 +86,13 @@ void AppcastUpdater::runBackgroundCheck()
 
 bool AppcastUpdater::followRunningCheck(std::function<void(const BoundedFetch::Result &)> onFeed)
 {
-    if (m_feedReply) {
+    if (m_feedTransfer) {
         m_onRunningFeed = std::move(onFeed);
         return true;
     }
-    if (m_download && m_download->automatic && !m_download->watched && m_download->reply) {
+    if (m_download && m_download->automatic && !m_download->watched && m_download->transfer) {
         m_download->watched = true;
-        watchDownload(m_download->reply);
+        watchDownload();
         return true;
     }
     return false;
@@ -174,38 +171,43 @@ void AppcastUpdater::startDownload(const AppcastItem &update, bool automatic)
         return scheduleNextCheck();
     }
 
-    QNetworkRequest request(update.downloadUrl);
-    BoundedFetch::prepareRequest(request, m_bundle.transferTimeout);
-    download->reply = m_network.get(request);
-    QNetworkReply *reply = download->reply;
     m_download = std::move(download);
     beginCheck();
 
-    connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
+    UpdateNetwork::Handlers handlers;
+    handlers.onData = [this](const QByteArray &chunk) {
+        if (!m_download)
+            return false;
         Download &d = *m_download;
-        const QByteArray chunk = reply->readAll();
         // A body longer than the feed promised is cut off at once instead of filling the disk.
         if (d.file.size() + chunk.size() > d.update.length) {
             d.tooLong = true;
-            reply->abort();
-            return;
+            return false;
         }
         if (d.file.write(chunk) != chunk.size()) {
             d.writeFailed = true;
-            reply->abort();
+            return false;
         }
-    });
+        return true;
+    };
+    handlers.onProgress = [this](qint64 received) {
+        if (m_download && m_download->watched)
+            m_ui.downloadProgressed(received, m_download->update.length);
+    };
+    handlers.onFinished = [this](bool ok, int status) {
+        if (m_download)
+            finishDownload(ok, status);
+    };
+    m_download->transfer
+        = m_network.get(update.downloadUrl, m_bundle.transferTimeout, this, std::move(handlers));
     if (!automatic)
-        watchDownload(reply);
-    connect(reply, &QNetworkReply::finished, this, &AppcastUpdater::finishDownload);
+        watchDownload();
 }
 
-void AppcastUpdater::watchDownload(QNetworkReply *reply)
+void AppcastUpdater::watchDownload()
 {
-    connect(reply, &QNetworkReply::downloadProgress, this,
-        [this](qint64 received, qint64) { m_ui.downloadProgressed(received, m_download->update.length); });
-    m_ui.downloadStarted(m_download->update, [guard = QPointer<AppcastUpdater>(this), reply] {
-        if (guard && guard->m_download && guard->m_download->reply == reply)
+    m_ui.downloadStarted(m_download->update, [guard = QPointer<AppcastUpdater>(this), d = m_download.get()] {
+        if (guard && guard->m_download.get() == d)
             guard->cancelDownload();
     });
 }
@@ -213,28 +215,19 @@ void AppcastUpdater::watchDownload(QNetworkReply *reply)
 void AppcastUpdater::cancelDownload()
 {
     m_download->cancelled = true;
-    m_download->reply->abort();
+    if (m_download->transfer)
+        m_network.abort(m_download->transfer);
 }
 
-void AppcastUpdater::finishDownload()
+void AppcastUpdater::finishDownload(bool ok, int status)
 {
     std::unique_ptr<Download> d = std::move(m_download);
-    QNetworkReply *reply = d->reply;
-    reply->deleteLater();
-    if (!d->tooLong && !d->writeFailed && !d->cancelled && reply->bytesAvailable() > 0) {
-        const QByteArray rest = reply->readAll();
-        if (d->file.size() + rest.size() > d->update.length)
-            d->tooLong = true;
-        else if (d->file.write(rest) != rest.size())
-            d->writeFailed = true;
-    }
     const bool flushed = d->file.flush();
     d->file.close();
     endCheck();
     if (d->watched)
         m_ui.downloadEnded();
 
-    const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     QString failure;
     if (d->cancelled) {
         d->file.remove();
@@ -243,7 +236,7 @@ void AppcastUpdater::finishDownload()
     } else if (d->writeFailed || !flushed) {
         failure = tr("The update could not be saved in %1, so the partial file was deleted.")
                       .arg(QDir::toNativeSeparators(m_bundle.downloadFolder));
-    } else if (reply->error() != QNetworkReply::NoError || status != 200) {
+    } else if (!ok || status != 200) {
         failure = tr("The update could not be downloaded, so the partial file was deleted.");
     } else {
         const auto verdict = UpdateSignature::verifyFile(
@@ -255,7 +248,7 @@ void AppcastUpdater::finishDownload()
     if (!failure.isEmpty()) {
         d->file.remove();
         // Quiet background checks still speak up when a file was refused: that may be an attack.
-        const bool networkOnly = reply->error() != QNetworkReply::NoError && !d->tooLong;
+        const bool networkOnly = !ok && !d->tooLong;
         if (d->watched || !networkOnly)
             m_ui.showDownloadFailed(failure);
     } else if (!d->cancelled) {

@@ -12,9 +12,8 @@
 #include <functional>
 #include <memory>
 
-class QNetworkAccessManager;
-class QNetworkReply;
 class SettingsStore;
+class UpdateNetwork;
 class UpdateUserInterface;
 
 // The program's own update framework: reads the appcast, offers the newest release, downloads
@@ -28,8 +27,8 @@ class UpdateUserInterface;
 class AppcastUpdater : public QObject {
     Q_OBJECT
 public:
-    AppcastUpdater(SettingsStore &store, QNetworkAccessManager &network, UpdateUserInterface &ui,
-        UpdateBundle bundle, QObject *parent = nullptr);
+    AppcastUpdater(SettingsStore &store, UpdateNetwork &network, UpdateUserInterface &ui, UpdateBundle bundle,
+        QObject *parent = nullptr);
     ~AppcastUpdater() override;
 
     // False while a check or a download runs.
@@ -63,20 +62,20 @@ private:
     void runBackgroundCheck();
     void offerUpdate(const AppcastItem &update);
     void startDownload(const AppcastItem &update, bool automatic);
-    void watchDownload(QNetworkReply *reply);
-    void finishDownload();
+    void watchDownload();
+    void finishDownload(bool ok, int status);
     void cancelDownload();
     QString verificationFailure(int verdict) const;
 
     SettingsStore &m_store;
-    QNetworkAccessManager &m_network;
+    UpdateNetwork &m_network;
     UpdateUserInterface &m_ui;
     const UpdateBundle m_bundle;
     bool m_automatic = true;
     bool m_started = false;
     int m_busyCount = 0;
     QTimer m_nextCheck;
-    QPointer<QNetworkReply> m_feedReply;
+    QPointer<QObject> m_feedTransfer;
     std::function<void(const BoundedFetch::Result &)> m_onRunningFeed;
 
     struct Download {
@@ -87,7 +86,7 @@ private:
         bool tooLong = false;
         bool writeFailed = false;
         QFile file;
-        QPointer<QNetworkReply> reply;
+        QPointer<QObject> transfer;
     };
     std::unique_ptr<Download> m_download;
 };

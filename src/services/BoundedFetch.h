@@ -2,14 +2,12 @@
 #pragma once
 
 #include <QByteArray>
-#include <QUrl>
 #include <chrono>
 #include <functional>
 
-class QNetworkAccessManager;
-class QNetworkReply;
-class QNetworkRequest;
 class QObject;
+class QUrl;
+class UpdateNetwork;
 
 // A plain GET that a hostile server cannot turn into a hang or a flood: the body is capped,
 // a transfer that stalls is given up, and redirects are limited (and never go from https to
@@ -24,12 +22,9 @@ struct Result {
     QByteArray body;
 };
 
-// `done` runs exactly once on the main thread, unless `context` is destroyed first. The reply
-// belongs to `manager`; abort it to give up early (`done` then reports a failure).
-QNetworkReply *get(QNetworkAccessManager &manager, const QUrl &url, std::chrono::milliseconds transferTimeout,
+// `done` runs exactly once on the main thread, unless `context` is destroyed first. Abort the
+// returned transfer through `network` to give up early (`done` then reports a failure).
+QObject *get(UpdateNetwork &network, const QUrl &url, std::chrono::milliseconds transferTimeout,
     qint64 maximumSize, const QObject *context, std::function<void(const Result &)> done);
-
-// The request every update transfer uses: no cookies, limited redirects, the stall timeout.
-void prepareRequest(QNetworkRequest &request, std::chrono::milliseconds transferTimeout);
 
 } // namespace BoundedFetch

@@ -6,14 +6,14 @@
 #include "services/PreferenceKeys.h"
 #include "services/Preferences.h"
 #include "services/SettingsStore.h"
+#include "services/UpdateNetwork.h"
 #include "services/UpdateUserInterface.h"
 
-#include <QNetworkReply>
 #include <QStringDecoder>
 #include <QUrl>
 
-UpdaterController::UpdaterController(SettingsStore &store, QNetworkAccessManager &network,
-    UpdateUserInterface &ui, UpdateBundle bundle, QObject *parent)
+UpdaterController::UpdaterController(SettingsStore &store, UpdateNetwork &network, UpdateUserInterface &ui,
+    UpdateBundle bundle, QObject *parent)
     : QObject(parent)
     , m_store(store)
     , m_network(network)
@@ -31,7 +31,7 @@ UpdaterController::UpdaterController(SettingsStore &store, QNetworkAccessManager
 UpdaterController::~UpdaterController()
 {
     if (m_precheck)
-        m_precheck->abort();
+        m_network.abort(m_precheck);
 }
 
 void UpdaterController::setAutomaticallyDownloadsUpdates(bool automatic)

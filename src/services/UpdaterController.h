@@ -9,9 +9,8 @@
 #include <memory>
 
 class AppcastUpdater;
-class QNetworkAccessManager;
-class QNetworkReply;
 class SettingsStore;
+class UpdateNetwork;
 class UpdateUserInterface;
 
 // The update state the settings window shows and edits, and the program's own check in front of
@@ -26,7 +25,7 @@ class UpdaterController : public QObject {
 public:
     // Registers the default "SUAutomaticallyUpdate" = true and takes the stored value. The
     // collaborators are owned by the caller and outlive the controller.
-    UpdaterController(SettingsStore &store, QNetworkAccessManager &network, UpdateUserInterface &ui,
+    UpdaterController(SettingsStore &store, UpdateNetwork &network, UpdateUserInterface &ui,
         UpdateBundle bundle = UpdateBundle::fromBuildInfo(), QObject *parent = nullptr);
     ~UpdaterController() override;
 
@@ -56,11 +55,11 @@ private:
     void showOutcome(const BoundedFetch::Result &result);
 
     SettingsStore &m_store;
-    QNetworkAccessManager &m_network;
+    UpdateNetwork &m_network;
     UpdateUserInterface &m_ui;
     const UpdateBundle m_bundle;
     std::unique_ptr<AppcastUpdater> m_updater;
-    QPointer<QNetworkReply> m_precheck;
+    QPointer<QObject> m_precheck;
     bool m_canCheckForUpdates = false;
     bool m_automaticallyDownloadsUpdates = true;
 };

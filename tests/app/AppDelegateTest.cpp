@@ -5,6 +5,7 @@
 #include "../hotkeys/FakeShortcutBackend.h"
 #include "app/PopupWindow.h"
 #include "history/ColorListViewModel.h"
+#include "platform/network/QtUpdateNetwork.h"
 #include "platform/portal/AppearanceMonitor.h"
 #include "screens/DialogUpdateInterface.h"
 #include "screens/OnboardingWindow.h"
@@ -16,7 +17,6 @@
 #include "support/HistoryFakes.h"
 #include "support/TempSettings.h"
 
-#include <QNetworkAccessManager>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -44,7 +44,7 @@ protected:
     XdgAutostartService loginItems { settings.dir.filePath(QStringLiteral("autostart/vantle.desktop")),
         QStringLiteral("/usr/bin/vantle") };
     AppearanceMonitor appearance;
-    QNetworkAccessManager network;
+    QtUpdateNetwork network;
     DialogUpdateInterface updateInterface; // never shown: the test build has no feed address
     std::unique_ptr<AppDelegate> delegate;
 };

@@ -50,7 +50,9 @@ check_layout() {
         [[ -s $prefix/$f ]] || fail "$f is not installed"
     done
     [[ -x $prefix/bin/vantle ]] || fail "bin/vantle is not executable"
-    [[ -s $prefix/lib/vantle/modules/vantle-desktop.so ]] || fail "the desktop part lib/vantle/modules/vantle-desktop.so is not installed"
+    for f in vantle-desktop.so vantle-network.so; do
+        [[ -s $prefix/lib/vantle/modules/$f ]] || fail "the module lib/vantle/modules/$f is not installed"
+    done
     # The installed program finds its desktop part (which then refuses the unknown format)...
     local answer status=0
     answer=$(QT_QPA_PLATFORM=minimal timeout 20 "$prefix/bin/vantle" pick --print --format nonsense 2>&1) || status=$?
@@ -227,9 +229,11 @@ check_package() {
     mkdir -p "$work/shlibs/debian"
     printf 'Source: vantle\n\nPackage: vantle\nArchitecture: any\n' >"$work/shlibs/debian/control"
     local needed
-    local module=$work/root/usr/lib/vantle/modules/vantle-desktop.so
-    [[ -s $module ]] || fail "the package has no usr/lib/vantle/modules/vantle-desktop.so"
-    needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" "$module" 2>/dev/null | sed -n 's/^shlibs:Depends=//p')
+    local modules=("$work"/root/usr/lib/vantle/modules/vantle-{desktop,network}.so) module
+    for module in "${modules[@]}"; do
+        [[ -s $module ]] || fail "the package has no ${module#"$work"/root/}"
+    done
+    needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" "${modules[@]}" 2>/dev/null | sed -n 's/^shlibs:Depends=//p')
     [[ -n $needed ]] || fail "dpkg-shlibdeps found no dependencies"
     local dep declared
     declared=$(tr ',' '\n' <<<"$depends" | sed 's/^ *//; s/ .*//')

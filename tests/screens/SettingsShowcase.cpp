@@ -4,6 +4,7 @@
 #include "history/ColorListViewModel.h"
 #include "hotkeys/GlobalShortcutBackend.h"
 #include "hotkeys/HotkeyManager.h"
+#include "platform/network/QtUpdateNetwork.h"
 #include "screens/DialogUpdateInterface.h"
 #include "screens/SettingsView.h"
 #include "screens/SettingsWindow.h"
@@ -15,7 +16,6 @@
 #include "support/HistoryFakes.h"
 
 #include <QApplication>
-#include <QNetworkAccessManager>
 #include <QStyleFactory>
 #include <QTemporaryDir>
 
@@ -68,7 +68,7 @@ int main(int argc, char **argv)
     NullShortcutBackend backend;
     HotkeyManager hotkeys(store, backend);
     ShowcaseLoginItems loginItems;
-    QNetworkAccessManager network;
+    QtUpdateNetwork network;
     DialogUpdateInterface updateInterface;
     UpdaterController updater(store, network, updateInterface);
     SettingsWindow window(store, hotkeys, loginItems, updater, &model);

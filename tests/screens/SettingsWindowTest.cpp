@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/SettingsWindow.h"
+#include "platform/network/QtUpdateNetwork.h"
 #include "screens/SettingsView.h"
 
 #include "ModalAnswer.h"
@@ -22,7 +23,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
-#include <QNetworkAccessManager>
 #include <QPointer>
 #include <QPushButton>
 #include <QTcpServer>
@@ -112,7 +112,7 @@ struct Shell {
     FakeShortcutBackend backend;
     HotkeyManager hotkeys { *settings.store, backend };
     FakeLoginItemService loginItems;
-    QNetworkAccessManager network;
+    QtUpdateNetwork network;
     QuietUpdateInterface updateUi;
     std::unique_ptr<ColorListViewModel> model;
     std::unique_ptr<UpdaterController> updater;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "services/UpdaterController.h"
 
+#include "platform/network/QtUpdateNetwork.h"
 #include "services/Appcast.h"
 #include "services/PreferenceKeys.h"
 #include "services/UpdateUserInterface.h"
@@ -10,7 +11,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QNetworkAccessManager>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -114,7 +114,7 @@ protected:
     TempSettings settings;
     QTemporaryDir downloads;
     LocalHttpServer server;
-    QNetworkAccessManager network;
+    QtUpdateNetwork network;
     RecordingUpdateInterface ui;
     UpdateSigning::KeyPair keys = UpdateSigning::makeKeyPair();
 };

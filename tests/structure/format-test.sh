@@ -14,7 +14,7 @@ for file in $files $(find src tests bench scripts -name '*.sh' -o -name CMakeLis
         || { echo "no licence line: $file"; status=1; }
 done
 if ! out=$(clang-format --dry-run --Werror $files 2>&1); then
-    echo "$out" | grep 'warning:' | cut -d: -f1 | sort -u | sed 's/^/not formatted: /'
+    echo "$out" | grep -E '(warning|error):' | cut -d: -f1 | sort -u | sed 's/^/not formatted: /'
     echo "run: clang-format -i \$(find src tests bench -name '*.cpp' -o -name '*.h')"
     exit 1
 fi

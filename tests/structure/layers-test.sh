@@ -10,7 +10,7 @@ declare -A allowed=(
     [services]="model services"
     [history]="model services history"
     [hotkeys]="model services hotkeys"
-    [platform]="model history hotkeys platform"
+    [platform]="model services history hotkeys platform"
     [screens]="model services history hotkeys screens"
     [app]="model services history hotkeys platform screens app"
 )

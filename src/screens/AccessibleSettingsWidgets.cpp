@@ -201,6 +201,8 @@ QAccessibleInterface *accessibleSettingsWidget(const QString &className, QObject
 {
     if (className == QLatin1String("SettingsTabButton"))
         return new AccessibleTab(static_cast<SettingsTabButton *>(object));
+    if (className == QLatin1String("QWidget") && object->objectName() == QLatin1String("settingsTabBar"))
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::PageTabList);
     if (className == QLatin1String("OnboardingView"))
         return new AccessibleOnboarding(static_cast<OnboardingView *>(object));
     return nullptr;

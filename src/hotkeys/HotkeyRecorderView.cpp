@@ -224,6 +224,8 @@ void HotkeyRecorderView::updateField()
     font.setWeight(QFont::Medium);
     m_field->setFont(font);
     m_field->setText(text);
+    // Named by its caption; a screen reader says the shortcut, or that it listens, after it.
+    m_field->setAccessibleDescription(text);
     m_field->setStyleSheet(style);
 
     if (m_clearIcon)

@@ -8,6 +8,7 @@
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
 
+#include <QAccessible>
 #include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QLinearGradient>
@@ -142,6 +143,13 @@ void OnboardingView::getStarted()
         return;
     m_store.setBool(PreferenceKeys::onboardingShown, true);
     m_currentScreen = 1;
+    // A screen reader reads the new screen's texts and button in place of the old ones.
+    QAccessibleEvent reorder(this, QAccessible::ObjectReorder);
+    QAccessible::updateAccessibility(&reorder);
+    if (hasFocus()) {
+        QAccessibleEvent focus(this, QAccessible::Focus);
+        QAccessible::updateAccessibility(&focus);
+    }
     m_confirmation = makeEntrance(confirmationEntrance());
     // The welcome screen's pulse stops once it has slid away (the screen change comes first).
     // Stopped from the event loop: stopping one animation while Qt advances the others makes

@@ -25,6 +25,7 @@
 #include <QFrame>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -96,6 +97,8 @@ QWidget *SettingsView::makeTabBar()
     } };
 
     auto *bar = new QWidget;
+    // Read as the page tab list it is (AccessibleSettingsWidgets).
+    bar->setObjectName(QStringLiteral("settingsTabBar"));
     auto *layout = new QHBoxLayout(bar);
     layout->setContentsMargins(12, 8, 12, 8);
     layout->setSpacing(2);
@@ -115,6 +118,14 @@ void SettingsView::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     // The login item wins here: the toggle shows whether the program really starts at login.
     LaunchAtLogin::refreshLaunchAtLogin(m_store, m_loginItems);
+}
+
+void SettingsView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier)
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void SettingsView::changeEvent(QEvent *event)

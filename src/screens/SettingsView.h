@@ -58,6 +58,8 @@ public:
 protected:
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
+    // Escape closes the window, as it does a dialog (an open list or the recorder takes it first).
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QWidget *makeTabBar();

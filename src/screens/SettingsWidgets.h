@@ -85,6 +85,8 @@ inline QScrollArea *scrolling(QWidget *content)
     area->setWidgetResizable(true);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setWidget(content);
+    // Tab goes from the tabs straight to the page's first control; the area follows the focus.
+    area->setFocusPolicy(Qt::NoFocus);
     // The page shows the window's background, not the scroll area's base colour.
     area->viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);

@@ -11,6 +11,7 @@
 #include "screens/ColorListView.h"
 #include "screens/OnboardingWindow.h"
 #include "screens/SettingsWindow.h"
+#include "screens/Theme.h"
 #include "services/DiskImageCleanup.h"
 #include "services/LaunchAtLogin.h"
 #include "services/PreferenceKeys.h"
@@ -88,6 +89,14 @@ void AppDelegate::applicationDidFinishLaunching()
     connect(&store, &SettingsStore::changed, this, &AppDelegate::updateStatusItemIcon, Qt::QueuedConnection);
     connect(&m_facilities.appearance, &AppearanceMonitor::appearanceChanged, this,
         &AppDelegate::updateStatusItemIcon, Qt::QueuedConnection);
+    // The screens follow the desktop's wish for higher contrast, also when it changes while
+    // they are open.
+    Theme::setHighContrast(m_facilities.appearance.prefersHighContrast());
+    connect(&m_facilities.appearance, &AppearanceMonitor::contrastChanged, this, [this] {
+        Theme::setHighContrast(m_facilities.appearance.prefersHighContrast());
+        for (QWidget *widget : QApplication::allWidgets())
+            widget->update();
+    });
 
     // 10. The welcome window on a first run.
     if (!store.boolForKey(onboardingShown)) {

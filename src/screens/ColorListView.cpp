@@ -131,7 +131,7 @@ QWidget *ColorListView::buildPickButton()
     style.symbol = QStringLiteral("eyedropper");
     style.symbolSize = 14;
     style.font = Theme::font(13, QFont::DemiBold);
-    style.foreground = [](const QPalette &) { return QColor(Qt::white); };
+    style.foreground = &Theme::onAccent;
     style.fill = &Theme::orange;
     style.radius = 5;
     style.padding = QMargins(0, 10, 0, 10);

@@ -30,7 +30,7 @@ ContrastBadge::ContrastBadge(
     row->addWidget(ratioText, 0, Qt::AlignVCenter);
 
     m_levelCapsule = new CapsuleLabel(
-        level, Theme::font(10, QFont::DemiBold), [](const QPalette &) { return QColor(Qt::white); },
+        level, Theme::font(10, QFont::DemiBold), &Theme::onAccent,
         [level](const QPalette &palette) { return Theme::levelColor(level, palette); }, QMargins(6, 2, 6, 2),
         this);
     row->addWidget(m_levelCapsule, 0, Qt::AlignVCenter);

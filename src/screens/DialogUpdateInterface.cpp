@@ -86,8 +86,8 @@ void DialogUpdateInterface::askAboutUpdate(const AppcastItem &update, const QStr
     layout->setSpacing(16);
 
     auto *symbol = new QLabel;
-    symbol->setPixmap(
-        Symbols::pixmap(QStringLiteral("eyedropper"), 48, Theme::accent(), dialog->devicePixelRatioF()));
+    symbol->setPixmap(Symbols::pixmap(
+        QStringLiteral("eyedropper"), 48, Theme::accent(dialog->palette()), dialog->devicePixelRatioF()));
     symbol->setFixedSize(48, 48);
     layout->addWidget(symbol, 0, Qt::AlignTop);
 

@@ -49,7 +49,7 @@ QWidget *SettingsView::makeAboutPage()
 
     auto *symbol = new QLabel;
     symbol->setPixmap(
-        Symbols::pixmap(QStringLiteral("eyedropper"), 48, Theme::accent(), devicePixelRatioF()));
+        Symbols::pixmap(QStringLiteral("eyedropper"), 48, Theme::accent(palette()), devicePixelRatioF()));
     symbol->setFixedSize(48, 48);
     add(symbol);
     add(textLabel(tr("vantle"), 20, true));

@@ -127,7 +127,7 @@ QWidget *SettingsView::makeGeneralPage()
         [this](int index) { requestHistoryLimit(m_historyLimitPicker->itemData(index).toLongLong()); });
     m_clearHistoryButton = new QPushButton(tr("Clear History"));
     QPalette red = m_clearHistoryButton->palette();
-    red.setColor(QPalette::ButtonText, Theme::destructive());
+    red.setColor(QPalette::ButtonText, Theme::destructive(red));
     m_clearHistoryButton->setPalette(red);
     connect(m_clearHistoryButton, &QPushButton::clicked, this, [this] {
         if (m_viewModel)

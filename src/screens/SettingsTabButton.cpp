@@ -55,7 +55,7 @@ void SettingsTabButton::paintEvent(QPaintEvent *)
     if (selected) {
         QPainterPath plate;
         plate.addRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
-        painter.fillPath(plate, Theme::accent());
+        painter.fillPath(plate, Theme::accent(palette()));
     } else if (underMouse()) {
         QPainterPath plate;
         plate.addRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
@@ -63,7 +63,7 @@ void SettingsTabButton::paintEvent(QPaintEvent *)
         hover.setAlphaF(0.06);
         painter.fillPath(plate, hover);
     }
-    const QColor ink = selected ? QColor(Qt::white) : Theme::secondaryText(palette());
+    const QColor ink = selected ? Theme::onAccent(palette()) : Theme::secondaryText(palette());
 
     const QRectF symbolRect(
         (width() - symbolSize) / 2.0, padding + (symbolFrame - symbolSize) / 2.0, symbolSize, symbolSize);
@@ -77,9 +77,9 @@ void SettingsTabButton::paintEvent(QPaintEvent *)
     // The ring only after keyboard navigation, so the tab focused at opening does not look
     // selected as well.
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
-        QPen focus(Theme::accent());
+        QPen focus(Theme::accent(palette()));
         focus.setWidthF(1.5);
-        painter.setPen(selected ? QPen(Qt::white) : focus);
+        painter.setPen(selected ? QPen(Theme::onAccent(palette())) : focus);
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), cornerRadius, cornerRadius);
     }

@@ -56,8 +56,8 @@ inline QLabel *linkLabel(const QString &text, const QUrl &url, int pixelSize, QW
     auto *label = new QLabel(parent);
     label->setTextFormat(Qt::RichText);
     label->setText(QStringLiteral("<a href=\"%1\" style=\"color:%2; text-decoration:none;\">%3</a>")
-                       .arg(url.toString(QUrl::FullyEncoded).toHtmlEscaped(), Theme::accent().name(),
-                           text.toHtmlEscaped()));
+                       .arg(url.toString(QUrl::FullyEncoded).toHtmlEscaped(),
+                           Theme::accent(label->palette()).name(), text.toHtmlEscaped()));
     label->setFont(Theme::withPixelSize(label->font(), pixelSize));
     label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     label->setCursor(Qt::PointingHandCursor);

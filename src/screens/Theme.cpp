@@ -6,9 +6,29 @@
 
 namespace Theme {
 
+namespace {
+bool highContrastOn = false;
+
+// The high-contrast tone of a hue: light under black text in a dark theme, deep under white.
+QColor contrastTone(const QPalette &palette, QColor light, QColor deep)
+{
+    return isDark(palette) ? light : deep;
+}
+} // namespace
+
 bool isDark(const QPalette &palette)
 {
     return palette.color(QPalette::Window).lightnessF() < 0.5;
+}
+
+bool highContrast()
+{
+    return highContrastOn;
+}
+
+void setHighContrast(bool on)
+{
+    highContrastOn = on;
 }
 
 QColor withAlpha(QColor color, qreal alpha)
@@ -24,13 +44,13 @@ QColor text(const QPalette &palette)
 
 QColor secondaryText(const QPalette &palette)
 {
-    return withAlpha(text(palette), 0.62);
+    return highContrastOn ? text(palette) : withAlpha(text(palette), 0.62);
 }
 
 // Tertiary text is lighter than secondary, but not so faint that hints vanish on grey panels.
 QColor tertiaryText(const QPalette &palette)
 {
-    return withAlpha(text(palette), 0.42);
+    return highContrastOn ? text(palette) : withAlpha(text(palette), 0.42);
 }
 
 QColor controlBackground(const QPalette &palette)
@@ -40,16 +60,22 @@ QColor controlBackground(const QPalette &palette)
 
 QColor orange(const QPalette &palette)
 {
+    if (highContrastOn)
+        return contrastTone(palette, QColor(0xFF, 0xAA, 0x50), QColor(0x80, 0x38, 0x00));
     return isDark(palette) ? QColor(0xF5, 0x8A, 0x0B) : QColor(0xEE, 0x7A, 0x00);
 }
 
 QColor green(const QPalette &palette)
 {
+    if (highContrastOn)
+        return contrastTone(palette, QColor(0x5F, 0xD6, 0x8A), QColor(0x00, 0x5C, 0x26));
     return isDark(palette) ? QColor(0x2E, 0xA8, 0x4F) : QColor(0x1F, 0x9A, 0x46);
 }
 
 QColor red(const QPalette &palette)
 {
+    if (highContrastOn)
+        return contrastTone(palette, QColor(0xFF, 0xA3, 0x9A), QColor(0x96, 0x00, 0x18));
     return isDark(palette) ? QColor(0xE8, 0x45, 0x3C) : QColor(0xD9, 0x35, 0x2C);
 }
 
@@ -60,6 +86,21 @@ QColor levelColor(const QString &level, const QPalette &palette)
     if (level == QLatin1String("AA Large"))
         return orange(palette);
     return red(palette);
+}
+
+QColor onAccent(const QPalette &palette)
+{
+    return highContrastOn && isDark(palette) ? QColor(Qt::black) : QColor(Qt::white);
+}
+
+QColor accent(const QPalette &palette)
+{
+    return highContrastOn ? orange(palette) : QColor(0xFF, 0x95, 0x00);
+}
+
+QColor destructive(const QPalette &palette)
+{
+    return highContrastOn ? red(palette) : QColor(0xE5, 0x3B, 0x30);
 }
 
 QFont font(int pixelSize, QFont::Weight weight)

@@ -12,9 +12,15 @@ class QPalette;
 // dark themes both read well; the few fixed hues (the orange accent, the level greens and reds)
 // are chosen here once, a little deeper than pure "system" tones so white text on them stays
 // legible. The welcome window has a fixed dark palette of its own, whatever the theme.
+//
+// When the desktop asks for higher contrast, the quieter shades are drawn in the full text colour
+// of the desktop's palette, and the fixed hues take tones that read at 7:1 or more: deep tones
+// under white text in a light theme, light tones under black text in a dark one.
 namespace Theme {
 
 bool isDark(const QPalette &palette);
+bool highContrast();
+void setHighContrast(bool on);
 
 // Label styles: primary text, then two quieter shades for secondary and tertiary text.
 QColor text(const QPalette &palette);
@@ -30,21 +36,19 @@ QColor red(const QPalette &palette);
 // for anything else.
 QColor levelColor(const QString &level, const QPalette &palette);
 
+// The text drawn on a fill of orange, green, red or the accent: white, or black on the light
+// tones of a dark theme in high contrast.
+QColor onAccent(const QPalette &palette);
+
 // `color` with its opacity multiplied by `alpha` (0...1).
 QColor withAlpha(QColor color, qreal alpha);
 
 // The settings window's accent, the desktop's orange (#FF9500): selected tabs, the About
 // symbol, links.
-inline QColor accent()
-{
-    return QColor(0xFF, 0x95, 0x00);
-}
+QColor accent(const QPalette &palette);
 
 // Destructive actions ("Clear History").
-inline QColor destructive()
-{
-    return QColor(0xE5, 0x3B, 0x30);
-}
+QColor destructive(const QPalette &palette);
 
 // The welcome window's own colours.
 namespace Welcome {

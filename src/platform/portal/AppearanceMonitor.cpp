@@ -17,13 +17,21 @@ namespace {
 const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString appearanceNamespace = QStringLiteral("org.freedesktop.appearance");
 const QString colorSchemeKey = QStringLiteral("color-scheme");
+const QString contrastKey = QStringLiteral("contrast");
+const QString gnomeAccessibilityNamespace = QStringLiteral("org.gnome.desktop.a11y.interface");
+const QString gnomeHighContrastKey = QStringLiteral("high-contrast");
 
 // Read() wraps the value in two variants (the method returns a variant, holding the setting's
 // own variant); SettingChanged delivers one. Unwrap as many as there are.
-uint schemeFrom(QVariant value)
+QVariant unwrapped(QVariant value)
 {
     while (value.canConvert<QDBusVariant>() && value.userType() == qMetaTypeId<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
+    return value;
+}
+
+uint schemeFrom(const QVariant &value)
+{
     bool ok = false;
     const uint scheme = value.toUInt(&ok);
     return ok && scheme <= 2 ? scheme : 0;
@@ -35,21 +43,30 @@ AppearanceMonitor::AppearanceMonitor(QObject *parent)
     : QObject(parent)
 {
     qApp->installEventFilter(this);
+    m_themeHighContrast = qEnvironmentVariable("GTK_THEME").contains(u"HighContrast", Qt::CaseInsensitive);
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
     connect(new PortalSettingsSignals(bus, this), &PortalSettingsSignals::SettingChanged, this,
         &AppearanceMonitor::onSettingChanged);
+    read(appearanceNamespace, colorSchemeKey);
+    read(appearanceNamespace, contrastKey);
+    read(gnomeAccessibilityNamespace, gnomeHighContrastKey);
+}
+
+void AppearanceMonitor::read(const QString &nameSpace, const QString &key)
+{
     QDBusMessage read = QDBusMessage::createMethodCall(
         portalService, portalPath, settingsInterface, QStringLiteral("Read"));
-    read << appearanceNamespace << colorSchemeKey;
-    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher *call) {
-        call->deleteLater();
-        const QDBusPendingReply<QDBusVariant> reply = *call;
-        if (!reply.isError())
-            setPortalScheme(schemeFrom(QVariant::fromValue(reply.value())));
-    });
+    read << nameSpace << key;
+    auto *watcher = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(read), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+        [this, nameSpace, key](QDBusPendingCallWatcher *call) {
+            call->deleteLater();
+            const QDBusPendingReply<QDBusVariant> reply = *call;
+            if (!reply.isError())
+                apply(nameSpace, key, QVariant::fromValue(reply.value()));
+        });
 }
 
 bool AppearanceMonitor::isDark() const
@@ -59,6 +76,11 @@ bool AppearanceMonitor::isDark() const
     if (m_portalScheme == 2)
         return false;
     return QApplication::palette().color(QPalette::Window).lightnessF() < 0.5;
+}
+
+bool AppearanceMonitor::prefersHighContrast() const
+{
+    return m_portalContrast || m_gnomeHighContrast || m_themeHighContrast;
 }
 
 bool AppearanceMonitor::eventFilter(QObject *watched, QEvent *event)
@@ -71,8 +93,21 @@ bool AppearanceMonitor::eventFilter(QObject *watched, QEvent *event)
 void AppearanceMonitor::onSettingChanged(
     const QString &nameSpace, const QString &key, const QDBusVariant &value)
 {
+    apply(nameSpace, key, QVariant::fromValue(value));
+}
+
+void AppearanceMonitor::apply(const QString &nameSpace, const QString &key, const QVariant &wrapped)
+{
+    const QVariant value = unwrapped(wrapped);
+    const bool wasHighContrast = prefersHighContrast();
     if (nameSpace == appearanceNamespace && key == colorSchemeKey)
-        setPortalScheme(schemeFrom(QVariant::fromValue(value)));
+        setPortalScheme(schemeFrom(value));
+    else if (nameSpace == appearanceNamespace && key == contrastKey)
+        m_portalContrast = value.toUInt() == 1;
+    else if (nameSpace == gnomeAccessibilityNamespace && key == gnomeHighContrastKey)
+        m_gnomeHighContrast = value.toBool();
+    if (prefersHighContrast() != wasHighContrast)
+        Q_EMIT contrastChanged();
 }
 
 void AppearanceMonitor::setPortalScheme(uint scheme)

@@ -12,6 +12,7 @@
 #include <QAccessibleObject>
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QWindow>
 
 namespace {
@@ -118,7 +119,9 @@ public:
         if (action == pressAction())
             Q_EMIT row->activated();
         else if (action == showMenuAction())
-            row->showContextMenu(row->mapToGlobal(QPoint(24, row->height() / 2)));
+            QCoreApplication::postEvent(row,
+                new QContextMenuEvent(QContextMenuEvent::Keyboard, QPoint(24, row->height() / 2),
+                    row->mapToGlobal(QPoint(24, row->height() / 2))));
     }
 };
 

@@ -130,15 +130,16 @@ void ColorRowView::paintEvent(QPaintEvent *)
 
 void ColorRowView::enterEvent(QEnterEvent *event)
 {
+    // The focus follows the pointer once it moves (mouseMoveEvent): the popup opening under a
+    // resting pointer keeps its focus where it starts.
     m_isHovered = true;
-    setFocus(Qt::MouseFocusReason);
     update();
     QWidget::enterEvent(event);
 }
 
 void ColorRowView::mouseMoveEvent(QMouseEvent *event)
 {
-    // The pointer moving again over a row the keyboard has left takes the highlight back.
+    // The pointer moving over a row takes the highlight, also back from the keyboard.
     if (!hasFocus()) {
         setFocus(Qt::MouseFocusReason);
         update();

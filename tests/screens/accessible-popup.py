@@ -5,6 +5,7 @@ key and Shift+F10; the rename sheet; the export menu; Escape going back one leve
 closing the popup last."""
 import json
 import os
+import subprocess
 import sys
 import time
 
@@ -49,6 +50,9 @@ MENU_KEYS = ["Menu", "shift+F10"]  # both open a row's menu on its first entry
 
 with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": json.dumps(HISTORY)}) as s:
     time.sleep(2)
+    # The pointer rests where the rows will show: the popup opening under it keeps its focus.
+    width = subprocess.run(["xdotool", "getdisplaygeometry"], capture_output=True, text=True).stdout.split()[0]
+    subprocess.run(["xdotool", "mousemove", str(int(width) - 150), "190"], check=True)
     s.key("alt+shift+x")
     s.wait(lambda: s.find(role="push button", name="Pick Color"), 10)
     s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color")

@@ -17,6 +17,13 @@
 
 namespace {
 
+// The loupe's value while a pick runs. The loupe is no Qt window; its sampler keeps the value
+// it shows in this object of the application, and says when it changes.
+QObject *loupeValue()
+{
+    return qApp->findChild<QObject *>(QStringLiteral("loupeValue"), Qt::FindDirectChildrenOnly);
+}
+
 // The application: every top-level window, the popup ones included while they show. Qt's own
 // leaves out popup windows, and the tray popup and its menus are exactly those: without this
 // a screen reader finds nothing of Vantle but an empty frame.
@@ -61,7 +68,33 @@ private:
             if (QAccessibleInterface *root = window->accessibleRoot(); root && root->object())
                 list.append(root->object());
         }
+        if (QObject *loupe = loupeValue(); loupe && !loupe->property("text").toString().isEmpty())
+            list.append(loupe);
         return list;
+    }
+};
+
+class AccessibleLoupeValue : public QAccessibleObject {
+public:
+    explicit AccessibleLoupeValue(QObject *object)
+        : QAccessibleObject(object)
+    {
+    }
+    QAccessibleInterface *parent() const override { return QAccessible::queryAccessibleInterface(qApp); }
+    int childCount() const override { return 0; }
+    QAccessibleInterface *child(int) const override { return nullptr; }
+    int indexOfChild(const QAccessibleInterface *) const override { return -1; }
+    QString text(QAccessible::Text type) const override
+    {
+        return type == QAccessible::Name ? object()->property("text").toString() : QString();
+    }
+    QAccessible::Role role() const override { return QAccessible::Notification; }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        state.invisible = text(QAccessible::Name).isEmpty();
+        state.readOnly = true;
+        return state;
     }
 };
 
@@ -164,6 +197,8 @@ QAccessibleInterface *factory(const QString &className, QObject *object)
         return settings;
     if (className == QLatin1String("QApplication"))
         return new AccessibleApplication;
+    if (object && object == loupeValue())
+        return new AccessibleLoupeValue(object);
     auto *widget = qobject_cast<QWidget *>(object);
     if (!widget)
         return nullptr;

@@ -105,4 +105,17 @@ with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": j
     s.key("Escape")
     s.check("Escape closes the popup last",
             bool(s.wait(lambda: s.find(role="push button", name="Pick Color") is None, 3)), s.dump())
+
+    # A pick from the keyboard: the loupe's value is heard as the pointer moves; Escape ends it.
+    s.key("alt+shift+x")
+    s.expect_focus("the popup opens again on Pick Color", role="push button", name="Pick Color")
+    s.key("Return")
+    time.sleep(0.5)
+    for x, y in [(200, 300), (400, 500)]:
+        subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
+        s.check(f"the loupe's value at {x},{y} is heard",
+                s.wait(lambda: s.find(role="notification", prefix="#"), 2) is not None, s.dump())
+    s.key("Escape")
+    s.check("the loupe's value goes with the loupe",
+            bool(s.wait(lambda: s.find(role="notification", prefix="#") is None, 2)), s.dump())
     s.finish()

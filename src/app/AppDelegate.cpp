@@ -75,8 +75,10 @@ void AppDelegate::applicationDidFinishLaunching()
     m_hotkeyManager->reregisterAll();
     connect(m_hotkeyManager.get(), &HotkeyManager::pickHotkeyFired, this, &AppDelegate::pickColor,
         Qt::QueuedConnection);
-    connect(m_hotkeyManager.get(), &HotkeyManager::popoverHotkeyFired, this, &AppDelegate::togglePopover,
-        Qt::QueuedConnection);
+    // Opened from the keyboard, the popup shows its focus on "Pick Color" at once.
+    connect(
+        m_hotkeyManager.get(), &HotkeyManager::popoverHotkeyFired, this,
+        [this] { togglePopoverWith(Qt::ShortcutFocusReason); }, Qt::QueuedConnection);
 
     // 6. Launch at login follows the preference.
     LaunchAtLogin::syncLaunchAtLogin(store, m_facilities.loginItems);
@@ -215,6 +217,11 @@ void AppDelegate::refreshPopoverContent()
 
 void AppDelegate::togglePopover()
 {
+    togglePopoverWith(Qt::PopupFocusReason);
+}
+
+void AppDelegate::togglePopoverWith(Qt::FocusReason reason)
+{
     if (!m_popover || (!m_statusItem && !isStandalone()))
         return; // still waiting for the tray
     if (m_popover->isVisible()) {
@@ -225,7 +232,7 @@ void AppDelegate::togglePopover()
     if (!isStandalone() && m_popover->justClosedByOutsideClick())
         return; // this very click on the tray icon closed it
     refreshPopoverContent();
-    m_popover->popUp(m_statusItem ? m_statusItem->geometry() : QRect());
+    m_popover->popUp(m_statusItem ? m_statusItem->geometry() : QRect(), reason);
 }
 
 void AppDelegate::pickColor()

@@ -81,6 +81,8 @@ private:
     void useStandaloneWindow();
     void applyDefaultShortcuts();
     bool isStandalone() const;
+    // `reason` is how the focus reaches the popup's content when this opens it.
+    void togglePopoverWith(Qt::FocusReason reason);
 
     Facilities m_facilities;
     std::unique_ptr<UpdaterController> m_updaterController; // the one object made before launch

@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/DesktopPart.h"
 #include "app/TrayApplication.h"
+#include "screens/AccessibleWidgets.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
@@ -18,6 +19,7 @@ extern "C" Q_DECL_EXPORT int vantleDesktopMain(int argc, char **argv)
 
     QApplication app(argc, argv);
     setApplicationIdentity();
+    installAccessibleWidgets();
     if (tray)
         return runTrayApplication();
 

@@ -28,6 +28,7 @@ PopupWindow::PopupWindow(bool isWayland, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     setAttribute(Qt::WA_DeleteOnClose, false);
+    setAccessibleName(QStringLiteral("Vantle"));
 }
 
 void PopupWindow::setStandalone(bool standalone)
@@ -154,7 +155,7 @@ QPoint PopupWindow::placement(
     return origin;
 }
 
-void PopupWindow::popUp(const QRect &anchor)
+void PopupWindow::popUp(const QRect &anchor, Qt::FocusReason reason)
 {
     ensureContent();
     const QPoint pointer = QCursor::pos();
@@ -176,7 +177,7 @@ void PopupWindow::popUp(const QRect &anchor)
     raise();
     activateWindow();
     if (m_content)
-        m_content->setFocus(Qt::PopupFocusReason);
+        m_content->setFocus(reason);
 }
 
 bool PopupWindow::justClosedByOutsideClick() const

@@ -30,7 +30,9 @@ public:
     // Shows the window next to `anchor` (the tray icon's screen rectangle) on the side away
     // from the panel, or near the pointer when the anchor is unknown, kept inside the
     // available area of that screen and off the icon.
-    void popUp(const QRect &anchor);
+    // The content takes the keyboard focus for `reason`: a keyboard reason (the popup's
+    // shortcut) shows where the focus is at once.
+    void popUp(const QRect &anchor, Qt::FocusReason reason = Qt::PopupFocusReason);
     // The height the content may take at the last opening; the content scrolls within it.
     int heightLimit() const { return m_heightLimit; }
 

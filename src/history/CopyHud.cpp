@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/CopyHud.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCursor>
 #include <QFontMetricsF>
@@ -42,6 +43,9 @@ public:
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setFocusPolicy(Qt::NoFocus);
         setFont(capsuleFont());
+        // A screen reader reads the capsule as a notification, by this name.
+        setObjectName(QStringLiteral("copyConfirmation"));
+        setAccessibleName(message);
         setFixedSize(CopyHud::capsuleSize(message));
         if (isCutToShape) {
             // Cut the window to the capsule so the ends are round rather than black corners
@@ -168,6 +172,12 @@ void CopyHud::showHUD(const QString &message)
     }
     window->setWindowOpacity(0);
     window->show();
+    // Qt keeps quiet about tooltip windows showing; a screen reader hears a notification
+    // when it shows, and this one takes no focus to be read otherwise.
+    if (QAccessible::isActive()) {
+        QAccessibleEvent shown(window, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&shown);
+    }
 
     auto *fadeIn = new QPropertyAnimation(window, "windowOpacity", window);
     fadeIn->setDuration(fadeInMs);

@@ -190,11 +190,6 @@ private:
 
     mutable std::array<QList<OnboardingItem *>, 2> m_items;
 };
-
-QAccessibleInterface *factory(const QString &className, QObject *object)
-{
-    return accessibleSettingsWidget(className, object);
-}
 } // namespace
 
 QAccessibleInterface *accessibleSettingsWidget(const QString &className, QObject *object)
@@ -206,13 +201,4 @@ QAccessibleInterface *accessibleSettingsWidget(const QString &className, QObject
     if (className == QLatin1String("OnboardingView"))
         return new AccessibleOnboarding(static_cast<OnboardingView *>(object));
     return nullptr;
-}
-
-void installAccessibleSettingsWidgets()
-{
-    static const bool installed = [] {
-        QAccessible::installFactory(factory);
-        return true;
-    }();
-    Q_UNUSED(installed);
 }

@@ -10,7 +10,3 @@ class QObject;
 // themselves: null for any other class, so the program's accessibility factory can ask here
 // first and fall through to the other screens.
 QAccessibleInterface *accessibleSettingsWidget(const QString &className, QObject *object);
-
-// Registers accessibleSettingsWidget as a factory of its own, once, until one factory serves the
-// whole program.
-void installAccessibleSettingsWidgets();

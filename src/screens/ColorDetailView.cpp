@@ -116,6 +116,7 @@ ColorDetailView::ColorDetailView(
     contrast->setSpacing(8);
     auto *heading = new ElidedLabel(
         tr("Contrast Ratios"), Theme::font(11, QFont::DemiBold), &Theme::secondaryText, content);
+    heading->setObjectName(QStringLiteral("sectionHeading"));
     contrast->addWidget(heading);
     const double luminance = relativeLuminance(color.red, color.green, color.blue);
     m_whiteBadge = makeBadge(tr("vs White"), contrastRatio(luminance, whiteLuminance), content);
@@ -127,6 +128,7 @@ ColorDetailView::ColorDetailView(
     m_scroll = new QScrollArea(this);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus); // Tab goes from line to line, never to the frame
     m_scroll->setWidgetResizable(true);
     m_scroll->viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
@@ -134,7 +136,8 @@ ColorDetailView::ColorDetailView(
     setHeightLimit(QWIDGETSIZE_MAX);
     root->addWidget(m_scroll);
 
-    setFocusPolicy(Qt::StrongFocus);
+    // A click on the empty screen keeps Escape working; Tab passes the screen itself by.
+    setFocusPolicy(Qt::ClickFocus);
     setAccessibleName(tr("Color details"));
 }
 

@@ -7,6 +7,8 @@
 #include "screens/ColorRowView.h"
 #include "screens/Divider.h"
 #include "screens/ElidedLabel.h"
+#include "screens/FormatLine.h"
+#include "screens/PaintedButton.h"
 #include "screens/RenameColorSheet.h"
 #include "screens/SymbolButton.h"
 #include "screens/Symbols.h"
@@ -15,6 +17,7 @@
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
+#include <QApplication>
 #include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -118,6 +121,8 @@ QWidget *ColorListView::buildHeader()
         [](const QPalette &palette) { return Theme::withAlpha(Theme::secondaryText(palette), 0.1 / 0.62); },
         QMargins(7, 3, 7, 3), header);
     m_countBadge->setObjectName(QStringLiteral("countBadge"));
+    // Read after the number: "3, colors".
+    m_countBadge->setAccessibleDescription(tr("colors"));
     row->addWidget(m_countBadge);
     return header;
 }
@@ -163,6 +168,7 @@ QWidget *ColorListView::buildFooter()
     exportButton->setObjectName(QStringLiteral("exportButton"));
     m_exportMenu = new QMenu(exportButton);
     m_exportMenu->setObjectName(QStringLiteral("exportMenu"));
+    m_exportMenu->setWindowTitle(tr("Export colors")); // what a screen reader calls the menu
     const auto exportAction = [this](const QString &text, bool pinnedOnly, bool asJSON) {
         QAction *action = m_exportMenu->addAction(text);
         connect(action, &QAction::triggered, this,
@@ -177,6 +183,14 @@ QWidget *ColorListView::buildFooter()
     connect(exportButton, &QAbstractButton::clicked, this, [this, exportButton] {
         // popup(), not exec(): the save dialog an entry opens must not run inside a nested loop.
         m_exportMenu->popup(exportButton->mapToGlobal(QPoint(0, exportButton->height())));
+        // Opened from the keyboard, the first entry that can run is selected.
+        if (exportButton->showsFocusRing()) {
+            const QList<QAction *> actions = m_exportMenu->actions();
+            const auto first = std::find_if(actions.cbegin(), actions.cend(),
+                [](const QAction *action) { return action->isEnabled() && !action->isSeparator(); });
+            if (first != actions.cend())
+                m_exportMenu->setActiveAction(*first);
+        }
     });
     row->addWidget(exportButton);
     row->addStretch(1);
@@ -216,7 +230,9 @@ QWidget *ColorListView::buildSectionHeader(const QString &title, const QString &
     holder->setObjectName(objectName);
     auto *layout = new QHBoxLayout(holder);
     layout->setContentsMargins(16, 8, 16, 4);
-    layout->addWidget(new ElidedLabel(title, Theme::font(10, QFont::DemiBold), &Theme::tertiaryText, holder));
+    auto *heading = new ElidedLabel(title, Theme::font(10, QFont::DemiBold), &Theme::tertiaryText, holder);
+    heading->setObjectName(QStringLiteral("sectionHeading"));
+    layout->addWidget(heading);
     return holder;
 }
 
@@ -228,7 +244,9 @@ ColorRowView *ColorListView::buildRow(const PickedColor &color, ColorFormat form
         [&model, color] { model.togglePin(color); },
         [&model, color](const QString &name) { model.renameColor(color, name); },
         [&model, color] { model.deleteColor(color); });
-    connect(row, &ColorRowView::activated, this, [this, color] { openColor(color); });
+    connect(row, &ColorRowView::activated, this, [this, row, color] {
+        openColor(color, row->showsFocusRing() ? Qt::ShortcutFocusReason : Qt::OtherFocusReason);
+    });
     connect(row, &ColorRowView::renameRequested, this, [this, color] { openRenameSheet(color); });
     row->installEventFilter(this);
     return row;
@@ -268,6 +286,8 @@ void ColorListView::rebuildColors()
 
     const ColorFormat format = SettingsViewModel::currentFormat(m_store);
     auto *content = new QWidget;
+    content->setObjectName(QStringLiteral("colorList"));
+    content->setAccessibleName(tr("Colors"));
     content->setAutoFillBackground(false);
     auto *stack = new QVBoxLayout(content);
     stack->setContentsMargins(0, 4, 0, 4);
@@ -289,7 +309,12 @@ void ColorListView::rebuildColors()
     m_scroll->setWidget(content);
     fitListHeight();
 
+    // Tab goes from "Pick Color" through the colours to the footer, in the order shown; the
+    // rows, made after the footer, would come last otherwise.
+    QWidget *previous = m_pickButton;
     for (ColorRowView *row : std::as_const(m_rows)) {
+        setTabOrder(previous, row);
+        previous = row;
         if (focusedId && row->color().id == *focusedId)
             row->setFocus(Qt::OtherFocusReason);
     }
@@ -326,10 +351,12 @@ void ColorListView::updatePicking()
 {
     const bool isPicking = m_viewModel.isPicking();
     m_pickButton->setText(isPicking ? tr("Picking…") : tr("Pick Color"));
+    // The name stays "Pick Color"; what it is doing now is its description.
+    m_pickButton->setAccessibleDescription(isPicking ? tr("Picking…") : QString());
     m_pickButton->setEnabled(!isPicking);
 }
 
-void ColorListView::openColor(const PickedColor &color)
+void ColorListView::openColor(const PickedColor &color, Qt::FocusReason reason)
 {
     m_viewModel.copyColor(color);
     if (m_detail) {
@@ -345,7 +372,8 @@ void ColorListView::openColor(const PickedColor &color)
     m_listScreen->hide();
     layout()->addWidget(m_detail);
     m_detail->show();
-    m_detail->setFocus(Qt::OtherFocusReason);
+    // On the first format line, the one a person most likely came to copy.
+    m_detail->line(allColorFormats.front())->setFocus(reason);
     fadeIn(m_detail);
 }
 
@@ -353,6 +381,9 @@ void ColorListView::closeDetail()
 {
     if (!m_detail)
         return;
+    // Left from the keyboard (Escape, or Back reached with Tab), the row shows its focus ring.
+    const auto *focused = qobject_cast<PaintedButton *>(QApplication::focusWidget());
+    const bool byKeyboard = focused ? focused->showsFocusRing() : m_detail->hasFocus();
     // Called from the detail screen's own button: delete it once that click is handled.
     m_detail->hide();
     m_detail->deleteLater();
@@ -360,13 +391,19 @@ void ColorListView::closeDetail()
     const std::optional<PickedColor> closed = std::exchange(m_selectedColor, std::nullopt);
     m_listScreen->show();
     fadeIn(m_listScreen);
+    refocusRow(closed ? closed->id : QUuid(), byKeyboard ? Qt::ShortcutFocusReason : Qt::OtherFocusReason);
+}
+
+void ColorListView::refocusRow(const QUuid &id, Qt::FocusReason reason)
+{
     for (ColorRowView *row : std::as_const(m_rows)) {
-        if (closed && row->color().id == closed->id) {
-            row->setFocus(Qt::OtherFocusReason);
+        if (!id.isNull() && row->color().id == id) {
+            row->setFocus(reason);
+            m_scroll->ensureWidgetVisible(row, 0, 4);
             return;
         }
     }
-    m_pickButton->setFocus(Qt::OtherFocusReason);
+    m_pickButton->setFocus(reason);
 }
 
 RenameColorSheet *ColorListView::openRenameSheet(const PickedColor &color)
@@ -393,19 +430,14 @@ void ColorListView::closeRenameSheet()
     if (!m_renameSheet)
         return;
     const QUuid renamed = m_renameSheet->color().id;
+    const bool byKeyboard = m_renameSheet->closedByKeyboard();
     // Called from the sheet's own button or key: delete it once that event is handled.
     m_renameSheet->hide();
     m_renameSheet->deleteLater();
     m_renameSheet = nullptr;
     m_listScreen->show();
     fadeIn(m_listScreen);
-    for (ColorRowView *row : std::as_const(m_rows)) {
-        if (row->color().id == renamed) {
-            row->setFocus(Qt::OtherFocusReason);
-            m_scroll->ensureWidgetVisible(row, 0, 4);
-            return;
-        }
-    }
+    refocusRow(renamed, byKeyboard ? Qt::ShortcutFocusReason : Qt::OtherFocusReason);
 }
 
 void ColorListView::fadeIn(QWidget *screen)
@@ -439,6 +471,15 @@ void ColorListView::moveRowFocus(ColorRowView *from, int step)
     ColorRowView *to = m_rows[index];
     to->setFocus(Qt::TabFocusReason);
     m_scroll->ensureWidgetVisible(to, 0, 4);
+}
+
+void ColorListView::focusInEvent(QFocusEvent *event)
+{
+    QWidget::focusInEvent(event);
+    // The popup gives its focus to the view: it opens with the focus on "Pick Color". (Not a
+    // focus proxy: Tab would then go on to the pick button even while another screen shows.)
+    if (m_listScreen->isVisible())
+        m_pickButton->setFocus(event->reason());
 }
 
 bool ColorListView::eventFilter(QObject *watched, QEvent *event)

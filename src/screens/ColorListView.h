@@ -49,7 +49,7 @@ public:
     QMenu *exportMenu() const { return m_exportMenu; }
 
     // What a click on a row does: copy in the preferred format, then open the detail screen.
-    void openColor(const PickedColor &color);
+    void openColor(const PickedColor &color, Qt::FocusReason reason = Qt::OtherFocusReason);
     // Back to the list, as the detail screen's "Back" does.
     void closeDetail();
     // The rename sheet of a row's "Rename…", in place of the list until it is saved or
@@ -62,6 +62,7 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     QWidget *buildHeader();
@@ -75,6 +76,9 @@ private:
     void updatePicking();
     void fadeIn(QWidget *screen);
     void closeRenameSheet();
+    // Where the keyboard focus goes back to after a screen closes: the row it was opened
+    // from, else the pick button.
+    void refocusRow(const QUuid &id, Qt::FocusReason reason);
     void moveRowFocus(ColorRowView *from, int step);
 
     ColorListViewModel &m_viewModel;

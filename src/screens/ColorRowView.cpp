@@ -81,6 +81,8 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
 {
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    // Never shown on screen: what a screen reader calls the menu.
+    menu->setWindowTitle(accessibleName());
     // Each action carries its own copy of the callback: the list may rebuild (and delete this
     // row) as a result of the action.
     connect(menu->addAction(tr("Copy")), &QAction::triggered, menu, [onCopy = m_onCopy] {
@@ -128,15 +130,16 @@ void ColorRowView::paintEvent(QPaintEvent *)
 
 void ColorRowView::enterEvent(QEnterEvent *event)
 {
+    // The focus follows the pointer once it moves (mouseMoveEvent): the popup opening under a
+    // resting pointer keeps its focus where it starts.
     m_isHovered = true;
-    setFocus(Qt::MouseFocusReason);
     update();
     QWidget::enterEvent(event);
 }
 
 void ColorRowView::mouseMoveEvent(QMouseEvent *event)
 {
-    // The pointer moving again over a row the keyboard has left takes the highlight back.
+    // The pointer moving over a row takes the highlight, also back from the keyboard.
     if (!hasFocus()) {
         setFocus(Qt::MouseFocusReason);
         update();
@@ -178,6 +181,13 @@ void ColorRowView::mouseReleaseEvent(QMouseEvent *event)
 
 void ColorRowView::keyPressEvent(QKeyEvent *event)
 {
+    // Shift+F10 is the menu key of keyboards without one; the menu key itself arrives as a
+    // context menu event.
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        event->accept();
+        showMenuFromKeyboard();
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -192,10 +202,18 @@ void ColorRowView::keyPressEvent(QKeyEvent *event)
 
 void ColorRowView::contextMenuEvent(QContextMenuEvent *event)
 {
-    const QPoint at = event->reason() == QContextMenuEvent::Mouse ? event->globalPos()
-                                                                  : mapToGlobal(QPoint(24, height() / 2));
-    showContextMenu(at);
+    if (event->reason() == QContextMenuEvent::Mouse)
+        showContextMenu(event->globalPos());
+    else
+        showMenuFromKeyboard();
     event->accept();
+}
+
+void ColorRowView::showMenuFromKeyboard()
+{
+    // Beside the swatch, with its first entry selected, so the keyboard goes on from there.
+    QMenu *menu = showContextMenu(mapToGlobal(QPoint(24, height() / 2)));
+    menu->setActiveAction(menu->actions().constFirst());
 }
 
 void ColorRowView::focusInEvent(QFocusEvent *event)

@@ -25,6 +25,8 @@ public:
     // the keyboard focus along, so only one row ever looks selected.
     bool isHovered() const { return m_isHovered && hasFocus(); }
     QString valueText() const;
+    // Focus reached by the keyboard: what the row opens continues on the keyboard.
+    bool showsFocusRing() const { return hasFocus() && m_focusFromKeyboard; }
 
     // The context menu, shown at a global position; it deletes itself when closed.
     QMenu *showContextMenu(const QPoint &globalPosition);
@@ -45,6 +47,8 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void showMenuFromKeyboard();
+
     PickedColor m_color;
     ColorFormat m_format;
     std::function<void()> m_onCopy;

@@ -35,7 +35,10 @@ ContrastBadge::ContrastBadge(
         this);
     row->addWidget(m_levelCapsule, 0, Qt::AlignVCenter);
 
-    setAccessibleName(label + QLatin1Char(' ') + ratio + QLatin1Char(' ') + level);
+    // "4.5:1" is read "4.5 to 1", as one says a ratio.
+    QString spokenRatio = ratio;
+    spokenRatio.replace(QLatin1Char(':'), tr(" to "));
+    setAccessibleName(label + QStringLiteral(", ") + spokenRatio + QStringLiteral(", ") + level);
 }
 
 QColor ContrastBadge::levelColor() const

@@ -47,8 +47,9 @@ FormatLine::FormatLine(ColorFormat format, const QString &value, QWidget *parent
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     texts->addWidget(m_valueLabel);
 
-    setAccessibleName(tr("Copy %1").arg(rawValue(format)));
-    setAccessibleDescription(value);
+    // Read as shown: the format, then its text; what a press does is the description.
+    setAccessibleName(rawValue(format) + QStringLiteral(", ") + value);
+    setAccessibleDescription(tr("Copy"));
     setToolTip(value);
 }
 

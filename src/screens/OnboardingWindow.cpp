@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/OnboardingWindow.h"
 
-#include "screens/AccessibleSettingsWidgets.h"
 #include "screens/OnboardingView.h"
 
 #include <QCloseEvent>
@@ -18,7 +17,6 @@ OnboardingWindow::OnboardingWindow(
     , m_view(new OnboardingView(store, std::move(onComplete), this))
     , m_closeButton(new QToolButton(this))
 {
-    installAccessibleSettingsWidgets();
     // The view paints its own rounded background; the corners stay see-through.
     setAttribute(Qt::WA_TranslucentBackground);
     setWindowTitle(tr("Welcome to vantle"));

@@ -36,15 +36,15 @@ void PaintedButton::focusOutEvent(QFocusEvent *event)
 
 void PaintedButton::enterEvent(QEnterEvent *event)
 {
-    if (takesFocusFromPointer())
-        setFocus(Qt::MouseFocusReason);
+    // The focus follows the pointer once it moves (mouseMoveEvent): a window opening under a
+    // resting pointer keeps its focus where it starts.
     update();
     QAbstractButton::enterEvent(event);
 }
 
 void PaintedButton::mouseMoveEvent(QMouseEvent *event)
 {
-    // The pointer moving again over a button the keyboard has left takes the highlight back.
+    // The pointer moving over a button takes the highlight, also back from the keyboard.
     if (takesFocusFromPointer() && !hasFocus()) {
         setFocus(Qt::MouseFocusReason);
         update();

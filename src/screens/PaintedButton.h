@@ -11,14 +11,14 @@ class PaintedButton : public QAbstractButton {
 public:
     explicit PaintedButton(QWidget *parent = nullptr);
 
+    // Focus reached by the keyboard, not by the pointer, the window opening or a click.
+    bool showsFocusRing() const { return hasFocus() && m_focusFromKeyboard; }
+
 protected:
     // One highlight at a time, following what the person used last: the pointer takes the
     // keyboard focus along to the button it enters, and a button the keyboard has since left
     // shows no hover look even with the pointer resting on it.
     bool isHovered() const { return underMouse() && (hasFocus() || !takesFocusFromPointer()); }
-    // Focus reached by the keyboard, not by the pointer, the window opening or a click.
-    bool showsFocusRing() const { return hasFocus() && m_focusFromKeyboard; }
-
     void keyPressEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;

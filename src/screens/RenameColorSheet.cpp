@@ -42,6 +42,7 @@ RenameColorSheet::RenameColorSheet(
 
     m_field = new QLineEdit(color.name.value_or(QString()), this);
     m_field->setPlaceholderText(tr("Color name (optional)"));
+    m_field->setAccessibleName(tr("Color name"));
     m_field->setFixedWidth(240);
     m_field->setFont(Theme::font(13));
     stack->addWidget(m_field, 0, Qt::AlignHCenter);
@@ -62,9 +63,18 @@ RenameColorSheet::RenameColorSheet(
     stack->addLayout(buttons);
     stack->setAlignment(buttons, Qt::AlignHCenter);
 
-    connect(m_cancel, &QPushButton::clicked, this, &RenameColorSheet::finished);
-    connect(m_save, &QPushButton::clicked, this, &RenameColorSheet::save);
-    connect(m_field, &QLineEdit::returnPressed, this, &RenameColorSheet::save);
+    connect(m_cancel, &QPushButton::clicked, this, [this] {
+        m_closedByKeyboard = !m_cancel->underMouse();
+        Q_EMIT finished();
+    });
+    connect(m_save, &QPushButton::clicked, this, [this] {
+        m_closedByKeyboard = !m_save->underMouse();
+        save();
+    });
+    connect(m_field, &QLineEdit::returnPressed, this, [this] {
+        m_closedByKeyboard = true;
+        save();
+    });
     setFocusProxy(m_field);
 }
 
@@ -82,6 +92,7 @@ void RenameColorSheet::keyPressEvent(QKeyEvent *event)
     // Escape cancels the sheet only: the popup around it stays open.
     if (event->key() == Qt::Key_Escape) {
         event->accept();
+        m_closedByKeyboard = true;
         Q_EMIT finished();
         return;
     }

@@ -23,6 +23,8 @@ public:
     QLineEdit *nameField() const { return m_field; }
     QPushButton *saveButton() const { return m_save; }
     QPushButton *cancelButton() const { return m_cancel; }
+    // Closed by a key (Escape, Return, a button pressed from the keyboard), not the pointer.
+    bool closedByKeyboard() const { return m_closedByKeyboard; }
 
 Q_SIGNALS:
     void finished();
@@ -38,4 +40,5 @@ private:
     QLineEdit *m_field;
     QPushButton *m_save;
     QPushButton *m_cancel;
+    bool m_closedByKeyboard = false;
 };

@@ -2,7 +2,6 @@
 #include "screens/SettingsWindow.h"
 
 #include "history/ColorListViewModel.h"
-#include "screens/AccessibleSettingsWidgets.h"
 #include "screens/SettingsView.h"
 
 #include <QCursor>
@@ -34,7 +33,6 @@ void SettingsWindow::open()
         return;
     }
 
-    installAccessibleSettingsWidgets();
     // A closed window is only hidden; it is replaced here, so the new one starts afresh.
     m_view = std::make_unique<SettingsView>(
         m_store, m_hotkeyManager, m_loginItems, m_updaterController, m_viewModel);

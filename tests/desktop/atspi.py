@@ -34,9 +34,11 @@ def describe(acc):
 
 
 class Session:
-    def __init__(self, args=(), settings=None, env=None):
+    def __init__(self, args=(), settings=None, env=None, files=None):
+        """files: {path under the config folder Vantle/: text}, e.g. a seeded history."""
         self.args = list(args)
         self.settings = settings or {}
+        self.files = files or {}
         self.extra_env = env or {}
         self.failures = []
         self.procs = []
@@ -59,6 +61,9 @@ class Session:
                 conf.write("[General]\n")
                 for key, value in self.settings.items():
                     conf.write(f"{key}={value}\n")
+        for name, text in self.files.items():
+            with open(f"{self.home}/config/Vantle/{name}", "w") as seeded:
+                seeded.write(text)
         env.update(self.extra_env)
         self.env = env
         self.procs.append(subprocess.Popen([BUS_LAUNCHER, "--launch-immediately"], env=env,
@@ -153,13 +158,18 @@ class Session:
         return found[0] if found else None
 
     def focused(self):
+        """The focused object. While a menu is open the widget it opened from still reads as
+        focused (Qt keeps it as the window's focus), but the keys go to the menu's entry."""
+        found = None
         for acc in self.walk():
             try:
                 if acc.getState().contains(pyatspi.STATE_FOCUSED):
-                    return acc
+                    if acc.getRole() == pyatspi.ROLE_MENU_ITEM:
+                        return acc
+                    found = found or acc
             except Exception:
                 continue
-        return None
+        return found
 
     def focused_name(self):
         acc = self.focused()

@@ -5,6 +5,7 @@
 #include "platform/x11/SamplerLoupe.h"
 #include "platform/x11/X11LoupeWindow.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
@@ -20,6 +21,9 @@ constexpr int grabRetryMilliseconds = 25;
 // While the pointer rests the loupe still follows what the screen shows, 20 times a second:
 // one GetImage of a few KiB each time, and a redraw only when a pixel changed.
 constexpr int liveRefreshMilliseconds = 50;
+// A screen reader hears the value under the pointer at most this often: each value it starts
+// saying cuts off the one before, so faster would say nothing whole while the pointer moves.
+constexpr int spokenValueMilliseconds = 350;
 constexpr uint16_t crosshairGlyph = 34; // XC_crosshair in the standard cursor font
 
 // Pixels X gives us for a ZPixmap of the root: 32 bits a pixel with the channels in the
@@ -71,6 +75,9 @@ X11ScreenSampler::X11ScreenSampler(xcb_connection_t *connection)
     });
     m_liveRefresh.setInterval(liveRefreshMilliseconds);
     connect(&m_liveRefresh, &QTimer::timeout, this, &X11ScreenSampler::refreshLive);
+    m_spokenRefresh.setInterval(spokenValueMilliseconds);
+    m_spokenRefresh.setSingleShot(true);
+    connect(&m_spokenRefresh, &QTimer::timeout, this, &X11ScreenSampler::publishSpokenValue);
 }
 
 X11ScreenSampler::~X11ScreenSampler()
@@ -85,6 +92,7 @@ X11ScreenSampler::~X11ScreenSampler()
     }
     if (m_symbols)
         xcb_key_symbols_free(m_symbols);
+    delete m_spokenValue.data();
 }
 
 xcb_window_t X11ScreenSampler::loupeWindow() const
@@ -283,6 +291,8 @@ void X11ScreenSampler::redrawLoupe()
     const QRect square(m_hotspot - QPoint(across / 2, across / 2), QSize(across, across));
     const QImage patch = readScreen(square);
     const auto rgb = SamplerGeometry::sampleAt(patch, square.topLeft(), m_hotspot);
+    if (rgb)
+        speak(formatColor(rgb->red, rgb->green, rgb->blue, 1, m_format));
     QString text;
     if (m_isLabelReady) {
         text = rgb ? formatColor(rgb->red, rgb->green, rgb->blue, 1, m_format) : QString();
@@ -307,6 +317,47 @@ void X11ScreenSampler::redrawLoupe()
     m_patch = patch;
     m_patchRect = square;
     m_loupeWindow->show(image, place);
+}
+
+void X11ScreenSampler::speak(const QString &value)
+{
+    if (!QAccessible::isActive() && !m_spokenValue)
+        return;
+    m_unspokenValue = value;
+    // The first value and the last one at once, those between at most every interval: the
+    // value where the pointer comes to rest is always heard.
+    if (!m_spokenRefresh.isActive() || value.isEmpty())
+        publishSpokenValue();
+}
+
+void X11ScreenSampler::publishSpokenValue()
+{
+    if (!m_spokenValue) {
+        // The loupe draws on a window of its own, not a Qt one: what a screen reader reads of
+        // it is this object of the application, a notification named by the loupe's value.
+        m_spokenValue = new QObject(QCoreApplication::instance());
+        m_spokenValue->setObjectName(QStringLiteral("loupeValue"));
+    }
+    if (!m_unspokenValue)
+        return; // nothing new since the last one
+    const QString value = *std::exchange(m_unspokenValue, std::nullopt);
+    if (value.isEmpty()) {
+        m_spokenRefresh.stop();
+        if (m_spokenValue->property("text").toString().isEmpty())
+            return;
+        QAccessibleEvent hidden(m_spokenValue, QAccessible::ObjectHide);
+        QAccessible::updateAccessibility(&hidden);
+        m_spokenValue->setProperty("text", QString());
+        return;
+    }
+    if (value == m_spokenValue->property("text").toString())
+        return;
+    m_spokenValue->setProperty("text", value);
+    QAccessibleEvent named(m_spokenValue, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&named);
+    QAccessibleEvent shown(m_spokenValue, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
+    m_spokenRefresh.start();
 }
 
 void X11ScreenSampler::refreshLive()
@@ -404,6 +455,7 @@ void X11ScreenSampler::finish(std::optional<SampledColor> result)
     m_isPicking = false;
     m_grabRetry.stop();
     m_liveRefresh.stop();
+    speak(QString()); // the loupe is gone: its value leaves the screen reader's tree
     QCoreApplication::instance()->removeNativeEventFilter(this);
     if (m_hasGrab) {
         xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);

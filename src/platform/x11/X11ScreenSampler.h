@@ -8,8 +8,10 @@
 #include <QImage>
 #include <QObject>
 #include <QPoint>
+#include <QPointer>
 #include <QTimer>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <xcb/xcb.h>
@@ -51,6 +53,9 @@ private:
     void scheduleRedraw();
     void redrawLoupe();
     void refreshLive();
+    // What a screen reader hears of the loupe: its value text, an empty one once it closes.
+    void speak(const QString &value);
+    void publishSpokenValue();
     QImage readScreen(const QRect &device) const;
     std::optional<SampledColor> colorAt(const QPoint &device) const;
     void handleButton(const xcb_button_press_event_t *event, bool isPress);
@@ -79,6 +84,9 @@ private:
     bool m_isLabelReady = false; // the label's fonts are loaded
     bool m_isLabelPending = false;
     QTimer m_liveRefresh;
+    QPointer<QObject> m_spokenValue; // made on the first pick a screen reader follows
+    std::optional<QString> m_unspokenValue; // not yet published
+    QTimer m_spokenRefresh;
     // A pick decided on a button press ends on its release, so the release stays ours too.
     std::optional<SampledColor> m_pressedResult;
     quint8 m_pressedButton = 0;

@@ -1,0 +1,121 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The popup as a screen reader reads it: the pick button, the section headings and the colour
+rows named by name, value and pin; Tab and the arrows through them; a row's menu from the Menu
+key and Shift+F10; the rename sheet; the export menu; Escape going back one level at a time and
+closing the popup last."""
+import json
+import os
+import subprocess
+import sys
+import time
+
+sys.path.insert(0, os.path.join(os.environ.get("VANTLE_TESTS_DIR", "tests"), "desktop"))
+import pyatspi  # noqa: E402
+from atspi import Session  # noqa: E402
+
+
+def record(uuid, hex_text, timestamp, pinned, name=None):
+    red, green, blue = (int(hex_text[i:i + 2], 16) / 255 for i in (1, 3, 5))
+    return {"id": uuid, "red": red, "green": green, "blue": blue, "alpha": 1, "timestamp": timestamp,
+            "isPinned": pinned, "name": name}
+
+
+HISTORY = [
+    record("6f1c1a52-0d57-4f0e-9a7e-2b1d3c4e5f60", "#FF6B36", 700000000, True, "Sunset"),
+    record("0b9e2f13-5a44-4c1d-8e2f-9a8b7c6d5e41", "#3366CC", 700000200, False),
+    record("8d2a4b35-6c77-4e8f-a1b2-c3d4e5f60718", "#2E8B57", 700000100, True),
+]
+SUNSET = "Sunset, #FF6B36, pinned"
+ROWS = [SUNSET, "#2E8B57, pinned", "#3366CC"]  # as shown: pinned first, then the recent ones
+
+TREE = [  # what the open popup shows
+    ("push button", "Pick Color"),
+    ("heading", "PINNED"),
+    ("heading", "RECENT"),
+    *[("list item", row) for row in ROWS],
+    ("label", "3"),
+    ("push button", "Settings"),
+    ("push button", "Export colors"),
+    ("push button", "Quit vantle"),
+]
+TAB_ORDER = [  # from Pick Color on, what each Tab press reaches
+    *[("list item", row) for row in ROWS],
+    ("push button", "Settings"),
+    ("push button", "Export colors"),
+    ("push button", "Quit vantle"),
+]
+ROW_MENU = ["Copy", "Unpin", "Rename…", "Delete"]  # Sunset's menu
+MENU_KEYS = ["Menu", "shift+F10"]  # both open a row's menu on its first entry
+
+
+with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": json.dumps(HISTORY)}) as s:
+    time.sleep(2)
+    # The pointer rests where the rows will show: the popup opening under it keeps its focus.
+    width = subprocess.run(["xdotool", "getdisplaygeometry"], capture_output=True, text=True).stdout.split()[0]
+    subprocess.run(["xdotool", "mousemove", str(int(width) - 150), "190"], check=True)
+    s.key("alt+shift+x")
+    s.wait(lambda: s.find(role="push button", name="Pick Color"), 10)
+    s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color")
+    s.expect_tree("popup", TREE)
+    badge = s.find(role="label", name="3")
+    s.check("the count says what it counts", badge is not None and badge.description == "colors")
+    sunset = s.find(role="list item", name=SUNSET)
+    s.check("a row opens and offers its menu",
+            sunset is not None and s.actions(sunset) == ["Press", "ShowMenu"],
+            str(s.actions(sunset) if sunset else None))
+    for role, name in TAB_ORDER:
+        s.key("Tab")
+        s.expect_focus(f"Tab reaches {role} '{name}'", role=role, name=name)
+    s.key("shift+Tab", "shift+Tab", "shift+Tab")
+    s.expect_focus("Shift+Tab back to the last row", role="list item", name=ROWS[-1])
+    s.key("Up", "Up")
+    s.expect_focus("Up to the first row", role="list item", name=ROWS[0])
+    s.check("one highlight: only one thing reads as focused",
+            len([a for a in s.walk() if a.getState().contains(pyatspi.STATE_FOCUSED)]) == 1)
+
+    # The row's menu, from either key; Escape goes back to the row.
+    for key in MENU_KEYS:
+        s.key(key)
+        s.expect_focus(f"{key} opens the menu on its first entry", role="menu item", name=ROW_MENU[0])
+        menu = s.find(role="menu", name=SUNSET) or s.find(role="popup menu", name=SUNSET)
+        s.check(f"{key}: the menu is named by the row", menu is not None, s.dump())
+        s.expect_tree(f"{key} menu", [("menu item", item) for item in ROW_MENU])
+        s.key("Escape")
+        s.expect_focus(f"Escape from the {key} menu back to the row", role="list item", name=SUNSET)
+
+    # Rename…: a sheet with its named field; Escape back to the row.
+    s.key("Menu", "Down", "Down", "Return")
+    s.expect_focus("Rename… focuses the name field", role="text", name="Color name")
+    s.expect_tree("rename sheet", [("dialog", "Rename Color"), ("push button", "Cancel"), ("push button", "Save")])
+    s.key("Escape")
+    s.expect_focus("Escape from the sheet back to the row", role="list item", name=SUNSET)
+
+    # Export: a named menu on the first entry that can run; Escape back to the button.
+    s.key("shift+Tab")
+    s.expect_focus("Shift+Tab from the first row to Pick Color", role="push button", name="Pick Color")
+    s.key("shift+Tab", "shift+Tab")
+    s.expect_focus("Shift+Tab around to Export", role="push button", name="Export colors")
+    s.key("space")
+    s.expect_focus("the export menu opens on its first entry", role="menu item", name="Export Pinned as Text")
+    s.expect_tree("export menu", [("menu item", "Export All as JSON")])
+    s.key("Escape")
+    s.expect_focus("Escape from the menu back to Export", role="push button", name="Export colors")
+
+    # Escape on the list closes the popup, the last level.
+    s.key("Escape")
+    s.check("Escape closes the popup last",
+            bool(s.wait(lambda: s.find(role="push button", name="Pick Color") is None, 3)), s.dump())
+
+    # A pick from the keyboard: the loupe's value is heard as the pointer moves; Escape ends it.
+    s.key("alt+shift+x")
+    s.expect_focus("the popup opens again on Pick Color", role="push button", name="Pick Color")
+    s.key("Return")
+    time.sleep(0.5)
+    for x, y in [(200, 300), (400, 500)]:
+        subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
+        s.check(f"the loupe's value at {x},{y} is heard",
+                s.wait(lambda: s.find(role="notification", prefix="#"), 2) is not None, s.dump())
+    s.key("Escape")
+    s.check("the loupe's value goes with the loupe",
+            bool(s.wait(lambda: s.find(role="notification", prefix="#") is None, 2)), s.dump())
+    s.finish()

@@ -30,14 +30,6 @@
 
 namespace {
 
-QLabel *symbolLabel(const QString &symbol, int size, const QColor &color, QWidget *parent)
-{
-    auto *label = new QLabel(parent);
-    label->setPixmap(Symbols::pixmap(symbol, size, color, parent->devicePixelRatioF()));
-    label->setFixedSize(size, size);
-    return label;
-}
-
 SymbolButton *footerButton(const QString &symbol, int symbolSize, const QString &name, QWidget *parent)
 {
     SymbolButton::Style style;
@@ -111,7 +103,7 @@ QWidget *ColorListView::buildHeader()
     auto *row = new QHBoxLayout(header);
     row->setContentsMargins(14, 10, 14, 10);
     row->setSpacing(8);
-    row->addWidget(symbolLabel(QStringLiteral("eyedropper"), 13, Theme::orange(palette()), header));
+    row->addWidget(new SymbolLabel(QStringLiteral("eyedropper"), 13, &Theme::orange, header));
     auto *title = new QLabel(QStringLiteral("vantle"), header);
     title->setFont(Theme::font(13, QFont::Bold));
     row->addWidget(title);
@@ -212,8 +204,8 @@ QWidget *ColorListView::buildEmptyState()
     auto *stack = new QVBoxLayout(empty);
     stack->setContentsMargins(16, 36, 16, 36);
     stack->setSpacing(8);
-    stack->addWidget(symbolLabel(QStringLiteral("eyedropper"), 32, Theme::tertiaryText(palette()), empty), 0,
-        Qt::AlignHCenter);
+    stack->addWidget(
+        new SymbolLabel(QStringLiteral("eyedropper"), 32, &Theme::tertiaryText, empty), 0, Qt::AlignHCenter);
     auto *title = new ElidedLabel(tr("No colors yet"), Theme::font(13), &Theme::secondaryText, empty);
     title->setAlignment(Qt::AlignCenter);
     stack->addWidget(title);

@@ -9,7 +9,6 @@
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -51,12 +50,8 @@ ColorRowView::ColorRowView(const PickedColor &color, ColorFormat format, std::fu
     row->addLayout(texts, 1);
 
     if (color.isPinned) {
-        auto *pin = new QLabel(this);
-        pin->setObjectName(QStringLiteral("pinMark"));
-        pin->setPixmap(Symbols::pixmap(
-            QStringLiteral("pin.fill"), 9, Theme::secondaryText(palette()), devicePixelRatioF()));
-        pin->setFixedSize(9, 9);
-        row->addWidget(pin, 0, Qt::AlignVCenter);
+        row->addWidget(
+            new SymbolLabel(QStringLiteral("pin.fill"), 9, &Theme::secondaryText, this), 0, Qt::AlignVCenter);
     }
 
     // Moves over the swatch and texts reach the row only when they track the pointer too: a

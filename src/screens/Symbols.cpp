@@ -61,3 +61,18 @@ QIcon icon(const QString &name, int size, const QColor &color)
 }
 
 } // namespace Symbols
+
+SymbolLabel::SymbolLabel(const QString &symbol, int size, ColorRole color, QWidget *parent)
+    : QWidget(parent)
+    , m_symbol(symbol)
+    , m_color(color)
+{
+    setFixedSize(size, size);
+}
+
+void SymbolLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    Symbols::paint(painter, rect(), m_symbol, m_color(palette()));
+}

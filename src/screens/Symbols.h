@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QRectF>
 #include <QString>
+#include <QWidget>
 
 class QPainter;
 
@@ -26,3 +27,21 @@ QIcon icon(const QString &name, int size, const QColor &color);
 bool exists(const QString &name);
 
 } // namespace Symbols
+
+// A symbol shown on its own, `size` logical pixels square, tinted by a function of the palette:
+// painted afresh each time, so it follows a switch between light and dark, higher contrast and
+// a move to a screen of another scale.
+class SymbolLabel : public QWidget {
+    Q_OBJECT
+public:
+    using ColorRole = QColor (*)(const QPalette &);
+
+    SymbolLabel(const QString &symbol, int size, ColorRole color, QWidget *parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_symbol;
+    ColorRole m_color;
+};

@@ -2,7 +2,6 @@
 // The launch sequence and the reactions of the tray program, with the desktop's facilities
 // played by fakes (offscreen: no tray host, so the delegate stays in its waiting state).
 #include "app/AppDelegate.h"
-#include "../hotkeys/FakeShortcutBackend.h"
 #include "app/PopupWindow.h"
 #include "history/ColorListViewModel.h"
 #include "platform/network/QtUpdateNetwork.h"
@@ -14,7 +13,7 @@
 #include "services/PreferenceKeys.h"
 #include "services/Preferences.h"
 #include "services/XdgAutostartService.h"
-#include "support/HistoryFakes.h"
+#include "support/Fakes.h"
 #include "support/TempSettings.h"
 
 #include <QTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hotkeys/HotkeyManager.h"
 
-#include "FakeShortcutBackend.h"
+#include "support/Fakes.h"
 #include "services/PreferenceKeys.h"
 #include "support/TempSettings.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/OnboardingView.h"
-#include "ManualAnimationDriver.h"
+#include "support/ManualAnimationDriver.h"
 #include "screens/OnboardingWindow.h"
 #include "services/PreferenceKeys.h"
 #include "support/TempSettings.h"

@@ -75,21 +75,11 @@ TEST(CopyHudGeometry, CentredOnTheUsableAreaAHundredPixelsAboveItsMiddle)
             testing::Message() << c.available.x() << "," << c.available.y() << " " << c.size.width());
         EXPECT_EQ(CopyHud::capsulePosition(c.available, c.size), c.expected);
     }
-}
-
-TEST(CopyHudGeometry, WidthFollowsTheTextHeightStays)
-{
-    const QString longText
-        = QStringLiteral("Copied UIColor(red: 1.00, green: 0.42, blue: 0.21, alpha: 1.00)");
+    // The capsule grows with its text, never in height.
     const QSize shortSize = CopyHud::capsuleSize(sampleMessage);
-    const QSize longSize = CopyHud::capsuleSize(longText);
-    EXPECT_EQ(shortSize.height(), 36);
-    EXPECT_EQ(longSize.height(), 36);
-    QFont font = QApplication::font();
-    font.setPixelSize(14);
-    font.setWeight(QFont::DemiBold);
-    const qreal advance = QFontMetricsF(font).horizontalAdvance(longText);
-    EXPECT_EQ(longSize.width(), int(std::ceil(advance + 48)));
+    const QSize longSize = CopyHud::capsuleSize(
+        QStringLiteral("Copied UIColor(red: 1.00, green: 0.42, blue: 0.21, alpha: 1.00)"));
+    EXPECT_EQ(longSize.height(), shortSize.height());
     EXPECT_GT(longSize.width(), shortSize.width() + 100);
 }
 
@@ -117,40 +107,26 @@ TEST_F(CopyHudTest, ShowsAboveTheMiddleFadesInAndIsGoneAfterItsTime)
     EXPECT_GE(shown.elapsed(), 1750);
 }
 
-TEST_F(CopyHudTest, ANewMessageReplacesTheOldOneAtOnce)
-{
-    hud.showHUD(QStringLiteral("Copied #000000"));
-    QPointer<QWidget> first = hud.currentWindow();
-    ASSERT_TRUE(first);
-    QTRY_COMPARE_WITH_TIMEOUT(first->windowOpacity(), 1.0, 10000);
-    const WId firstId = first->winId();
-
-    hud.showHUD(sampleMessage);
-    QPointer<QWidget> second = hud.currentWindow();
-    ASSERT_TRUE(second);
-    EXPECT_NE(second, first);
-    EXPECT_TRUE(!first || !first->isVisible()); // gone without a fade
-    EXPECT_TRUE(second->isVisible());
-    EXPECT_EQ(second->size(), CopyHud::capsuleSize(sampleMessage));
-    QTRY_VERIFY_WITH_TIMEOUT(!first, 10000);
-    if (onX11())
-        QTRY_VERIFY_WITH_TIMEOUT(!xGeometry(firstId).endsWith(u"IsViewable"), 10000);
-}
-
-TEST_F(CopyHudTest, AFadeOutUnderWayNeverEndsTheNextMessage)
+TEST_F(CopyHudTest, ANewMessageReplacesTheOldOneAtOnceEvenWhileItFades)
 {
     hud.showHUD(QStringLiteral("Copied #000000"));
     QPointer<QWidget> first = hud.currentWindow();
     QTRY_COMPARE_WITH_TIMEOUT(first->windowOpacity(), 1.0, 10000);
     QTRY_VERIFY_WITH_TIMEOUT(first && first->windowOpacity() < 0.9, 10000); // fading out now
+    const WId firstId = first->winId();
 
     QElapsedTimer shown;
     shown.start();
     hud.showHUD(sampleMessage);
     QPointer<QWidget> second = hud.currentWindow();
-    QTRY_VERIFY_WITH_TIMEOUT(!first, 10000);
+    ASSERT_TRUE(second);
+    EXPECT_NE(second, first);
+    EXPECT_TRUE(!first || !first->isVisible()); // gone without a fade
+    EXPECT_EQ(second->size(), CopyHud::capsuleSize(sampleMessage));
+    if (onX11())
+        QTRY_VERIFY_WITH_TIMEOUT(!xGeometry(firstId).endsWith(u"IsViewable"), 10000);
     QTRY_VERIFY_WITH_TIMEOUT(!second, 20000);
-    EXPECT_GE(shown.elapsed(), 1750); // the second lived its full time
+    EXPECT_GE(shown.elapsed(), 1750); // the old fade never ends the new message early
 }
 
 TEST_F(CopyHudTest, PaintsATranslucentDarkCapsuleWithWhiteText)
@@ -159,23 +135,15 @@ TEST_F(CopyHudTest, PaintsATranslucentDarkCapsuleWithWhiteText)
     QWidget *window = hud.currentWindow();
     ASSERT_TRUE(window);
     const QImage image = window->grab().toImage().convertToFormat(QImage::Format_ARGB32);
-    ASSERT_EQ(image.size(), window->size() * window->devicePixelRatio());
     const int h = image.height(), w = image.width();
-    // Inside the capsule, away from the text: black at 0.78.
-    const QColor body = image.pixelColor(h / 2, h / 2);
+    const QColor body = image.pixelColor(h / 2, h / 2); // inside the capsule, away from the text
     EXPECT_NEAR(body.alphaF(), 0.78, 0.02);
     EXPECT_EQ(body.red() + body.green() + body.blue(), 0);
-    // The corners outside the rounded ends hold at most the faint shadow.
-    for (const QPoint corner : { QPoint(0, 0), QPoint(w - 1, 0), QPoint(0, h - 1), QPoint(w - 1, h - 1) })
-        EXPECT_LT(image.pixelColor(corner).alphaF(), 0.31) << corner.x() << "," << corner.y();
-    // The bottom corners are darker than the top ones: the shadow falls 2 px down.
-    EXPECT_GT(image.pixelColor(0, h - 1).alphaF(), image.pixelColor(0, 0).alphaF());
-    // White text somewhere along the middle line.
+    EXPECT_LT(image.pixelColor(0, 0).alphaF(), 0.31) << "rounded ends: at most the faint shadow in a corner";
     int white = 0;
     for (int x = 0; x < w; ++x)
-        for (int y = h / 3; y < 2 * h / 3; ++y)
-            white += image.pixelColor(x, y).lightness() > 200 && image.pixelColor(x, y).alpha() == 255;
-    EXPECT_GT(white, 20);
+        white += image.pixelColor(x, h / 2).lightness() > 200 && image.pixelColor(x, h / 2).alpha() == 255;
+    EXPECT_GT(white, 5);
 }
 
 // Focus and clicks need a window manager and a real server.

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "services/DownloadFileName.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 TEST(DownloadFileName, NamesNeverLeaveTheDownloadFolder)
@@ -26,14 +24,4 @@ TEST(DownloadFileName, NamesNeverLeaveTheDownloadFolder)
             DownloadFileName::safeFileName(QUrl(QString::fromLatin1(c.url)), QStringLiteral("fallback")),
             QString::fromLatin1(c.expected))
             << c.url;
-}
-
-TEST(DownloadFileName, ATakenNameGetsANumber)
-{
-    QTemporaryDir dir;
-    const QString first = DownloadFileName::unusedPath(dir.path(), QStringLiteral("Vantle-2.0.tar.gz"));
-    EXPECT_EQ(first, dir.filePath(QStringLiteral("Vantle-2.0.tar.gz")));
-    QFile(first).open(QIODevice::WriteOnly);
-    EXPECT_EQ(DownloadFileName::unusedPath(dir.path(), QStringLiteral("Vantle-2.0.tar.gz")),
-        dir.filePath(QStringLiteral("Vantle-2.0.tar (2).gz")));
 }

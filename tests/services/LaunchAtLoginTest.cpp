@@ -16,6 +16,11 @@ struct Autostart {
     QTemporaryDir dir;
     QString entryPath = dir.filePath(QStringLiteral("autostart/vantle.desktop"));
     XdgAutostartService service { entryPath, QStringLiteral("/opt/My Apps/vantle \"$HOME\" 100%.AppImage") };
+    QByteArray entry() const
+    {
+        QFile file(entryPath);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
 };
 
 } // namespace
@@ -26,13 +31,10 @@ TEST(XdgAutostartService, EntryStartsTheProgramWithExecQuoting)
     EXPECT_FALSE(a.service.isEnabled());
     ASSERT_TRUE(a.service.registerItem());
     EXPECT_TRUE(a.service.isEnabled());
-    QFile entry(a.entryPath);
-    ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
-    const QByteArray text = entry.readAll();
     // Exec quoting escapes '"' and '$' with a backslash, the string escape doubles it again,
     // and a literal percent sign is doubled.
-    EXPECT_TRUE(text.contains(R"(Exec="/opt/My Apps/vantle \\"\\$HOME\\" 100%%.AppImage")"))
-        << text.constData();
+    EXPECT_TRUE(a.entry().contains(R"(Exec="/opt/My Apps/vantle \\"\\$HOME\\" 100%%.AppImage")"))
+        << a.entry().constData();
     EXPECT_TRUE(a.service.unregisterItem());
     EXPECT_FALSE(QFile::exists(a.entryPath));
     EXPECT_TRUE(a.service.unregisterItem()) << "nothing to remove is not a failure";
@@ -52,7 +54,7 @@ TEST(XdgAutostartService, EntriesSwitchedOffByTheDesktopCountAsDisabled)
     };
     for (const auto &c : cases) {
         Autostart a;
-        QDir().mkpath(QFileInfo(a.entryPath).path());
+        ASSERT_TRUE(a.service.registerItem()); // then replaced by the desktop's version
         QFile f(a.entryPath);
         ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(c.text));
         f.close();

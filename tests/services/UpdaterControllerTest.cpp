@@ -83,16 +83,15 @@ TEST_F(UpdaterControllerTest, WithoutAFeedAddressTheBoxShowsAtOnceWithoutNetwork
 {
     for (const QString &address :
         { QString(), QStringLiteral("not an address"), QStringLiteral("ftp://e.org/a") }) {
-        ui = FakeUpdateInterface();
         UpdateBundle b = bundle();
         b.feedUrl = address;
         makeController(b)->checkForUpdates();
-        EXPECT_EQ(ui.upToDateTexts, QStringList { QStringLiteral("Vantle 1.4") }) << address.toStdString();
     }
-    QTest::qWait(50);
+    EXPECT_EQ(ui.upToDateTexts, QStringList(3, QStringLiteral("Vantle 1.4")));
     EXPECT_EQ(server.requestCount(), 0);
 }
 
+// Which feeds hold a release is AppcastTest's; here, what the transfer can do to a check.
 TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
 {
     const QByteArray newer
@@ -107,12 +106,6 @@ TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
         { "not modified", { 304, newer }, false },
         { "not found", { 404, newer }, false },
         { "server error", { 500, newer }, false },
-        { "empty body", { 200, "" }, false },
-        { "not UTF-8", { 200, "<item>\xff\xfe" + newer }, false },
-        { "downgrade",
-            { 200, appcast(QStringLiteral("1.3"), QStringLiteral("https://e.org/v.tgz"), 10, "c2ln") },
-            false },
-        { "malformed XML", { 200, "<item><sparkle:version>9</item></rss>" }, false },
         { "huge body", { 200, newer + QByteArray(5 * 1024 * 1024, ' ') }, false },
         { "redirect loop", { 302, "", "/appcast.xml" }, false },
         { "stalled server", { 200, "", "", true }, false },
@@ -143,19 +136,6 @@ TEST_F(UpdaterControllerTest, ACheckDuringAnotherShowsThatOnesOutcome)
         EXPECT_EQ(server.requestCount(), requests + 1);
         EXPECT_EQ(ui.upToDateTexts.size(), 1);
     }
-
-    // During a quiet download the user sees it through, a failure included.
-    serveRelease(installer, installer.size(), QStringLiteral("c2ln"));
-    server.serve(QStringLiteral("/Vantle-2.0.tar.gz"), { 200, "", "", true });
-    auto controller = makeController(bundle());
-    controller->startUpdater();
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return server.requestedPaths().contains(QStringLiteral("/Vantle-2.0.tar.gz")); }, 10000));
-    controller->checkForUpdates();
-    EXPECT_TRUE(ui.downloading);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return controller->canCheckForUpdates(); }, 10000));
-    EXPECT_FALSE(ui.downloading);
-    EXPECT_EQ(ui.failures.size(), 1);
 }
 
 // Which signatures pass is UpdateSignatureTest's table; here, that the verdict is obeyed.
@@ -197,18 +177,6 @@ TEST_F(UpdaterControllerTest, ADownloadIsKeptOnlyWhenVerifiedAndNeverOverwritesA
     }
     ASSERT_TRUE(mine.open(QIODevice::ReadOnly));
     EXPECT_EQ(mine.readAll(), QByteArray("my own file"));
-}
-
-TEST_F(UpdaterControllerTest, WithoutABuiltInKeyNothingIsDownloaded)
-{
-    serveRelease(installer, installer.size(), UpdateSigning::sign(installer, keys));
-    ui.answer = Choice::download;
-    UpdateBundle b = bundle();
-    b.publicKey.clear();
-    checkAndWait(*makeController(b), 2);
-    ASSERT_EQ(ui.failures.size(), 1);
-    EXPECT_TRUE(ui.failures[0].contains(QStringLiteral("no key to verify updates")));
-    EXPECT_EQ(server.requestedPaths(), QStringList { QStringLiteral("/appcast.xml") });
 }
 
 TEST_F(UpdaterControllerTest, BackgroundChecksDownloadOrOfferAndStayQuietWhenSkipped)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/ColorListViewModel.h"
+#include "history/PaletteExport.h"
 #include "model/ColorHistoryCodec.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -139,18 +141,6 @@ TEST_F(ColorListViewModelTest, PickTrimsOnlyTheOldestUnpinnedColours)
     }
 }
 
-TEST_F(ColorListViewModelTest, AnOverlongHistoryIsKeptUntilTheNextPick)
-{
-    settings.store->setInteger(PreferenceKeys::historyLimit, 2);
-    startWith({ makeColor(0.1), makeColor(0.2), makeColor(0.3), makeColor(0.4) });
-    model->togglePin(model->colors().at(0));
-    model->togglePin(model->colors().at(0)); // unpinning over the limit trims nothing either
-    EXPECT_EQ(model->colors().size(), 4);
-    model->pickColor();
-    sampler.finish(1, 1, 1);
-    EXPECT_EQ(model->colors().size(), 2);
-}
-
 // Every operation with whether it must write `colorHistory` and whether the list changes.
 TEST_F(ColorListViewModelTest, SavesExactlyWhereTheHistoryChanges)
 {
@@ -250,6 +240,50 @@ TEST_F(ColorListViewModelTest, AnUnreadableHistoryIsKeptAsideOnceAndTheModelStar
     model.reset();
     sampler.finish(1, 1, 1); // an answer after the model is gone is harmless
     EXPECT_EQ(stored().size(), 1);
+}
+
+// How files are written (whole or not at all) is AtomicFileTest's; here, what goes where.
+TEST_F(ColorListViewModelTest, ExportWritesTheChosenSelectionInTheChosenLayout)
+{
+    const QList<PickedColor> history { makeColor(0.2), makeColor(1.0, true), makeColor(0) };
+    startWith(history);
+    settings.store->setString(PreferenceKeys::colorFormat, QStringLiteral("RGB"));
+    const struct {
+        bool pinnedOnly, asJSON;
+        const char *proposedName;
+        QByteArray content;
+    } cases[] = {
+        { true, true, "pinned-colors.json", exportJSON({ history.at(1) }) },
+        { true, false, "pinned-colors.txt", "rgb(255, 128, 64)" },
+        { false, true, "colors.json", exportJSON(history) },
+        { false, false, "colors.txt", "rgb(51, 128, 64)\nrgb(255, 128, 64)\nrgb(0, 128, 64)" },
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.proposedName);
+        dialogs.saveRequests.clear();
+        dialogs.chosenPath = settings.dir.filePath(QString::fromLatin1(c.proposedName));
+        model->exportColors(c.pinnedOnly, c.asJSON);
+        ASSERT_EQ(dialogs.saveRequests.size(), 1);
+        EXPECT_EQ(dialogs.saveRequests.first().proposedName, QString::fromLatin1(c.proposedName));
+        EXPECT_EQ(dialogs.saveRequests.first().asJSON, c.asJSON);
+        EXPECT_EQ(dialogs.saveRequests.first().folder,
+            QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
+        QFile file(*dialogs.chosenPath);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly) && file.readAll() == c.content);
+    }
+    EXPECT_TRUE(dialogs.failures.isEmpty());
+
+    dialogs.chosenPath.reset(); // cancelled
+    model->exportColors(false, false);
+    dialogs.chosenPath = settings.dir.path(); // a folder: the failure is reported
+    model->exportColors(false, false);
+    ASSERT_EQ(dialogs.failures.size(), 1);
+    EXPECT_FALSE(dialogs.failures.first().isEmpty());
+    model->clearHistory();
+    model->deleteColor(model->colors().first());
+    model->exportColors(true, false);
+    model->exportColors(false, true);
+    EXPECT_EQ(dialogs.saveRequests.size(), 3) << "no dialog without colours";
 }
 
 } // namespace

@@ -1,25 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/PaletteExport.h"
-#include "history/ColorListViewModel.h"
-#include "model/ColorHistoryCodec.h"
-#include "services/PreferenceKeys.h"
-#include "services/SettingsStore.h"
-#include "support/Fakes.h"
-#include "support/TempSettings.h"
 
-#include <QDir>
-#include <QFile>
-#include <QStandardPaths>
 #include <gtest/gtest.h>
 
 namespace {
 
-PickedColor color(
-    double r, double g, double b, std::optional<QString> name = std::nullopt, bool pinned = false)
+PickedColor color(double r, double g, double b, std::optional<QString> name = std::nullopt)
 {
     PickedColor c = PickedColor::fromSample(r, g, b, 1.0);
     c.name = std::move(name);
-    c.isPinned = pinned;
     return c;
 }
 
@@ -77,73 +66,6 @@ TEST(PaletteExportTest, JsonLayout)
     EXPECT_EQ(exportJSON({}), "[\n\n]");
     EXPECT_EQ(exportJSON({ sunset, color(0, 0, 0, QString(QChar(0xD800))) }), "[]")
         << "half a surrogate pair";
-}
-
-class ExportFlowTest : public ::testing::Test, public FakeHistoryFacilities {
-protected:
-    void SetUp() override
-    {
-        settings.store->setData(PreferenceKeys::colorHistory, *encodeColorHistory(history));
-        settings.store->setString(PreferenceKeys::colorFormat, QStringLiteral("RGB"));
-        model = std::make_unique<ColorListViewModel>(
-            *settings.store, sampler, clipboard, confirmation, dialogs);
-    }
-
-    const QList<PickedColor> history { blue, color(1.0, 0.42, 0.21, QStringLiteral("Sunset"), true),
-        color(0, 0, 0) };
-    TempSettings settings;
-    std::unique_ptr<ColorListViewModel> model;
-};
-
-// How files are written (whole or not at all) is AtomicFileTest's; here, what goes where.
-TEST_F(ExportFlowTest, WritesTheChosenSelectionInTheChosenLayout)
-{
-    const struct {
-        bool pinnedOnly, asJSON;
-        const char *proposedName;
-        QByteArray content;
-    } cases[] = {
-        { true, true, "pinned-colors.json", exportJSON({ history.at(1) }) },
-        { true, false, "pinned-colors.txt", "Sunset: rgb(255, 107, 54)" },
-        { false, true, "colors.json", exportJSON(history) },
-        { false, false, "colors.txt", "rgb(51, 102, 204)\nSunset: rgb(255, 107, 54)\nrgb(0, 0, 0)" },
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.proposedName);
-        dialogs.saveRequests.clear();
-        const QString path = settings.dir.filePath(QString::fromLatin1(c.proposedName));
-        dialogs.chosenPath = path;
-        model->exportColors(c.pinnedOnly, c.asJSON);
-        ASSERT_EQ(dialogs.saveRequests.size(), 1);
-        EXPECT_EQ(dialogs.saveRequests.first().proposedName, QString::fromLatin1(c.proposedName));
-        EXPECT_EQ(dialogs.saveRequests.first().asJSON, c.asJSON);
-        EXPECT_EQ(dialogs.saveRequests.first().folder,
-            QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly) && file.readAll() == c.content);
-    }
-    EXPECT_TRUE(dialogs.failures.isEmpty());
-}
-
-TEST_F(ExportFlowTest, NothingToExportCancelledOrUnwritableWritesNothing)
-{
-    dialogs.chosenPath.reset(); // cancelled
-    model->exportColors(false, false);
-    EXPECT_EQ(dialogs.saveRequests.size(), 1);
-    EXPECT_TRUE(dialogs.failures.isEmpty());
-
-    dialogs.chosenPath = settings.dir.path(); // a folder: the failure is reported
-    model->exportColors(false, false);
-    ASSERT_EQ(dialogs.failures.size(), 1);
-    EXPECT_FALSE(dialogs.failures.first().isEmpty());
-    EXPECT_EQ(model->colors(), history);
-
-    model->clearHistory();
-    model->deleteColor(model->colors().first());
-    model->exportColors(true, false);
-    model->exportColors(false, true);
-    EXPECT_EQ(dialogs.saveRequests.size(), 2) << "no dialog without colours";
-    EXPECT_EQ(QDir(settings.dir.path()).entryList({ QStringLiteral("*.txt") }), QStringList());
 }
 
 } // namespace

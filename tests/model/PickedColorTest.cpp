@@ -43,26 +43,17 @@ TEST(PickedColor, ReadsWhatEarlierVersionsRead)
     const Reading readings[] = {
         { R"("red":1.)", 1.0 },
         { R"("red":0,"name":null,"extra":[1,{"x":2}])", 0.0 }, // unknown keys, a null name
-        { R"("red":.5)", 0.5 },
         { R"("red":-0)", 0.0 }, // and not -0
-        { R"("red":5e-324)", 5e-324 },
-        { R"("red":0e-400)", 0.0 },
         { R"("red":1e-400)", std::nullopt }, // not zero, and no double holds it
         { R"("red":01)", std::nullopt },
-        { R"("red":1e)", std::nullopt },
-        { R"("red":+1)", std::nullopt },
         { R"("red":"1","red":2)", 2.0 }, // the last of a repeated key counts
         { R"("red":2,"red":"1")", std::nullopt },
         { R"("r\u0065d":3)", 3.0 },
-        { "\"\xEF\xBB\xBFred\":3", std::nullopt },
         { R"("red":0,"name":"\u00e9\ud83c\udf05\udc00")", 0.0, u"é🌅\xDC00" },
         { R"("red":0,"name":"\q\/\x")", 0.0, u"q/x" },
-        { "\"red\":0,\"name\":\"a\tb\x01\"", 0.0, u"a\tb\x01" },
         { "\"red\":0,\"name\":\"\xEF\xBB\xBF\xEF\xBB\xBF\"", 0.0,
             u"\uFEFF" }, // one raw mark first is dropped
         { "\"red\":0,\"name\":\"\xC0\x80\"", std::nullopt },
-        { "\"red\":0,\"name\":\"\xED\xA0\x80\"", std::nullopt },
-        { R"("red":0,"name":"\u12")", std::nullopt },
         { R"("red":0,"x":)" + nested, 0.0 },
         { R"("red":0,"x":[)" + nested + "]", std::nullopt },
     };

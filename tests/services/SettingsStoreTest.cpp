@@ -102,14 +102,6 @@ TEST(SettingsStore, AValueAlreadyOnDiskIsNotWrittenAgainButStillSignalled)
     EXPECT_EQ(spy.count(), 3);
     EXPECT_EQ(inode(path), written);
 
-    // The same for data, which lives in a file of its own.
-    ASSERT_TRUE(store.setData(colorHistory, "[1]"));
-    const ino_t dataWritten = inode(store.dataFilePath(colorHistory));
-    EXPECT_TRUE(store.setData(colorHistory, "[1]"));
-    EXPECT_EQ(inode(store.dataFilePath(colorHistory)), dataWritten);
-    EXPECT_TRUE(store.setData(colorHistory, "[2]"));
-    EXPECT_NE(inode(store.dataFilePath(colorHistory)), dataWritten);
-
     EXPECT_TRUE(store.setBool(showColorDot, false));
     EXPECT_TRUE(contents(path).contains("showColorDot=false"));
 }

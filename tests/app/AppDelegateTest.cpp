@@ -113,17 +113,4 @@ TEST_F(AppDelegateTest, ShortcutsFireTheirReactionsAfterTheSignalAndQuitReleases
     EXPECT_TRUE(shortcuts.registered.isEmpty());
 }
 
-TEST_F(AppDelegateTest, TheWelcomeClosesForGoodAndSettingsOpenOverThePopup)
-{
-    launch();
-    QPointer<OnboardingWindow> window = delegate->onboardingWindow();
-    delegate->completeOnboarding();
-    EXPECT_TRUE(settings.store->boolForKey(onboardingShown));
-    QTRY_VERIFY(window.isNull());
-    delegate->openSettings();
-    ASSERT_NE(delegate->settingsWindow(), nullptr);
-    EXPECT_TRUE(delegate->settingsWindow()->view()->isVisible());
-    EXPECT_FALSE(delegate->popover()->isVisible());
-}
-
 } // namespace

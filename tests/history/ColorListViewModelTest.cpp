@@ -216,32 +216,6 @@ TEST_F(ColorListViewModelTest, CopyLeavesTheHistoryAloneAndConfirmsOnlyWhatWasCo
     EXPECT_FALSE(confirmation.messages.last().startsWith(QStringLiteral("Copied")));
 }
 
-TEST_F(ColorListViewModelTest, AnUnreadableHistoryIsKeptAsideOnceAndTheModelStartsEmpty)
-{
-    const QByteArray unreadable = "[{\"id\":\"not a uuid\",\"red\":1}]";
-    settings.store->setData(PreferenceKeys::colorHistory, unreadable);
-    startWith({});
-    EXPECT_TRUE(model->colors().isEmpty());
-    startWith({}); // the next launch finds the same value: no second copy
-    const QDir folder(settings.dir.path());
-    const QStringList backups
-        = folder.entryList({ QStringLiteral("colorHistory.json.unreadable-*") }, QDir::Files);
-    ASSERT_EQ(backups.size(), 1);
-    QFile backup(folder.filePath(backups.first()));
-    ASSERT_TRUE(backup.open(QIODevice::ReadOnly));
-    EXPECT_EQ(backup.readAll(), unreadable);
-
-    model->pickColor();
-    sampler.finish(1, 1, 1);
-    EXPECT_EQ(stored().size(), 1); // the next save replaces the value; the copy stays
-    EXPECT_EQ(folder.entryList({ QStringLiteral("colorHistory.json.unreadable-*") }, QDir::Files), backups);
-
-    model->pickColor();
-    model.reset();
-    sampler.finish(1, 1, 1); // an answer after the model is gone is harmless
-    EXPECT_EQ(stored().size(), 1);
-}
-
 // How files are written (whole or not at all) is AtomicFileTest's; here, what goes where.
 TEST_F(ColorListViewModelTest, ExportWritesTheChosenSelectionInTheChosenLayout)
 {

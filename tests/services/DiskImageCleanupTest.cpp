@@ -114,32 +114,3 @@ TEST(DiskImageCleanup, DetachesAndTrashesTheFirstImageHoldingTheProgram)
     // Qt's trash falls back to the working folder when the data folder is missing.
     EXPECT_FALSE(QFileInfo::exists(QDir::current().filePath(QStringLiteral("Trash"))));
 }
-
-TEST(DiskImageCleanup, NothingHappensWithoutAMatchOrTools)
-{
-    const struct {
-        const char *what;
-        bool programOnVolume;
-        bool udisksInstalled;
-        bool listed;
-    } cases[] = {
-        { "volume without the program", false, true, true },
-        { "no udisksctl", true, false, true },
-        { "no images attached", true, true, false },
-    };
-    for (const auto &c : cases) {
-        Machine machine;
-        const QString image = machine.image(QStringLiteral("Vantle.img"));
-        machine.volume(QStringLiteral("Vantle"), QStringLiteral("/dev/loop0"), c.programOnVolume);
-        machine.runner->outputs.insert(QStringLiteral("losetup"),
-            losetupJson(c.listed ? QList { std::pair(QStringLiteral("/dev/loop0"), image) }
-                                 : QList<std::pair<QString, QString>>()));
-        if (!c.udisksInstalled)
-            machine.runner->outputs.remove(QStringLiteral("udisksctl"));
-
-        machine.cleanup().cleanUp();
-
-        EXPECT_TRUE(QFileInfo::exists(image)) << c.what;
-        EXPECT_FALSE(QFileInfo::exists(machine.home() + QStringLiteral("/.local/share/Trash"))) << c.what;
-    }
-}

@@ -121,23 +121,6 @@ TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
     }
 }
 
-TEST_F(UpdaterControllerTest, ACheckDuringAnotherShowsThatOnesOutcome)
-{
-    server.serve(QStringLiteral("/appcast.xml"), { 200, "<rss/>" });
-    for (const bool background : { false, true }) {
-        SCOPED_TRACE(background ? "background check" : "user's check");
-        ui = FakeUpdateInterface();
-        const int requests = server.requestCount();
-        auto controller = makeController(bundle());
-        background ? controller->startUpdater() : controller->checkForUpdates();
-        EXPECT_FALSE(controller->canCheckForUpdates());
-        controller->checkForUpdates();
-        ASSERT_TRUE(QTest::qWaitFor([&] { return controller->canCheckForUpdates(); }, 10000));
-        EXPECT_EQ(server.requestCount(), requests + 1);
-        EXPECT_EQ(ui.upToDateTexts.size(), 1);
-    }
-}
-
 // Which signatures pass is UpdateSignatureTest's table; here, that the verdict is obeyed.
 TEST_F(UpdaterControllerTest, ADownloadIsKeptOnlyWhenVerifiedAndNeverOverwritesAFile)
 {

@@ -5,11 +5,9 @@
 
 TEST(DownloadFileName, NamesNeverLeaveTheDownloadFolder)
 {
-    struct Case {
-        const char *url;
-        const char *expected;
-    };
-    const Case cases[] = {
+    const struct {
+        const char *url, *expected;
+    } cases[] = {
         { "https://e.org/releases/Vantle-1.2.tar.gz", "Vantle-1.2.tar.gz" },
         { "https://e.org/a/..", "fallback" },
         { "https://e.org/a/%2E%2E", "fallback" },
@@ -19,7 +17,7 @@ TEST(DownloadFileName, NamesNeverLeaveTheDownloadFolder)
         { "https://e.org/dir/evil%00name", "evil_name" },
         { "https://e.org/x%5C..%5Cy", "x_.._y" },
     };
-    for (const Case &c : cases)
+    for (const auto &c : cases)
         EXPECT_EQ(
             DownloadFileName::safeFileName(QUrl(QString::fromLatin1(c.url)), QStringLiteral("fallback")),
             QString::fromLatin1(c.expected))

@@ -6,7 +6,7 @@
 //     to the X server.
 // Records each measure's runs through BenchOutput.h.
 #include "BenchOutput.h"
-#include "HistoryFakes.h"
+#include "Fakes.h"
 #include "app/PopupWindow.h"
 #include "history/ColorListViewModel.h"
 #include "model/ColorHistoryCodec.h"

@@ -2,7 +2,6 @@
 // The launch sequence and the reactions of the tray program, with the desktop's facilities
 // played by fakes (offscreen: no tray host, so the delegate stays in its waiting state).
 #include "app/AppDelegate.h"
-#include "../hotkeys/FakeShortcutBackend.h"
 #include "app/PopupWindow.h"
 #include "history/ColorListViewModel.h"
 #include "platform/network/QtUpdateNetwork.h"
@@ -13,8 +12,7 @@
 #include "screens/SettingsWindow.h"
 #include "services/PreferenceKeys.h"
 #include "services/Preferences.h"
-#include "services/XdgAutostartService.h"
-#include "support/HistoryFakes.h"
+#include "support/Fakes.h"
 #include "support/TempSettings.h"
 
 #include <QTest>
@@ -41,8 +39,7 @@ protected:
     FakeCopyConfirmation confirmation;
     FakeExportDialogs exportDialogs;
     FakeShortcutBackend shortcuts;
-    XdgAutostartService loginItems { settings.dir.filePath(QStringLiteral("autostart/vantle.desktop")),
-        QStringLiteral("/usr/bin/vantle") };
+    FakeLoginItemService loginItems;
     AppearanceMonitor appearance;
     QtUpdateNetwork network;
     DialogUpdateInterface updateInterface; // never shown: the test build has no feed address
@@ -61,18 +58,17 @@ TEST_F(AppDelegateTest, FirstLaunchSeedsBothShortcutsAndGreets)
     ASSERT_NE(delegate->onboardingWindow(), nullptr);
     EXPECT_TRUE(delegate->onboardingWindow()->isVisible());
     // Launch at login is on by default, so the first launch writes the autostart entry.
-    EXPECT_TRUE(QFile::exists(settings.dir.filePath(QStringLiteral("autostart/vantle.desktop"))));
+    EXPECT_TRUE(loginItems.enabled);
 }
 
 TEST_F(AppDelegateTest, OnlyAnUnsetShortcutIsSeeded)
 {
     // -2 is a shortcut the user turned off; -1 one never set; 42 a shortcut of their own.
-    struct Case {
-        qint64 stored;
-        qint64 expected;
+    const struct {
+        qint64 stored, expected;
         int registered;
-    };
-    for (const Case &c : { Case { -2, -2, 1 }, Case { -1, 8, 2 }, Case { 42, 42, 2 } }) {
+    } cases[] = { { -2, -2, 1 }, { -1, 8, 2 }, { 42, 42, 2 } };
+    for (const auto &c : cases) {
         SCOPED_TRACE(c.stored);
         settings.store->setInteger(pickKeyCode, c.stored);
         settings.store->setInteger(pickModifiers, 4096);
@@ -90,7 +86,7 @@ TEST_F(AppDelegateTest, LaunchReadsTheStoredHistoryAndWelcomesOnlyOnce)
 {
     settings.store->setBool(onboardingShown, true);
     launch();
-    EXPECT_EQ(delegate->onboardingWindow(), nullptr);
+    EXPECT_EQ(delegate->onboardingWindow(), nullptr); // welcomed once
     delegate->pickColor();
     sampler.finish(1.0, 0.42, 0.21);
     EXPECT_EQ(clipboard.current(), QStringLiteral("#FF6B36"));
@@ -115,33 +111,6 @@ TEST_F(AppDelegateTest, ShortcutsFireTheirReactionsAfterTheSignalAndQuitReleases
 
     delegate->applicationWillTerminate();
     EXPECT_TRUE(shortcuts.registered.isEmpty());
-}
-
-TEST_F(AppDelegateTest, CompletingTheWelcomeRecordsItAndClosesTheWindow)
-{
-    launch();
-    QPointer<OnboardingWindow> window = delegate->onboardingWindow();
-    delegate->completeOnboarding();
-    EXPECT_TRUE(settings.store->boolForKey(onboardingShown));
-    EXPECT_EQ(delegate->onboardingWindow(), nullptr);
-    QTRY_VERIFY(window.isNull());
-}
-
-} // namespace
-
-namespace {
-
-TEST_F(AppDelegateTest, SettingsOpenInTheirWindowOverThePopup)
-{
-    settings.store->setBool(onboardingShown, true);
-    launch();
-    delegate->openSettings();
-    ASSERT_NE(delegate->settingsWindow(), nullptr);
-    QWidget *window = delegate->settingsWindow()->view();
-    ASSERT_NE(window, nullptr);
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(window->windowTitle(), QStringLiteral("Vantle Settings"));
-    EXPECT_FALSE(delegate->popover()->isVisible());
 }
 
 } // namespace

@@ -14,26 +14,20 @@ namespace {
 // quoting rules of the Exec key, then "%%" for a literal percent sign.
 QString execArgument(const QByteArray &entry)
 {
-    QString exec;
-    for (const QByteArray &line : entry.split('\n')) {
-        if (line.startsWith("Exec="))
-            exec = QString::fromUtf8(line.mid(5));
-    }
-    QString unescaped;
+    QString exec, unescaped, argument;
+    for (const QByteArray &line : entry.split('\n'))
+        exec = line.startsWith("Exec=") ? QString::fromUtf8(line.mid(5)) : exec;
     for (qsizetype i = 0; i < exec.size(); ++i) {
-        if (exec[i] == u'\\' && i + 1 < exec.size()) {
-            const QChar next = exec[++i];
-            unescaped += next == u'n' ? QChar(u'\n') : next == u's' ? QChar(u' ') : next;
-        } else {
-            unescaped += exec[i];
-        }
+        const QChar next = exec[i] == u'\\' && i + 1 < exec.size() ? exec[++i] : QChar();
+        unescaped += next.isNull() ? exec[i]
+            : next == u'n'         ? QChar(u'\n')
+            : next == u's'         ? QChar(u' ')
+                                   : next;
     }
     FUZZ_CHECK(unescaped.size() >= 2 && unescaped.startsWith(u'"') && unescaped.endsWith(u'"'));
-    QString argument;
     for (qsizetype i = 1; i + 1 < unescaped.size(); ++i) {
-        if (unescaped[i] == u'\\' && i + 2 < unescaped.size())
-            ++i;
-        else if (unescaped[i] == u'%' && i + 2 < unescaped.size() && unescaped[i + 1] == u'%')
+        if (i + 2 < unescaped.size()
+            && (unescaped[i] == u'\\' || (unescaped[i] == u'%' && unescaped[i + 1] == u'%')))
             ++i;
         argument += unescaped[i];
     }
@@ -43,17 +37,15 @@ QString execArgument(const QByteArray &entry)
 void writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
-    FUZZ_CHECK(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    FUZZ_CHECK(file.write(bytes) == bytes.size());
+    FUZZ_CHECK(file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size());
 }
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzzOne(const QByteArray &bytes)
 {
     static QTemporaryDir folder;
     const QString entryPath = folder.filePath(QStringLiteral("vantle.desktop"));
-    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
 
     // A file someone else wrote.
     writeFile(entryPath, bytes);
@@ -63,10 +55,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // Our own entry for the input taken as a program path. A NUL byte cannot be part of a path.
     const QString programPath = QString::fromUtf8(bytes).remove(QChar(0));
     if (programPath.contains(QChar(0xFFFD)))
-        return 0; // not a path the program can have been started from
+        return; // not a path the program can have been started from
     const QByteArray entry = XdgAutostartService::entryText(programPath);
     writeFile(entryPath, entry);
     FUZZ_CHECK(found.isEnabled() || entry.size() > 64 * 1024);
     FUZZ_CHECK(execArgument(entry) == programPath);
-    return 0;
 }

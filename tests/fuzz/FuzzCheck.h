@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
+#include <QByteArray>
 #include <cstdio>
 #include <cstdlib>
 
-// Every target's entry point, called by libFuzzer or by ReplayMain.cpp.
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
+// Each target's body: one input, checked against the invariants of its reader. FuzzMain.cpp
+// hands it libFuzzer's inputs, or the files of a corpus folder when replayed without libFuzzer.
+void fuzzOne(const QByteArray &input);
 
 // An invariant that must hold for every input. A broken one aborts, so libFuzzer keeps the
 // input as a crash and a corpus replay fails.
 #define FUZZ_CHECK(condition)                                                                                \
-    do {                                                                                                     \
-        if (!(condition)) {                                                                                  \
-            std::fprintf(stderr, "%s:%d: invariant broken: %s\n", __FILE__, __LINE__, #condition);           \
-            std::abort();                                                                                    \
-        }                                                                                                    \
-    } while (false)
+    ((condition) ? void()                                                                                    \
+                 : (std::fprintf(stderr, "%s:%d: invariant broken: %s\n", __FILE__, __LINE__, #condition),   \
+                     std::abort()))

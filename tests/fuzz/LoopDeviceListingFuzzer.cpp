@@ -5,9 +5,8 @@
 
 #include "services/DiskImageCleanup.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+void fuzzOne(const QByteArray &listing)
 {
-    const QByteArray listing(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     const QList<DiskImageCleanup::LoopDevice> loops = DiskImageCleanup::parseLoopDevices(listing);
     for (const DiskImageCleanup::LoopDevice &loop : loops) {
         FUZZ_CHECK(loop.backingFile.startsWith(QLatin1Char('/')));
@@ -18,5 +17,4 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     FUZZ_CHECK(images.size() == loops.size());
     for (const DiskImageCleanup::AttachedImage &image : images)
         FUZZ_CHECK(image.volumes.isEmpty());
-    return 0;
 }

@@ -7,43 +7,19 @@
 
 #include <QStringList>
 
-namespace {
-
-int sign(int value)
+void fuzzOne(const QByteArray &input)
 {
-    return (value > 0) - (value < 0);
-}
-
-} // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
-{
-    const QString text
-        = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    QStringList versions = text.split(QLatin1Char('\n'));
-    while (versions.size() < 3)
-        versions << QString();
-    const QString &a = versions[0];
-    const QString &b = versions[1];
-    const QString &c = versions[2];
-
-    FUZZ_CHECK(compareVersions(a, a) == 0);
-    const int ab = sign(compareVersions(a, b));
-    const int bc = sign(compareVersions(b, c));
-    const int ac = sign(compareVersions(a, c));
-    FUZZ_CHECK(ab == -sign(compareVersions(b, a)));
-    FUZZ_CHECK(bc == -sign(compareVersions(c, b)));
-    FUZZ_CHECK(ac == -sign(compareVersions(c, a)));
-    // Transitivity, equality included: a <= b <= c gives a <= c, strict when either step is.
-    if (ab <= 0 && bc <= 0) {
-        FUZZ_CHECK(ac <= 0);
-        if (ab < 0 || bc < 0)
-            FUZZ_CHECK(ac < 0);
-    }
-    if (ab >= 0 && bc >= 0) {
-        FUZZ_CHECK(ac >= 0);
-        if (ab > 0 || bc > 0)
-            FUZZ_CHECK(ac > 0);
-    }
-    return 0;
+    QStringList v = QString::fromUtf8(input).split(QLatin1Char('\n'));
+    while (v.size() < 3)
+        v << QString();
+    const auto sign = [](int value) { return (value > 0) - (value < 0); };
+    const int ab = sign(compareVersions(v[0], v[1])), bc = sign(compareVersions(v[1], v[2])),
+              ac = sign(compareVersions(v[0], v[2]));
+    FUZZ_CHECK(compareVersions(v[0], v[0]) == 0);
+    FUZZ_CHECK(ab == -sign(compareVersions(v[1], v[0])) && bc == -sign(compareVersions(v[2], v[1]))
+        && ac == -sign(compareVersions(v[2], v[0])));
+    // Transitivity, equality included: a <= b <= c gives a <= c, strict when either step is;
+    // the same the other way.
+    if (ab == bc || ab == 0 || bc == 0)
+        FUZZ_CHECK(ac == (ab != 0 ? ab : bc));
 }

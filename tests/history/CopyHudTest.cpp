@@ -32,22 +32,15 @@ QString run(const QString &program, const QStringList &args)
     return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
 }
 
-// The geometry the X server has for a window, as "x,y,w,h", and whether it is mapped.
+// Whether the X server shows the window, and where: "x,y,w,h IsViewable".
 QString xGeometry(WId window)
 {
     const QString info = run(QStringLiteral("xwininfo"), { QStringLiteral("-id"), QString::number(window) });
-    auto field = [&](const char *name) {
-        const qsizetype at = info.indexOf(QLatin1String(name));
-        return at < 0 ? QString() : info.mid(at + qstrlen(name)).section(u'\n', 0, 0).trimmed();
-    };
-    return field("Absolute upper-left X:") + u',' + field("Absolute upper-left Y:") + u',' + field("Width:")
-        + u',' + field("Height:") + u',' + field("Map State:");
-}
-
-QRect expectedGeometry(const QString &message)
-{
-    const QSize size = CopyHud::capsuleSize(message);
-    return QRect(CopyHud::capsulePosition(QGuiApplication::primaryScreen()->availableGeometry(), size), size);
+    QStringList fields;
+    for (const char *name :
+        { "Absolute upper-left X:", "Absolute upper-left Y:", "Width:", "Height:", "Map State:" })
+        fields << info.section(QLatin1String(name), 1).section(u'\n', 0, 0).trimmed();
+    return fields.mid(0, 4).join(u',') + u' ' + fields[4];
 }
 
 class CopyHudTest : public ::testing::Test {
@@ -58,124 +51,63 @@ protected:
 
 TEST(CopyHudGeometry, CentredOnTheUsableAreaAHundredPixelsAboveItsMiddle)
 {
-    struct Case {
+    const struct {
         QRect available;
         QSize size;
         QPoint expected;
-    };
-    const Case cases[] = {
+    } cases[] = {
         { { 0, 0, 1280, 800 }, { 150, 36 }, { 565, 282 } },
         { { 0, 0, 1280, 800 }, { 151, 36 }, { 565, 282 } }, // 564.5 rounds away from zero
         { { 0, 32, 1280, 768 }, { 150, 36 }, { 565, 298 } }, // a top panel takes 32 px
         { { 1280, 24, 1920, 1056 }, { 300, 36 }, { 2090, 434 } }, // the second screen, right of the first
         { { -1024, 0, 1024, 768 }, { 100, 36 }, { -562, 266 } }, // a screen left of the primary one
     };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(
-            testing::Message() << c.available.x() << "," << c.available.y() << " " << c.size.width());
-        EXPECT_EQ(CopyHud::capsulePosition(c.available, c.size), c.expected);
-    }
+    for (const auto &c : cases)
+        EXPECT_EQ(CopyHud::capsulePosition(c.available, c.size), c.expected)
+            << c.available.x() << "," << c.available.y();
+    // The capsule grows with its text, never in height.
+    const QSize longSize
+        = CopyHud::capsuleSize(QStringLiteral("Copied UIColor(red: 1.00, green: 0.42, blue: 0.21)"));
+    EXPECT_EQ(longSize.height(), CopyHud::capsuleSize(sampleMessage).height());
+    EXPECT_GT(longSize.width(), CopyHud::capsuleSize(sampleMessage).width() + 100);
 }
 
-TEST(CopyHudGeometry, WidthFollowsTheTextHeightStays)
-{
-    const QString longText
-        = QStringLiteral("Copied UIColor(red: 1.00, green: 0.42, blue: 0.21, alpha: 1.00)");
-    const QSize shortSize = CopyHud::capsuleSize(sampleMessage);
-    const QSize longSize = CopyHud::capsuleSize(longText);
-    EXPECT_EQ(shortSize.height(), 36);
-    EXPECT_EQ(longSize.height(), 36);
-    QFont font = QApplication::font();
-    font.setPixelSize(14);
-    font.setWeight(QFont::DemiBold);
-    const qreal advance = QFontMetricsF(font).horizontalAdvance(longText);
-    EXPECT_EQ(longSize.width(), int(std::ceil(advance + 48)));
-    EXPECT_GT(longSize.width(), shortSize.width() + 100);
-}
-
-TEST_F(CopyHudTest, ShowsAboveTheMiddleFadesInAndIsGoneAfterItsTime)
+TEST_F(CopyHudTest, ShowsWhereItShouldFadesInAndIsGoneAfterItsTime)
 {
     QElapsedTimer shown;
     shown.start();
     hud.showHUD(sampleMessage);
     QPointer<QWidget> window = hud.currentWindow();
     ASSERT_TRUE(window);
-    EXPECT_TRUE(window->isVisible());
     EXPECT_LT(window->windowOpacity(), 0.5); // starts transparent
-    EXPECT_EQ(window->geometry(), expectedGeometry(sampleMessage));
-    if (onX11()) {
-        const QRect g = expectedGeometry(sampleMessage);
-        const QString expected
-            = QStringLiteral("%1,%2,%3,%4,IsViewable").arg(g.x()).arg(g.y()).arg(g.width()).arg(g.height());
-        QTRY_COMPARE_WITH_TIMEOUT(xGeometry(window->winId()), expected, 10000);
-    }
+    const QSize size = CopyHud::capsuleSize(sampleMessage);
+    const QRect g(
+        CopyHud::capsulePosition(QGuiApplication::primaryScreen()->availableGeometry(), size), size);
+    EXPECT_EQ(window->geometry(), g);
+    if (onX11())
+        QTRY_COMPARE_WITH_TIMEOUT(xGeometry(window->winId()),
+            QStringLiteral("%1,%2,%3,%4 IsViewable").arg(g.x()).arg(g.y()).arg(g.width()).arg(g.height()),
+            10000);
     QTRY_COMPARE_WITH_TIMEOUT(window->windowOpacity(), 1.0, 10000);
-
     QTRY_VERIFY_WITH_TIMEOUT(!window, 20000);
     EXPECT_EQ(hud.currentWindow(), nullptr);
-    // 1.5 s on screen, then a 0.3 s fade: never earlier (later is the machine's business).
-    EXPECT_GE(shown.elapsed(), 1750);
+    EXPECT_GE(shown.elapsed(), 1750); // 1.5 s on screen, then a 0.3 s fade: never earlier
 }
 
-TEST_F(CopyHudTest, ANewMessageReplacesTheOldOneAtOnce)
-{
-    hud.showHUD(QStringLiteral("Copied #000000"));
-    QPointer<QWidget> first = hud.currentWindow();
-    ASSERT_TRUE(first);
-    QTRY_COMPARE_WITH_TIMEOUT(first->windowOpacity(), 1.0, 10000);
-    const WId firstId = first->winId();
-
-    hud.showHUD(sampleMessage);
-    QPointer<QWidget> second = hud.currentWindow();
-    ASSERT_TRUE(second);
-    EXPECT_NE(second, first);
-    EXPECT_TRUE(!first || !first->isVisible()); // gone without a fade
-    EXPECT_TRUE(second->isVisible());
-    EXPECT_EQ(second->size(), CopyHud::capsuleSize(sampleMessage));
-    QTRY_VERIFY_WITH_TIMEOUT(!first, 10000);
-    if (onX11())
-        QTRY_VERIFY_WITH_TIMEOUT(!xGeometry(firstId).endsWith(u"IsViewable"), 10000);
-}
-
-TEST_F(CopyHudTest, AFadeOutUnderWayNeverEndsTheNextMessage)
+TEST_F(CopyHudTest, ANewMessageReplacesTheOldOneAtOnceEvenWhileItFades)
 {
     hud.showHUD(QStringLiteral("Copied #000000"));
     QPointer<QWidget> first = hud.currentWindow();
     QTRY_COMPARE_WITH_TIMEOUT(first->windowOpacity(), 1.0, 10000);
     QTRY_VERIFY_WITH_TIMEOUT(first && first->windowOpacity() < 0.9, 10000); // fading out now
-
     QElapsedTimer shown;
     shown.start();
     hud.showHUD(sampleMessage);
     QPointer<QWidget> second = hud.currentWindow();
-    QTRY_VERIFY_WITH_TIMEOUT(!first, 10000);
+    ASSERT_TRUE(second && second != first);
+    EXPECT_TRUE(!first || !first->isVisible()); // gone without a fade
     QTRY_VERIFY_WITH_TIMEOUT(!second, 20000);
-    EXPECT_GE(shown.elapsed(), 1750); // the second lived its full time
-}
-
-TEST_F(CopyHudTest, PaintsATranslucentDarkCapsuleWithWhiteText)
-{
-    hud.showHUD(sampleMessage);
-    QWidget *window = hud.currentWindow();
-    ASSERT_TRUE(window);
-    const QImage image = window->grab().toImage().convertToFormat(QImage::Format_ARGB32);
-    ASSERT_EQ(image.size(), window->size() * window->devicePixelRatio());
-    const int h = image.height(), w = image.width();
-    // Inside the capsule, away from the text: black at 0.78.
-    const QColor body = image.pixelColor(h / 2, h / 2);
-    EXPECT_NEAR(body.alphaF(), 0.78, 0.02);
-    EXPECT_EQ(body.red() + body.green() + body.blue(), 0);
-    // The corners outside the rounded ends hold at most the faint shadow.
-    for (const QPoint corner : { QPoint(0, 0), QPoint(w - 1, 0), QPoint(0, h - 1), QPoint(w - 1, h - 1) })
-        EXPECT_LT(image.pixelColor(corner).alphaF(), 0.31) << corner.x() << "," << corner.y();
-    // The bottom corners are darker than the top ones: the shadow falls 2 px down.
-    EXPECT_GT(image.pixelColor(0, h - 1).alphaF(), image.pixelColor(0, 0).alphaF());
-    // White text somewhere along the middle line.
-    int white = 0;
-    for (int x = 0; x < w; ++x)
-        for (int y = h / 3; y < 2 * h / 3; ++y)
-            white += image.pixelColor(x, y).lightness() > 200 && image.pixelColor(x, y).alpha() == 255;
-    EXPECT_GT(white, 20);
+    EXPECT_GE(shown.elapsed(), 1750); // the old fade never ends the new message early
 }
 
 // Focus and clicks need a window manager and a real server.
@@ -191,7 +123,6 @@ TEST_F(CopyHudTest, NeverTakesFocusAndLetsClicksThrough)
     protected:
         void mousePressEvent(QMouseEvent *) override { ++presses; }
     } editor;
-    editor.setWindowTitle(QStringLiteral("editor"));
     editor.setGeometry(QGuiApplication::primaryScreen()->availableGeometry().adjusted(40, 40, -40, -40));
     editor.show();
     editor.activateWindow();
@@ -211,7 +142,6 @@ TEST_F(CopyHudTest, NeverTakesFocusAndLetsClicksThrough)
             QStringLiteral("click"), QStringLiteral("1") });
     QTRY_COMPARE_WITH_TIMEOUT(editor.presses, 1, 10000);
     EXPECT_TRUE(window); // still showing: the click went through it
-    EXPECT_TRUE(editor.isActiveWindow());
     EXPECT_EQ(QApplication::activeWindow(), &editor);
     EXPECT_EQ(run(QStringLiteral("xdotool"), { QStringLiteral("getwindowfocus") }), editorId);
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hotkeys/HotkeyManager.h"
 
-#include "FakeShortcutBackend.h"
 #include "services/PreferenceKeys.h"
+#include "support/Fakes.h"
 #include "support/TempSettings.h"
 
 #include <QSignalSpy>

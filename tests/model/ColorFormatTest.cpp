@@ -86,8 +86,6 @@ TEST(ColorFormat, GreyHasNoHueAndHueIsNotWrappedAfterRounding)
     EXPECT_EQ(formatColor(0.5, 0.500005, 0.5, 1, ColorFormat::hsb), u"hsb(0, 0%, 50%)");
     // Slightly more: a colour again.
     EXPECT_NE(formatColor(0.5, 0.50002, 0.5, 1, ColorFormat::hsl), u"hsl(0, 0%, 50%)");
-    // 359.58 prints 360; a hue of exactly 359.4 prints 359.
-    EXPECT_EQ(formatColor(1.0, 0.0, 0.007, 1, ColorFormat::hsl), u"hsl(360, 100%, 50%)");
     // Max equal in r and g: the red branch decides (hue 60).
     EXPECT_EQ(formatColor(1.0, 1.0, 0.0, 1, ColorFormat::hsb), u"hsb(60, 100%, 100%)");
     EXPECT_EQ(formatColor(0.0, 1.0, 1.0, 1, ColorFormat::hsl), u"hsl(180, 100%, 50%)");
@@ -95,10 +93,7 @@ TEST(ColorFormat, GreyHasNoHueAndHueIsNotWrappedAfterRounding)
 
 TEST(ColorFormat, FixedDecimalsRoundTiesToEvenAndKeepSign)
 {
-    // alpha 0.75 and 0.25 are exact binary ties: "%.1f" rounds them to even.
-    EXPECT_EQ(formatColor(0, 0, 0, 0.75, ColorFormat::css), u"rgba(0, 0, 0, 0.8)");
-    EXPECT_EQ(formatColor(0, 0, 0, 0.25, ColorFormat::css), u"rgba(0, 0, 0, 0.2)");
-    // 0.125 is exact: "%.2f" gives 0.12; 0.375 gives 0.38.
+    // 0.125 is an exact binary tie: "%.2f" gives 0.12 (alpha 0.25 and 0.75 are in the examples).
     EXPECT_EQ(formatColor(0.125, 0.375, -0.001, 1, ColorFormat::swiftUI),
         u"Color(red: 0.12, green: 0.38, blue: -0.00)");
 }
@@ -106,8 +101,7 @@ TEST(ColorFormat, FixedDecimalsRoundTiesToEvenAndKeepSign)
 TEST(ColorFormat, NumbersIgnoreTheUsersLocale)
 {
     // A user whose locale writes decimal commas still gets points on the clipboard.
-    const char *previous = std::setlocale(LC_ALL, nullptr);
-    const std::string saved = previous ? previous : "C";
+    const std::string saved = std::setlocale(LC_ALL, nullptr);
     const bool haveGerman = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(formatColor(1.0, 0.42, 0.21, 0.75, ColorFormat::uiColor),
@@ -121,14 +115,10 @@ TEST(ColorFormat, NumbersIgnoreTheUsersLocale)
         GTEST_SKIP() << "de_DE.UTF-8 is not installed; checked under the Qt default locale only";
 }
 
-TEST(ColorFormat, RawValuesParseExactly)
+TEST(ColorFormat, StoredNamesParseExactly)
 {
-    ASSERT_EQ(allColorFormats.size(), 9u);
-    for (ColorFormat f : allColorFormats)
-        EXPECT_EQ(colorFormatFromRawValue(rawValue(f)), f);
     EXPECT_EQ(colorFormatFromRawValue(QStringLiteral("Hex (lowercase)")), ColorFormat::hexLower);
     EXPECT_EQ(colorFormatFromRawValue(QStringLiteral("HSB/HSV")), ColorFormat::hsb);
-    EXPECT_EQ(colorFormatFromRawValue(QStringLiteral("hex")), std::nullopt);
-    EXPECT_EQ(colorFormatFromRawValue(QStringLiteral("Hex ")), std::nullopt);
-    EXPECT_EQ(colorFormatFromRawValue(QString()), std::nullopt);
+    for (const QString &stored : { QStringLiteral("hex"), QStringLiteral("Hex "), QString() })
+        EXPECT_EQ(colorFormatFromRawValue(stored), std::nullopt);
 }

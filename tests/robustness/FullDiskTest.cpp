@@ -7,7 +7,7 @@
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
 #include "services/XdgAutostartService.h"
-#include "support/HistoryFakes.h"
+#include "support/Fakes.h"
 
 #include <QDir>
 #include <QFile>

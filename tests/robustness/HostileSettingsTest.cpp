@@ -7,7 +7,7 @@
 #include "model/ColorHistoryCodec.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
-#include "support/HistoryFakes.h"
+#include "support/Fakes.h"
 
 #include <QDir>
 #include <QElapsedTimer>

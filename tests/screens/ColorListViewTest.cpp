@@ -7,7 +7,7 @@
 #include "screens/ElidedLabel.h"
 #include "screens/RenameColorSheet.h"
 #include "services/PreferenceKeys.h"
-#include "support/HistoryFakes.h"
+#include "support/Fakes.h"
 #include "support/TempSettings.h"
 
 #include <QApplication>

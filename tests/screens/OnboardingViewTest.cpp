@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/OnboardingView.h"
-#include "ManualAnimationDriver.h"
 #include "screens/OnboardingWindow.h"
 #include "services/PreferenceKeys.h"
+#include "support/ManualAnimationDriver.h"
 #include "support/TempSettings.h"
 
 #include <QAbstractButton>

@@ -16,7 +16,7 @@
 #include "screens/FormatLine.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
-#include "support/HistoryFakes.h"
+#include "support/Fakes.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -9,25 +9,16 @@
 #include "screens/SettingsView.h"
 #include "screens/SettingsWindow.h"
 #include "services/Appcast.h"
-#include "services/LoginItemService.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 #include "services/UpdaterController.h"
-#include "support/HistoryFakes.h"
+#include "support/Fakes.h"
 
 #include <QApplication>
 #include <QStyleFactory>
 #include <QTemporaryDir>
 
 namespace {
-class ShowcaseLoginItems : public LoginItemService {
-public:
-    bool isEnabled() const override { return enabled; }
-    bool registerItem() override { return enabled = true; }
-    bool unregisterItem() override { return !(enabled = false); }
-    bool enabled = true;
-};
-
 QPalette darkPalette()
 {
     QPalette palette;
@@ -67,7 +58,8 @@ int main(int argc, char **argv)
     ColorListViewModel model(store, sampler, clipboard, confirmation, exportDialogs);
     NullShortcutBackend backend;
     HotkeyManager hotkeys(store, backend);
-    ShowcaseLoginItems loginItems;
+    FakeLoginItemService loginItems;
+    loginItems.enabled = true;
     QtUpdateNetwork network;
     DialogUpdateInterface updateInterface;
     UpdaterController updater(store, network, updateInterface);

@@ -6,7 +6,6 @@
 #include "ModalAnswer.h"
 
 #include "history/ColorListViewModel.h"
-#include "hotkeys/FakeShortcutBackend.h"
 #include "hotkeys/HotkeyManager.h"
 #include "hotkeys/HotkeyRecorderView.h"
 #include "services/LoginItemService.h"
@@ -14,7 +13,7 @@
 #include "services/SettingsViewModel.h"
 #include "services/UpdateUserInterface.h"
 #include "services/UpdaterController.h"
-#include "support/HistoryFakes.h"
+#include "support/Fakes.h"
 #include "support/TempSettings.h"
 
 #include <QApplication>
@@ -34,38 +33,6 @@
 using namespace PreferenceKeys;
 
 namespace {
-
-class FakeLoginItemService : public LoginItemService {
-public:
-    bool isEnabled() const override { return enabled; }
-    bool registerItem() override { return change(true); }
-    bool unregisterItem() override { return change(false); }
-    bool change(bool on)
-    {
-        if (!accepts)
-            return false;
-        enabled = on;
-        return true;
-    }
-    bool enabled = false;
-    bool accepts = true;
-};
-
-class QuietUpdateInterface : public UpdateUserInterface {
-public:
-    void showUpToDate(const QString &, const QString &) override { ++upToDateCount; }
-    void askAboutUpdate(
-        const AppcastItem &, const QString &, const QString &, std::function<void(Choice)> onChoice) override
-    {
-        onChoice(Choice::remindLater);
-    }
-    void downloadStarted(const AppcastItem &, std::function<void()>) override { }
-    void downloadProgressed(qint64, qint64) override { }
-    void downloadEnded() override { }
-    void showDownloadFailed(const QString &) override { }
-    void showDownloadReady(const AppcastItem &, const QString &, bool) override { }
-    int upToDateCount = 0;
-};
 
 UpdateBundle offlineBundle()
 {
@@ -113,7 +80,7 @@ struct Shell {
     HotkeyManager hotkeys { *settings.store, backend };
     FakeLoginItemService loginItems;
     QtUpdateNetwork network;
-    QuietUpdateInterface updateUi;
+    FakeUpdateInterface updateUi;
     std::unique_ptr<ColorListViewModel> model;
     std::unique_ptr<UpdaterController> updater;
     std::unique_ptr<SettingsWindow> window;
@@ -280,7 +247,7 @@ TEST(SettingsView, CheckForUpdatesIsDisabledWhileACheckRuns)
     QTest::mouseClick(check, Qt::LeftButton);
     EXPECT_FALSE(shell.updater->canCheckForUpdates());
     EXPECT_FALSE(check->isEnabled());
-    EXPECT_EQ(shell.updateUi.upToDateCount, 0);
+    EXPECT_EQ(shell.updateUi.upToDateTexts.size(), 0);
 }
 
 TEST(SettingsView, SecondaryTextFollowsASwitchToDark)

@@ -5,12 +5,10 @@
 
 TEST(VersionComparison, ComparesPartByPartAsNumbers)
 {
-    struct Case {
-        const char *a;
-        const char *b;
+    const struct {
+        const char *a, *b;
         int expected;
-    };
-    const Case cases[] = {
+    } cases[] = {
         { "1.10", "1.9", 1 }, // not as decimals
         { "1.9", "1.10", -1 },
         { "2.0", "10.0", -1 },
@@ -25,7 +23,7 @@ TEST(VersionComparison, ComparesPartByPartAsNumbers)
         { "", "0", 0 },
         { "abc", "1", -1 },
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         const int result = compareVersions(QString::fromLatin1(c.a), QString::fromLatin1(c.b));
         EXPECT_EQ((result > 0) - (result < 0), c.expected) << c.a << " vs " << c.b;
     }

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/CommandLine.h"
+#include "app/ColorArgument.h"
+#include "history/PaletteExport.h"
+#include "model/ColorHistoryCodec.h"
+#include "services/PreferenceKeys.h"
+#include "support/TempSettings.h"
+
+#include <QDir>
+#include <QFile>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct CommandRun {
+    int status;
+    QString out, err;
+};
+
+CommandRun run(
+    int (*command)(const QStringList &, CommandContext &), const QStringList &args, SettingsStore &store)
+{
+    CommandRun run;
+    QTextStream out(&run.out), err(&run.err);
+    CommandContext context { out, err, store };
+    run.status = command(args, context);
+    out.flush();
+    err.flush();
+    return run;
+}
+
+CommandRun runFormat(const QStringList &args, SettingsStore &store)
+{
+    return run(runFormatCommand, args, store);
+}
+CommandRun runExport(const QStringList &args, SettingsStore &store)
+{
+    return run(runExportCommand, args, store);
+}
+
+} // namespace
+
+TEST(FormatCommand, PrintsEachColourInTheAskedFormats)
+{
+    TempSettings t;
+    t.store->setString(PreferenceKeys::colorFormat, QStringLiteral("CSS rgba"));
+    const struct {
+        QStringList args;
+        const char16_t *out;
+    } cases[] = {
+        { { QStringLiteral("#3366cc") }, u"rgba(51, 102, 204, 1.0)\n" }, // the preferred format
+        { { QStringLiteral("--format"), QStringLiteral("hexLower"), QStringLiteral("FF6B36") },
+            u"#ff6b36\n" },
+        { { QStringLiteral("--format=hex (LOWERCASE)"), QStringLiteral("FF6B36") }, u"#ff6b36\n" },
+        // Negative components are colours, not options; several colours form blocks.
+        { { QStringLiteral("-f"), QStringLiteral("HSL"), QStringLiteral("-0.01,0,0"),
+              QStringLiteral("0.2, 0.4, 0.8, 0.5"), QStringLiteral("--contrast") },
+            u"hsl(180, -100%, -1%)\nvs White\t21.1:1\tAAA\nvs Black\t1.0:1\tFail\n\n"
+            u"hsl(220, 60%, 50%)\nvs White\t5.4:1\tAA\nvs Black\t3.9:1\tAA Large\n" },
+        { { QStringLiteral("--all"), QStringLiteral("1.0,0.42,0.21") },
+            u"Hex\t#FF6B36\nHex (lowercase)\t#ff6b36\nRGB\trgb(255, 107, 54)\nRGB (decimal)\t255, 107, 54\n"
+            u"HSL\thsl(16, 100%, 61%)\nHSB/HSV\thsb(16, 79%, 100%)\n"
+            u"SwiftUI Color\tColor(red: 1.00, green: 0.42, blue: 0.21)\n"
+            u"UIColor\tUIColor(red: 1.00, green: 0.42, blue: 0.21, alpha: 1.00)\nCSS rgba\trgba(255, 107, "
+            u"54, 1.0)\n" },
+    };
+    for (const auto &c : cases) {
+        const CommandRun run = runFormat(c.args, *t.store);
+        EXPECT_EQ(
+            std::tuple(run.status, run.out, run.err), std::tuple(0, QString::fromUtf16(c.out), QString()))
+            << c.args.join(u' ').toStdString();
+    }
+}
+
+TEST(FormatCommand, BadInputPrintsOneLineAndNothingOnStandardOutput)
+{
+    TempSettings t;
+    const QStringList bad[] = {
+        { QStringLiteral("#FF6B3") },
+        { QStringLiteral("GGGGGG") },
+        { QStringLiteral("1,2") },
+        { QStringLiteral("nan,0,0") },
+        { QStringLiteral("1,0,0"), QStringLiteral("--format"), QStringLiteral("Hexx") },
+        { QStringLiteral("--format") },
+        { QStringLiteral("--bogus"), QStringLiteral("1,0,0") },
+        {},
+        { QStringLiteral("--all"), QStringLiteral("--format=hsl"), QStringLiteral("1,0,0") },
+        { QStringLiteral("1,0,0"), QStringLiteral("#+12345") },
+    };
+    for (const QStringList &args : bad) {
+        const CommandRun run = runFormat(args, *t.store);
+        EXPECT_EQ(run.status, 2) << args.join(u' ').toStdString();
+        EXPECT_EQ(run.out, QString()) << args.join(u' ').toStdString();
+        EXPECT_EQ(run.err.count(u'\n'), 1) << run.err.toStdString();
+    }
+    EXPECT_TRUE(
+        runFormat({ QStringLiteral("1,0,0"), QStringLiteral("--format"), QStringLiteral("Hexx") }, *t.store)
+            .err.contains(u"Hexx"));
+}
+
+TEST(ColorArgument, ComponentsAreReadExactly)
+{
+    const auto c = parseColorArgument(QStringLiteral("0.1,0.30000000000000004,1e-3,+0.5")).value();
+    EXPECT_EQ(std::tuple(c.red, c.green, c.blue, c.alpha), std::tuple(0.1, 0.30000000000000004, 0.001, 0.5));
+    const auto hex = parseColorArgument(QStringLiteral("#ff6B36")).value();
+    EXPECT_EQ(std::tuple(hex.green, hex.alpha), std::tuple(107 / 255.0, 1.0));
+}
+
+namespace {
+
+class ExportCommandTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        PickedColor sunset = PickedColor::fromSample(1.0, 0.42, 0.21, 1.0);
+        sunset.name = QStringLiteral("Sun/set");
+        sunset.isPinned = true;
+        history = { PickedColor::fromSample(0.2, 0.4, 0.8, 1.0), sunset };
+        t.store->setData(PreferenceKeys::colorHistory, *encodeColorHistory(history));
+    }
+    TempSettings t;
+    QList<PickedColor> history;
+};
+
+TEST_F(ExportCommandTest, PrintsTheStoredHistoryInEitherLayout)
+{
+    t.store->setString(PreferenceKeys::colorFormat, QStringLiteral("HSL"));
+    struct Case {
+        QStringList args;
+        QByteArray expected;
+    };
+    const Case cases[] = {
+        { {}, "hsl(220, 60%, 50%)\nSun/set: hsl(16, 100%, 61%)\n" },
+        { { QStringLiteral("--pinned") }, "Sun/set: hsl(16, 100%, 61%)\n" },
+        { { QStringLiteral("--json") }, exportJSON(history) + '\n' },
+        { { QStringLiteral("-j"), QStringLiteral("-p") }, exportJSON({ history.at(1) }) + '\n' },
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.args.join(u' ').toStdString());
+        const CommandRun run = runExport(c.args, *t.store);
+        EXPECT_EQ(run.status, ExitStatus::ok);
+        EXPECT_EQ(run.out.toUtf8(), c.expected);
+        EXPECT_EQ(run.err, QString());
+    }
+    EXPECT_TRUE(runExport({ QStringLiteral("--json") }, *t.store).out.contains(u"\"name\" : \"Sun\\/set\""));
+}
+
+// Whole files or none is AtomicFileTest's; here, both spellings of the option and the message.
+TEST_F(ExportCommandTest, WritesTheFileNamedByEitherSpelling)
+{
+    const QString path = t.dir.filePath(QStringLiteral("palette.json"));
+    for (const QStringList &args : { QStringList { QStringLiteral("--json"), QStringLiteral("-o"), path },
+             QStringList { QStringLiteral("--output=") + path, QStringLiteral("--json") } }) {
+        QFile::remove(path);
+        const CommandRun run = runExport(args, *t.store);
+        EXPECT_EQ(run.status, ExitStatus::ok);
+        EXPECT_EQ(run.out, QString());
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly) && file.readAll() == exportJSON(history));
+    }
+    const CommandRun run = runExport({ QStringLiteral("-o"), t.dir.path() }, *t.store);
+    EXPECT_EQ(run.status, ExitStatus::failure);
+    EXPECT_TRUE(run.err.startsWith(QStringLiteral("vantle export: cannot write \"%1\": ").arg(t.dir.path())));
+}
+
+TEST_F(ExportCommandTest, RefusesWhatItCannotDo)
+{
+    EXPECT_EQ(runExport({ QStringLiteral("--pdf") }, *t.store).status, ExitStatus::usage);
+    EXPECT_EQ(runExport({ QStringLiteral("-o") }, *t.store).status, ExitStatus::usage);
+
+    t.store->setData(PreferenceKeys::colorHistory, "{not json");
+    const CommandRun run = runExport({ QStringLiteral("--json") }, *t.store);
+    EXPECT_EQ(run.status, ExitStatus::failure);
+    EXPECT_EQ(run.out, QString());
+    EXPECT_TRUE(run.err.contains(t.store->dataFilePath(PreferenceKeys::colorHistory))) << qPrintable(run.err);
+
+    t.store->removeObject(PreferenceKeys::colorHistory);
+    EXPECT_EQ(runExport({ QStringLiteral("--json") }, *t.store).out, u"[\n\n]\n");
+    EXPECT_EQ(runExport({}, *t.store).out, QString());
+}
+
+} // namespace

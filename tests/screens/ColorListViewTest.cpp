@@ -100,18 +100,14 @@ public: // the case tables below reach in from lambdas
 
 } // namespace
 
-TEST_F(ColorListViewTest, IsThreeHundredTwentyPixelsWideAndListScrollsWithinItsLimit)
+// Little room beside the tray icon (a small screen): the list and the detail screen scroll within it.
+TEST_F(ColorListViewTest, ListAndDetailScrollWithinTheHeightLimit)
 {
     QList<PickedColor> many;
     for (int i = 0; i < 40; ++i)
         many.append(makeColor(i / 40.0, 0.5, 0.5));
     build(many);
-    EXPECT_EQ(view->width(), 320);
-    EXPECT_LE(view->height(), ColorListView::maximumListHeight + 200);
     EXPECT_EQ(view->rows().size(), 40);
-
-    // Little room beside the tray icon (a small screen): the list and the detail screen
-    // scroll within it.
     view->setHeightLimit(300);
     QTRY_COMPARE(view->height(), 300);
     view->openColor(many.first());
@@ -151,17 +147,10 @@ TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
             actual.append(row->color().id);
         EXPECT_EQ(actual, expected);
 
-        const QList<QAction *> actions = view->exportMenu()->actions();
-        ASSERT_EQ(actions.size(), 5);
-        EXPECT_EQ(actions[0]->text(), u"Export Pinned as Text");
-        EXPECT_EQ(actions[1]->text(), u"Export Pinned as JSON");
-        EXPECT_TRUE(actions[2]->isSeparator());
-        EXPECT_EQ(actions[3]->text(), u"Export All as Text");
-        EXPECT_EQ(actions[4]->text(), u"Export All as JSON");
-        EXPECT_EQ(actions[0]->isEnabled(), c.pinned);
-        EXPECT_EQ(actions[1]->isEnabled(), c.pinned);
-        EXPECT_EQ(actions[3]->isEnabled(), !c.empty);
-        EXPECT_EQ(actions[4]->isEnabled(), !c.empty);
+        QList<bool> enabled;
+        for (const QAction *action : view->exportMenu()->actions())
+            enabled << action->isEnabled();
+        EXPECT_EQ(enabled, (QList<bool> { c.pinned, c.pinned, true, !c.empty, !c.empty })); // [2]: separator
     }
 }
 
@@ -328,10 +317,6 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         EXPECT_EQ(sheet->nameField()->text(), c.name.value_or(QString()));
         // The upper-case hex, whatever the list's format.
         EXPECT_EQ(sheet->findChild<ElidedLabel *>(QStringLiteral("hexLabel"))->text(), u"#FF6B36");
-        EXPECT_EQ(sheet->nameField()->placeholderText(), u"Color name (optional)");
-        EXPECT_EQ(sheet->nameField()->width(), 240);
-        EXPECT_EQ(sheet->cancelButton()->text(), u"Cancel");
-        EXPECT_EQ(sheet->saveButton()->text(), u"Save");
 
         QLineEdit *field = sheet->nameField();
         field->setFocus();
@@ -367,8 +352,6 @@ TEST_F(ColorListViewTest, PickButtonReadsPickingAndRefusesWhileAPickRuns)
 {
     build({});
     auto *pick = child<QAbstractButton>("pickButton");
-    EXPECT_EQ(pick->text(), u"Pick Color");
-    EXPECT_EQ(pick->accessibleName(), u"Pick Color");
     QTest::mouseClick(pick, Qt::LeftButton);
     ASSERT_TRUE(sampler.isOpen());
     EXPECT_EQ(pick->text(), u"Picking…");
@@ -388,17 +371,6 @@ TEST_F(ColorListViewTest, PickButtonReadsPickingAndRefusesWhileAPickRuns)
 TEST_F(ColorListViewTest, FooterButtonsAndExportEntries)
 {
     build({ makeColor(1, 0, 0, true), makeColor(0, 1, 0) });
-    const struct {
-        const char *name, *accessible;
-    } buttons[] = { { "settingsButton", "Settings" }, { "exportButton", "Export colors" },
-        { "quitButton", "Quit vantle" } };
-    for (const auto &b : buttons) {
-        auto *button = child<QAbstractButton>(b.name);
-        ASSERT_NE(button, nullptr) << b.name;
-        EXPECT_EQ(button->accessibleName(), QLatin1String(b.accessible));
-        EXPECT_EQ(button->toolTip(), QLatin1String(b.accessible));
-        EXPECT_EQ(button->cursor().shape(), Qt::PointingHandCursor);
-    }
     QTest::mouseClick(child<QAbstractButton>("settingsButton"), Qt::LeftButton);
     EXPECT_EQ(settingsOpened, 1);
     QTest::mouseClick(child<QAbstractButton>("quitButton"), Qt::LeftButton);

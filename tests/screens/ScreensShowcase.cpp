@@ -1,26 +1,39 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Shows one screen of the popup on a real X display in a light or dark theme and captures the
-// screen with ImageMagick's `import`, for looking at the screens as a person sees them.
+// Shows one screen of the popup, a settings page or an update dialog on a real X display in a
+// light or dark theme and captures the screen with ImageMagick's `import`, for looking at the
+// screens as a person sees them.
 //
-//   screens_showcase --theme light|dark --screen empty|list|detail|longest|rename --output shot.png
+//   screens_showcase --theme light|dark --output shot.png --screen empty|list|detail|longest|rename
+//       |settings-general|settings-about|settings-more|update|progress|ready
 //
 // Prints "view <width>x<height>" of the colour list view so the calling script can check it.
 // "longest" is the detail screen of the colour whose texts are longest (white, a 40-character
 // name): every text on it must be drawn whole, else it prints what was cut and exits with 1.
 #include "history/ColorListViewModel.h"
+#include "hotkeys/GlobalShortcutBackend.h"
+#include "hotkeys/HotkeyManager.h"
 #include "model/ColorHistoryCodec.h"
+#include "platform/network/QtUpdateNetwork.h"
 #include "screens/ColorDetailView.h"
 #include "screens/ColorListView.h"
 #include "screens/ColorRowView.h"
+#include "screens/DialogUpdateInterface.h"
 #include "screens/ElidedLabel.h"
 #include "screens/FormatLine.h"
+#include "screens/SettingsView.h"
+#include "screens/SettingsWindow.h"
+#include "services/Appcast.h"
+#include "services/LoginItemService.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
+#include "services/SettingsViewModel.h"
+#include "services/UpdaterController.h"
 #include "support/HistoryFakes.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QProcess>
+#include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTemporaryDir>
@@ -29,6 +42,26 @@
 #include <cstdio>
 
 namespace {
+
+class ShowcaseLoginItems : public LoginItemService {
+public:
+    bool isEnabled() const override { return true; }
+    bool registerItem() override { return true; }
+    bool unregisterItem() override { return false; }
+};
+
+AppcastItem update()
+{
+    AppcastItem update;
+    update.version = QStringLiteral("142");
+    update.displayVersion = QStringLiteral("1.4");
+    update.title = QStringLiteral("Vantle 1.4");
+    update.releaseNotes = QStringLiteral(
+        "<h3>What's new</h3><ul><li>Pick colours on every monitor, also at fractional scaling.</li>"
+        "<li>Export the palette as JSON.</li></ul><p style=\"font-size:1px\">hidden text from a hostile "
+        "feed</p><img src=\"https://example.com/track.png\">");
+    return update;
+}
 
 QPalette darkPalette()
 {
@@ -115,6 +148,10 @@ int main(int argc, char **argv)
 
     QTemporaryDir dir;
     SettingsStore store(dir.filePath(QStringLiteral("Vantle.conf")));
+    SettingsViewModel::registerDefaults(store);
+    store.setInteger(PreferenceKeys::pickKeyCode, 8); // Alt+Shift+C
+    store.setInteger(PreferenceKeys::pickModifiers, 655360);
+    store.setString(PreferenceKeys::pickKeyChar, QStringLiteral("C"));
     const QString screen = parser.value(QStringLiteral("screen"));
     QList<PickedColor> colors;
     if (screen == u"longest") {
@@ -142,7 +179,32 @@ int main(int argc, char **argv)
         model, store, [] {}, [] {});
     view.setWindowTitle(QStringLiteral("vantle"));
     view.move(40, 40);
-    view.show();
+    NullShortcutBackend backend;
+    HotkeyManager hotkeys(store, backend);
+    ShowcaseLoginItems loginItems;
+    QtUpdateNetwork network;
+    DialogUpdateInterface updateInterface;
+    UpdaterController updater(store, network, updateInterface);
+    SettingsWindow settings(store, hotkeys, loginItems, updater, &model);
+    const bool isPopup
+        = !screen.contains(u'-') && screen != u"update" && screen != u"progress" && screen != u"ready";
+    if (isPopup) {
+        view.show();
+    } else if (screen == u"update") {
+        updateInterface.askAboutUpdate(
+            update(), QStringLiteral("Vantle"), QStringLiteral("1.0"), [](auto) {});
+    } else if (screen == u"progress") {
+        updateInterface.downloadStarted(update(), [] {});
+        updateInterface.downloadProgressed(3'400'000, 9'100'000);
+    } else if (screen == u"ready") {
+        updateInterface.showDownloadReady(
+            update(), QStringLiteral("/home/user/Downloads/Vantle-1.4.tar.gz"), false);
+    } else {
+        settings.open();
+        settings.view()->setSelectedTab(screen == u"settings-about" ? SettingsView::aboutTab
+                : screen == u"settings-more"                        ? SettingsView::moreTab
+                                                                    : SettingsView::generalTab);
+    }
 
     QTimer::singleShot(300, &view, [&] {
         if (screen == u"longest") {
@@ -158,7 +220,8 @@ int main(int argc, char **argv)
     QTimer::singleShot(1100, &view, [&] {
         std::printf("view %dx%d\n", view.width(), view.height());
         std::fflush(stdout);
-        const QRect frame = view.frameGeometry().adjusted(-20, -20, 80, 40);
+        const QRect frame
+            = isPopup ? view.frameGeometry().adjusted(-20, -20, 80, 40) : view.screen()->geometry();
         const QString crop = QStringLiteral("%1x%2+%3+%4")
                                  .arg(frame.width())
                                  .arg(frame.height())

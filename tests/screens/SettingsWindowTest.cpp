@@ -22,12 +22,10 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTcpServer>
 #include <QTest>
-#include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -38,17 +36,9 @@ namespace {
 class FakeLoginItemService : public LoginItemService {
 public:
     bool isEnabled() const override { return enabled; }
-    bool registerItem() override { return change(true); }
-    bool unregisterItem() override { return change(false); }
-    bool change(bool on)
-    {
-        if (!accepts)
-            return false;
-        enabled = on;
-        return true;
-    }
+    bool registerItem() override { return enabled = true; }
+    bool unregisterItem() override { return !(enabled = false); }
     bool enabled = false;
-    bool accepts = true;
 };
 
 class QuietUpdateInterface : public UpdateUserInterface {
@@ -209,24 +199,16 @@ TEST(SettingsView, PickersShowStoredValuesThatNameNoEntry)
     EXPECT_EQ(view->historyLimitPicker()->currentText(), QStringLiteral("40"));
 }
 
-TEST(SettingsView, LaunchAtLoginFollowsTheRealLoginItem)
+// The rules are LaunchAtLogin's (tested with the services); here only that the toggle uses them.
+TEST(SettingsView, LaunchAtLoginToggleShowsAndChangesTheRealLoginItem)
 {
     Shell shell;
     shell.store().setBool(launchAtLogin, true); // the preference says yes, the desktop says no
     SettingsView *view = shell.open();
     EXPECT_FALSE(view->launchAtLoginToggle()->isChecked());
-    EXPECT_FALSE(shell.store().boolForKey(launchAtLogin));
-
-    clickBox(view->launchAtLoginToggle());
-    EXPECT_TRUE(shell.loginItems.enabled);
-    EXPECT_TRUE(shell.store().boolForKey(launchAtLogin));
-
-    // A refused change moves the toggle back to the truth.
-    shell.loginItems.accepts = false;
     clickBox(view->launchAtLoginToggle());
     EXPECT_TRUE(shell.loginItems.enabled);
     EXPECT_TRUE(view->launchAtLoginToggle()->isChecked());
-    EXPECT_TRUE(shell.store().boolForKey(launchAtLogin));
 }
 
 TEST(SettingsView, RecordedShortcutIsRegisteredWithTheDesktop)
@@ -311,9 +293,6 @@ TEST(SettingsWindow, ReusedWhileVisibleAndRebuiltOnGeneralAfterClosing)
     Shell shell;
     SettingsView *first = shell.open();
     ASSERT_TRUE(first->isVisible());
-    EXPECT_EQ(first->windowTitle(), QStringLiteral("Vantle Settings"));
-    EXPECT_EQ(first->size(), QSize(450, 520));
-    EXPECT_EQ(first->minimumSize(), first->maximumSize()) << "not resizable";
     first->setSelectedTab(SettingsView::moreTab);
 
     EXPECT_EQ(shell.open(), first);

@@ -1,39 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Shows one screen of the popup, a settings page or an update dialog on a real X display in a
-// light or dark theme and captures the screen with ImageMagick's `import`, for looking at the
-// screens as a person sees them.
+// Shows one screen of the popup on a real X display in a light or dark theme and captures the
+// screen with ImageMagick's `import`, for looking at the screens as a person sees them.
 //
-//   screens_showcase --theme light|dark --output shot.png --screen empty|list|detail|longest|rename
-//       |settings-general|settings-about|settings-more|update|progress|ready
+//   screens_showcase --theme light|dark --screen empty|list|detail|longest|rename --output shot.png
 //
 // Prints "view <width>x<height>" of the colour list view so the calling script can check it.
 // "longest" is the detail screen of the colour whose texts are longest (white, a 40-character
 // name): every text on it must be drawn whole, else it prints what was cut and exits with 1.
 #include "history/ColorListViewModel.h"
-#include "hotkeys/GlobalShortcutBackend.h"
-#include "hotkeys/HotkeyManager.h"
 #include "model/ColorHistoryCodec.h"
-#include "platform/network/QtUpdateNetwork.h"
 #include "screens/ColorDetailView.h"
 #include "screens/ColorListView.h"
 #include "screens/ColorRowView.h"
-#include "screens/DialogUpdateInterface.h"
 #include "screens/ElidedLabel.h"
 #include "screens/FormatLine.h"
-#include "screens/SettingsView.h"
-#include "screens/SettingsWindow.h"
-#include "services/Appcast.h"
-#include "services/LoginItemService.h"
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
-#include "services/SettingsViewModel.h"
-#include "services/UpdaterController.h"
 #include "support/HistoryFakes.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QProcess>
-#include <QScreen>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTemporaryDir>
@@ -43,47 +30,11 @@
 
 namespace {
 
-class ShowcaseLoginItems : public LoginItemService {
-public:
-    bool isEnabled() const override { return true; }
-    bool registerItem() override { return true; }
-    bool unregisterItem() override { return false; }
-};
-
-AppcastItem update()
-{
-    AppcastItem update;
-    update.version = QStringLiteral("142");
-    update.displayVersion = QStringLiteral("1.4");
-    update.title = QStringLiteral("Vantle 1.4");
-    update.releaseNotes = QStringLiteral(
-        "<h3>What's new</h3><ul><li>Pick colours on every monitor, also at fractional scaling.</li>"
-        "<li>Export the palette as JSON.</li></ul><p style=\"font-size:1px\">hidden text from a hostile "
-        "feed</p><img src=\"https://example.com/track.png\">");
-    return update;
-}
-
 QPalette darkPalette()
 {
-    QPalette p;
-    const QColor window(0x2A, 0x2A, 0x2C);
-    const QColor text(0xEC, 0xEC, 0xEE);
-    p.setColor(QPalette::Window, window);
-    p.setColor(QPalette::WindowText, text);
-    p.setColor(QPalette::Base, QColor(0x1E, 0x1E, 0x20));
-    p.setColor(QPalette::AlternateBase, QColor(0x32, 0x32, 0x34));
-    p.setColor(QPalette::Text, text);
-    p.setColor(QPalette::Button, QColor(0x3A, 0x3A, 0x3C));
-    p.setColor(QPalette::ButtonText, text);
-    p.setColor(QPalette::Highlight, QColor(0x3D, 0x7E, 0xF0));
-    p.setColor(QPalette::HighlightedText, Qt::white);
-    p.setColor(QPalette::ToolTipBase, window);
-    p.setColor(QPalette::ToolTipText, text);
-    p.setColor(QPalette::PlaceholderText, QColor(0x8A, 0x8A, 0x8E));
-    p.setColor(QPalette::Disabled, QPalette::WindowText, QColor(0x7A, 0x7A, 0x7E));
-    p.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x7A, 0x7A, 0x7E));
-    p.setColor(QPalette::Disabled, QPalette::Text, QColor(0x7A, 0x7A, 0x7E));
-    return p;
+    QPalette palette(QColor(0x3A, 0x3A, 0x3C), QColor(0x2A, 0x2A, 0x2C)); // button, window
+    palette.setColor(QPalette::Highlight, QColor(0x3D, 0x7E, 0xF0));
+    return palette;
 }
 
 PickedColor sample(double r, double g, double b, bool pinned = false, const char *name = nullptr)
@@ -148,10 +99,6 @@ int main(int argc, char **argv)
 
     QTemporaryDir dir;
     SettingsStore store(dir.filePath(QStringLiteral("Vantle.conf")));
-    SettingsViewModel::registerDefaults(store);
-    store.setInteger(PreferenceKeys::pickKeyCode, 8); // Alt+Shift+C
-    store.setInteger(PreferenceKeys::pickModifiers, 655360);
-    store.setString(PreferenceKeys::pickKeyChar, QStringLiteral("C"));
     const QString screen = parser.value(QStringLiteral("screen"));
     QList<PickedColor> colors;
     if (screen == u"longest") {
@@ -179,32 +126,7 @@ int main(int argc, char **argv)
         model, store, [] {}, [] {});
     view.setWindowTitle(QStringLiteral("vantle"));
     view.move(40, 40);
-    NullShortcutBackend backend;
-    HotkeyManager hotkeys(store, backend);
-    ShowcaseLoginItems loginItems;
-    QtUpdateNetwork network;
-    DialogUpdateInterface updateInterface;
-    UpdaterController updater(store, network, updateInterface);
-    SettingsWindow settings(store, hotkeys, loginItems, updater, &model);
-    const bool isPopup
-        = !screen.contains(u'-') && screen != u"update" && screen != u"progress" && screen != u"ready";
-    if (isPopup) {
-        view.show();
-    } else if (screen == u"update") {
-        updateInterface.askAboutUpdate(
-            update(), QStringLiteral("Vantle"), QStringLiteral("1.0"), [](auto) {});
-    } else if (screen == u"progress") {
-        updateInterface.downloadStarted(update(), [] {});
-        updateInterface.downloadProgressed(3'400'000, 9'100'000);
-    } else if (screen == u"ready") {
-        updateInterface.showDownloadReady(
-            update(), QStringLiteral("/home/user/Downloads/Vantle-1.4.tar.gz"), false);
-    } else {
-        settings.open();
-        settings.view()->setSelectedTab(screen == u"settings-about" ? SettingsView::aboutTab
-                : screen == u"settings-more"                        ? SettingsView::moreTab
-                                                                    : SettingsView::generalTab);
-    }
+    view.show();
 
     QTimer::singleShot(300, &view, [&] {
         if (screen == u"longest") {
@@ -220,8 +142,7 @@ int main(int argc, char **argv)
     QTimer::singleShot(1100, &view, [&] {
         std::printf("view %dx%d\n", view.width(), view.height());
         std::fflush(stdout);
-        const QRect frame
-            = isPopup ? view.frameGeometry().adjusted(-20, -20, 80, 40) : view.screen()->geometry();
+        const QRect frame = view.frameGeometry().adjusted(-20, -20, 80, 40);
         const QString crop = QStringLiteral("%1x%2+%3+%4")
                                  .arg(frame.width())
                                  .arg(frame.height())

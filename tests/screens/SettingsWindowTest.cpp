@@ -36,9 +36,17 @@ namespace {
 class FakeLoginItemService : public LoginItemService {
 public:
     bool isEnabled() const override { return enabled; }
-    bool registerItem() override { return enabled = true; }
-    bool unregisterItem() override { return !(enabled = false); }
+    bool registerItem() override { return change(true); }
+    bool unregisterItem() override { return change(false); }
+    bool change(bool on)
+    {
+        if (!accepts)
+            return false;
+        enabled = on;
+        return true;
+    }
     bool enabled = false;
+    bool accepts = true;
 };
 
 class QuietUpdateInterface : public UpdateUserInterface {

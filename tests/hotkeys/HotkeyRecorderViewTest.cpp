@@ -189,5 +189,4 @@ TEST(HotkeyRecorderView, StoredCodeWithoutTextShowsNoneButOffersClear)
     view.show();
     EXPECT_EQ(view.field()->text(), QStringLiteral("None - click to set"));
     EXPECT_TRUE(view.clearButton()->isVisible());
-    EXPECT_GE(view.field()->sizeHint().width(), 130);
 }

@@ -254,10 +254,12 @@ TEST_F(XcbShortcuts, ChangedShortcutReleasesTheOldCombinationAtOnce)
 
 TEST_F(XcbShortcuts, CombinationHeldByAnotherClientLeavesTheOtherShortcutWorking)
 {
-    QProcess helper;
-    helper.start(QStringLiteral(XGRAB_HELPER), { QStringLiteral("c") });
-    ASSERT_TRUE(helper.waitForReadyRead(10000));
-    ASSERT_EQ(helper.readLine().trimmed(), QByteArray("grabbed"));
+    // Another X client holds Alt+Shift+C before we ask for it, as a desktop's own shortcut daemon would.
+    xcb_connection_t *other = xcb_connect(nullptr, nullptr);
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(other)).data->root;
+    ASSERT_FALSE(xcb_request_check(other,
+        xcb_grab_key_checked(other, 1, root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT,
+            backend->keycodesForKey(8).first(), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC)));
 
     manager->reregisterAll();
     spy();
@@ -268,8 +270,7 @@ TEST_F(XcbShortcuts, CombinationHeldByAnotherClientLeavesTheOtherShortcutWorking
     pressThenMarker(QStringLiteral("alt+shift+c"));
     xdotool({ QStringLiteral("key"), QStringLiteral("Num_Lock") });
     EXPECT_EQ(pick->count(), 1);
-    helper.closeWriteChannel();
-    EXPECT_TRUE(helper.waitForFinished(10000));
+    xcb_disconnect(other);
 }
 
 TEST_F(XcbShortcuts, EveryRecordableKeyIsGrabbedOnItself)

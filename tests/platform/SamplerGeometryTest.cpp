@@ -80,19 +80,6 @@ TEST(SamplerGeometry, ArrowNudgesStopAtEdgesAndCrossOntoNeighbours)
         EXPECT_EQ(nudged(screens, c.from, c.dx, c.dy), c.expected) << c.from << " by " << c.dx << "," << c.dy;
 }
 
-TEST(SamplerGeometry, ZoomStepsStayWithinBounds)
-{
-    EXPECT_EQ(zoomedIn(defaultZoom), 16);
-    EXPECT_EQ(zoomedOut(defaultZoom), 10);
-    EXPECT_EQ(zoomedIn(maximumZoom), maximumZoom);
-    EXPECT_EQ(zoomedOut(minimumZoom), minimumZoom);
-    for (int z = minimumZoom; z <= maximumZoom; ++z) {
-        const int across = loupePixelsAcross(132, z);
-        EXPECT_EQ(across % 2, 1) << z;
-        EXPECT_GE(across * z, 132) << "the lens must be filled at zoom " << z;
-    }
-}
-
 TEST(SamplerGeometry, LoupeFlipsToStayOnScreen)
 {
     const QRect screen(1920, 0, 1920, 1080);

@@ -228,18 +228,6 @@ TEST_F(XcbShortcuts, EveryPressOfASeriesFiresWhereverTheReleaseGoes)
     taker.release();
 }
 
-TEST_F(XcbShortcuts, UnsetPopoverRegistersNothing)
-{
-    setShortcut(popoverKeyCode, popoverModifiers, -1, 655360);
-    manager->reregisterAll();
-    spy();
-    key(QStringLiteral("alt+shift+x"));
-    key(QStringLiteral("alt+shift+c"));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() > 0; }, 10000));
-    EXPECT_EQ(popover->count(), 0);
-    EXPECT_EQ(pick->count(), 1);
-}
-
 TEST_F(XcbShortcuts, ChangedShortcutReleasesTheOldCombinationAtOnce)
 {
     manager->reregisterAll();

@@ -11,8 +11,6 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-using Step = OnboardingView::Step;
-
 namespace {
 
 struct Onboarding : ::testing::Test {
@@ -59,38 +57,6 @@ TEST_F(Onboarding, ButtonsWorkOnlyOnceShownAndOnlyGetStartedWrites)
     press(view->startUsingButtonRect());
     EXPECT_EQ(completions, 1);
     EXPECT_EQ(writes.count(), 1);
-}
-
-// The motion in order: the icon springs past its place and back, the glow pulses forever; after
-// Get Started the ring closes before the check mark starts, and the shimmer sweeps again.
-TEST_F(Onboarding, MotionRunsInOrderAndKeepsRepeating)
-{
-    const struct {
-        qint64 at;
-        Step step;
-        qreal low, high;
-    } moments[] = {
-        { 400, Step::IconLanded, 0.3, 0.95 }, // rising on the spring
-        { 620, Step::IconLanded, 1.02, 1.07 }, // overshooting near its peak
-        { 3300, Step::GlowPulse, 0.99, 1.0 }, // fully up after 2 s
-        { 5300, Step::GlowPulse, 0.0, 0.01 }, // down again after 4 s
-        { 6300, Step::GlowPulse, 0.45, 0.55 }, // and repeating
-        { 6300 + 700, Step::CircleTrim, 0.01, 0.99 }, // ring under way, check mark not yet
-        { 6300 + 700, Step::CheckmarkTrim, 0, 0 },
-        { 6300 + 1000, Step::CircleTrim, 1, 1 }, // ring closed, check mark under way
-        { 6300 + 1000, Step::CheckmarkTrim, 0.01, 0.99 },
-        { 6300 + 4290, Step::Shimmer, 0.98, 1 }, // end of the first sweep
-        { 6300 + 4310, Step::Shimmer, 0, 0.02 }, // the band starts again from the leading side
-    };
-    for (const auto &m : moments) {
-        if (m.at == 6300 + 700) {
-            driver.advanceTo(6300);
-            view->getStarted();
-        }
-        driver.advanceTo(m.at);
-        EXPECT_GE(view->progress(m.step), m.low) << m.at;
-        EXPECT_LE(view->progress(m.step), m.high) << m.at;
-    }
 }
 
 // A hidden or dropped view must leave nothing that wakes the program (a tray program idles).

@@ -63,14 +63,6 @@ TEST(HotkeyManager, UnsetOrUnregistrableShortcutsRegisterNothing)
     }
 }
 
-TEST(HotkeyManager, OnlyTheFourModifierBitsReachTheBackend)
-{
-    Fixture f;
-    f.setPick(8, 655360 | 65536 | 8388608); // caps lock and function bits
-    f.manager.registerPickHotkey();
-    EXPECT_EQ(f.backend.calls, QStringList({ "register 1 8 655360" }));
-}
-
 TEST(HotkeyManager, PressesBecomeSignalsOnlyOnceTheHandlerIsInstalled)
 {
     Fixture f;

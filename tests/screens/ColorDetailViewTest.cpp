@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ColorDetailView.h"
-#include "screens/ContrastBadge.h"
 #include "screens/FormatLine.h"
 
 #include <QTest>
@@ -100,20 +99,4 @@ TEST(ColorDetailView, KeyboardCopiesAndBacksOut)
     QTest::mouseClick(
         harness.view.findChild<QAbstractButton *>(QStringLiteral("backButton")), Qt::LeftButton);
     EXPECT_EQ(harness.backs, 2);
-}
-
-TEST(ColorDetailView, BadgesCompareWithWhiteAndBlackRespectively)
-{
-    const struct {
-        double grey;
-        const char *white, *whiteLevel, *black, *blackLevel;
-    } cases[] = { { 0.5, "4.0:1", "AA Large", "5.3:1", "AA" }, { 0.345, "7.1:1", "AAA", "3.0:1", "Fail" } };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.grey);
-        DetailHarness harness(makeColor(c.grey, c.grey, c.grey));
-        EXPECT_EQ(harness.view.whiteBadge()->ratio(), QLatin1String(c.white));
-        EXPECT_EQ(harness.view.whiteBadge()->level(), QLatin1String(c.whiteLevel));
-        EXPECT_EQ(harness.view.blackBadge()->ratio(), QLatin1String(c.black));
-        EXPECT_EQ(harness.view.blackBadge()->level(), QLatin1String(c.blackLevel));
-    }
 }

@@ -177,16 +177,3 @@ TEST(HotkeyRecorderView, ClearWritesNoShortcutAndKeepsRecording)
     EXPECT_FALSE(pane.recorder->clearButton()->isVisible());
     EXPECT_EQ(pane.recorder->field()->toolTip(), QString());
 }
-
-TEST(HotkeyRecorderView, StoredCodeWithoutTextShowsNoneButOffersClear)
-{
-    TempSettings settings;
-    settings.store->setInteger(popoverKeyCode, 7);
-    settings.store->setInteger(popoverModifiers, 655360);
-    settings.store->setString(popoverKeyChar, QString());
-    HotkeyRecorderView view(QStringLiteral("Toggle popover"), *settings.store, popoverKeyCode,
-        popoverModifiers, popoverKeyChar, [] {});
-    view.show();
-    EXPECT_EQ(view.field()->text(), QStringLiteral("None - click to set"));
-    EXPECT_TRUE(view.clearButton()->isVisible());
-}

@@ -276,26 +276,6 @@ TEST_F(XcbShortcuts, EveryRecordableKeyIsGrabbedOnItself)
     EXPECT_GT(keys, 200);
 }
 
-TEST_F(XcbShortcuts, SameCombinationForBothGoesToPick)
-{
-    setShortcut(popoverKeyCode, popoverModifiers, 8, 655360);
-    manager->reregisterAll();
-    spy();
-    for (int press = 1; press <= 3; ++press) {
-        xdotool({ QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("80"),
-            QStringLiteral("alt+shift+c") });
-        ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() >= press; }, 10000)) << "press " << press;
-    }
-    EXPECT_EQ(popover->count(), 0);
-
-    // Releasing pick alone must not take the combination from under the popover's record.
-    backend->unregisterShortcut(HotkeyManager::pickId);
-    setShortcut(popoverKeyCode, popoverModifiers, 7, 655360);
-    manager->registerPopoverHotkey();
-    pressThenMarker(QStringLiteral("alt+shift+c"));
-    EXPECT_EQ(pick->count(), 3) << "pick is no longer registered";
-}
-
 TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)
 {
     manager->reregisterAll();

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ColorDetailView.h"
+#include "screens/ColorListView.h"
+#include "screens/ElidedLabel.h"
 #include "screens/FormatLine.h"
 
 #include <QTest>
@@ -99,4 +101,29 @@ TEST(ColorDetailView, KeyboardCopiesAndBacksOut)
     QTest::mouseClick(
         harness.view.findChild<QAbstractButton *>(QStringLiteral("backButton")), Qt::LeftButton);
     EXPECT_EQ(harness.backs, 2);
+}
+
+// White has the longest value in every format, here with a 40-character name, in the popup's
+// width: every text is drawn whole, measured afresh rather than trusted to the size hints. The
+// code initialisers, wider than the popup by design, keep their opening and end and the line's
+// tooltip holds them whole.
+TEST(ColorDetailView, TheLongestTextsAreDrawnWholeInThePopupsWidth)
+{
+    DetailHarness harness(makeColor(1, 1, 1, QStringLiteral("Warm sunset orange for the spring banner")));
+    harness.view.setFixedWidth(ColorListView::viewWidth);
+    harness.view.adjustSize();
+    for (const ElidedLabel *label : harness.view.findChildren<ElidedLabel *>()) {
+        SCOPED_TRACE(label->text().toStdString());
+        const auto *line = qobject_cast<const FormatLine *>(label->parentWidget());
+        if (line && (line->format() == ColorFormat::swiftUI || line->format() == ColorFormat::uiColor)
+            && label->objectName() == u"valueLabel") {
+            EXPECT_EQ(line->toolTip(), line->value());
+            EXPECT_TRUE(label->shownText().startsWith(line->value().left(8)));
+            EXPECT_TRUE(label->shownText().endsWith(line->value().right(6)));
+        } else if (label->hasHeightForWidth()) {
+            EXPECT_LE(label->heightForWidth(label->width()), label->height());
+        } else {
+            EXPECT_LE(QFontMetricsF(label->shownFont()).horizontalAdvance(label->text()), label->width());
+        }
+    }
 }

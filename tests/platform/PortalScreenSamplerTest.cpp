@@ -187,19 +187,4 @@ TEST(PortalScreenSampler, NoPortalEndsWithNothingQuietly)
     EXPECT_FALSE(outcome.color);
 }
 
-TEST(PortalScreenSampler, SecondPickWhileOneRunsEndsWithNothing)
-{
-    FakeScreenshotPortal portal(QStringLiteral("fake-portal-2"));
-    ASSERT_TRUE(portal.isRegistered());
-    PortalScreenSampler sampler(QDBusConnection::sessionBus());
-    int firstCalls = 0, secondCalls = 0;
-    std::optional<SampledColor> first, second = SampledColor {};
-    sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor> c) { ++firstCalls, first = c; });
-    sampler.pick(ColorFormat::hex, [&](std::optional<SampledColor> c) { ++secondCalls, second = c; });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return firstCalls && secondCalls; }, 10000));
-    EXPECT_TRUE(first);
-    EXPECT_FALSE(second);
-    EXPECT_EQ(portal.calls, 1);
-}
-
 #include "PortalScreenSamplerTest.moc"

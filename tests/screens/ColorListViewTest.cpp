@@ -304,33 +304,11 @@ TEST_F(ColorListViewTest, PickButtonReadsPickingAndRefusesWhileAPickRuns)
     EXPECT_EQ(child("countBadge")->accessibleName(), u"1");
 }
 
-TEST_F(ColorListViewTest, FooterButtonsAndExportEntries)
+TEST_F(ColorListViewTest, FooterButtonsOpenTheSettingsAndQuit)
 {
     build({ makeColor(1, 0, 0, true), makeColor(0, 1, 0) });
     QTest::mouseClick(child<QAbstractButton>("settingsButton"), Qt::LeftButton);
     EXPECT_EQ(settingsOpened, 1);
     QTest::mouseClick(child<QAbstractButton>("quitButton"), Qt::LeftButton);
     EXPECT_EQ(quits, 1);
-
-    const struct {
-        const char *item;
-        bool asJSON;
-        const char *proposed;
-    } entries[] = {
-        { "Export Pinned as Text", false, "pinned-colors.txt" },
-        { "Export Pinned as JSON", true, "pinned-colors.json" },
-        { "Export All as Text", false, "colors.txt" },
-        { "Export All as JSON", true, "colors.json" },
-    };
-    for (const auto &e : entries) {
-        SCOPED_TRACE(e.item);
-        QTest::mouseClick(child<QAbstractButton>("exportButton"), Qt::LeftButton);
-        QTRY_VERIFY(view->exportMenu()->isVisible());
-        clickAction(view->exportMenu(), QLatin1String(e.item));
-        ASSERT_FALSE(dialogs.saveRequests.isEmpty());
-        EXPECT_EQ(dialogs.saveRequests.last().asJSON, e.asJSON);
-        EXPECT_EQ(dialogs.saveRequests.last().proposedName, QLatin1String(e.proposed));
-        QTRY_VERIFY(!view->exportMenu()->isVisible());
-    }
-    EXPECT_EQ(dialogs.saveRequests.size(), 4);
 }

@@ -80,25 +80,6 @@ TEST(KeyCodes, OnlyTheFourStoredBitsBecomePlatformModifiers)
     EXPECT_EQ(storedModifiersForQt(Qt::MetaModifier | Qt::GroupSwitchModifier), commandFlag);
 }
 
-TEST(KeyCodes, TextsListModifiersInTheFixedOrder)
-{
-    struct Row {
-        qint64 modifiers;
-        QString keyChar;
-        QString text;
-    };
-    const Row rows[] = {
-        { 655360, QStringLiteral("C"), QStringLiteral("Alt+Shift+C") },
-        { allFlags, QStringLiteral("X"), QStringLiteral("Ctrl+Alt+Shift+Super+X") },
-        { commandFlag, QStringLiteral("1"), QStringLiteral("Super+1") },
-        { 655360 | 65536, QStringLiteral("K"), QStringLiteral("Alt+Shift+K") },
-        { 655360, QString(), QString() },
-        { -1, QStringLiteral("C"), QString() },
-    };
-    for (const Row &row : rows)
-        EXPECT_EQ(shortcutDesktopText(row.modifiers, row.keyChar), row.text) << row.modifiers;
-}
-
 TEST(KeyCodes, PortalTriggerUsesTheDesktopNotation)
 {
     EXPECT_EQ(portalTrigger(8, 655360), QStringLiteral("ALT+SHIFT+c"));

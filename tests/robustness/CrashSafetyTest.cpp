@@ -131,6 +131,4 @@ TEST(CrashSafety, KilledSavesLoseNoReportedColourAndLeaveNoStaleLock)
     EXPECT_LT(slowestWriteMs, 10000) << "a lock left by a killed save held up the next start";
     EXPECT_GT(killsDuringSaves, kills / 2);
     EXPECT_GE(reported.size(), killsDuringSaves / 2) << "too few saves completed for the kills to mean much";
-    std::printf("%d kills (%d during saves), %lld reported saves, all kept\n", kills, killsDuringSaves,
-        static_cast<long long>(reported.size()));
 }

@@ -86,23 +86,6 @@ TEST(ColorDetailView, ClickCopiesThatFormatAndOnlyTheNewestResetClearsTheMark)
     EXPECT_EQ(harness.view.copiedFormat(), std::nullopt);
 }
 
-TEST(ColorDetailView, KeyboardCopiesAndBacksOut)
-{
-    DetailHarness harness(makeColor(0.5, 0.5, 0.5));
-    harness.view.line(ColorFormat::hsl)->setFocus();
-    QTest::keyClick(harness.view.line(ColorFormat::hsl), Qt::Key_Down);
-    EXPECT_TRUE(harness.view.line(ColorFormat::hsb)->hasFocus());
-    QTest::keyClick(harness.view.line(ColorFormat::hsb), Qt::Key_Return);
-    ASSERT_EQ(harness.copies.size(), 1);
-    EXPECT_EQ(harness.copies[0].format, ColorFormat::hsb);
-
-    QTest::keyClick(harness.view.line(ColorFormat::hsb), Qt::Key_Escape);
-    EXPECT_EQ(harness.backs, 1);
-    QTest::mouseClick(
-        harness.view.findChild<QAbstractButton *>(QStringLiteral("backButton")), Qt::LeftButton);
-    EXPECT_EQ(harness.backs, 2);
-}
-
 // White has the longest value in every format, here with a 40-character name, in the popup's
 // width: every text is drawn whole, measured afresh rather than trusted to the size hints. The
 // code initialisers, wider than the popup by design, keep their opening and end and the line's

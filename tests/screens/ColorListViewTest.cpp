@@ -284,26 +284,6 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
     }
 }
 
-TEST_F(ColorListViewTest, PickButtonReadsPickingAndRefusesWhileAPickRuns)
-{
-    build({});
-    auto *pick = child<QAbstractButton>("pickButton");
-    QTest::mouseClick(pick, Qt::LeftButton);
-    ASSERT_TRUE(sampler.isOpen());
-    EXPECT_EQ(pick->text(), u"Picking…");
-    EXPECT_FALSE(pick->isEnabled());
-    QTest::mouseClick(pick, Qt::LeftButton);
-    EXPECT_EQ(sampler.pickCount, 1);
-
-    sampler.finish(0.2, 0.4, 0.8);
-    EXPECT_EQ(pick->text(), u"Pick Color");
-    EXPECT_TRUE(pick->isEnabled());
-    EXPECT_FALSE(shown("emptyState"));
-    ASSERT_EQ(view->rows().size(), 1);
-    EXPECT_TRUE(shown("recentHeader"));
-    EXPECT_EQ(child("countBadge")->accessibleName(), u"1");
-}
-
 TEST_F(ColorListViewTest, FooterButtonsOpenTheSettingsAndQuit)
 {
     build({ makeColor(1, 0, 0, true), makeColor(0, 1, 0) });

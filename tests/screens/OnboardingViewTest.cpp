@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/OnboardingView.h"
 #include "ManualAnimationDriver.h"
-#include "screens/OnboardingWindow.h"
 #include "services/PreferenceKeys.h"
 #include "support/TempSettings.h"
 
-#include <QAbstractButton>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -95,20 +93,4 @@ TEST(OnboardingViewCallback, HostMayDestroyTheViewInsideOnComplete)
     driver.advanceTo(1300 + 2500);
     view->startUsing();
     EXPECT_TRUE(view.isNull());
-}
-
-TEST(OnboardingWindowTest, CloseButtonEndsTheWelcomeWithoutRecordingIt)
-{
-    TempSettings settings;
-    OnboardingWindow window(
-        *settings.store, [] {}, false);
-    window.present();
-    QSignalSpy closed(&window, &OnboardingWindow::closed);
-    auto *close = window.findChild<QAbstractButton *>(QStringLiteral("onboardingClose"));
-    ASSERT_NE(close, nullptr);
-    close->click();
-    EXPECT_EQ(closed.count(), 1);
-    EXPECT_FALSE(window.isVisible());
-    EXPECT_FALSE(window.view()->isAnimating());
-    EXPECT_FALSE(settings.store->boolForKey(PreferenceKeys::onboardingShown));
 }

@@ -184,20 +184,6 @@ TEST(SettingsView, LoweringTheHistoryLimitAsksBeforeRemovingColors)
     }
 }
 
-TEST(SettingsView, PickersShowStoredValuesThatNameNoEntry)
-{
-    Shell shell;
-    shell.store().setString(colorFormat, QStringLiteral("Teal"));
-    shell.store().setInteger(historyLimit, 40);
-    SettingsView *view = shell.open();
-
-    EXPECT_EQ(view->formatPicker()->currentText(), QStringLiteral("Hex"));
-    choose(view->formatPicker(), QStringLiteral("RGB (decimal)"));
-    EXPECT_EQ(shell.store().stringForKey(colorFormat), QStringLiteral("RGB (decimal)"));
-    // 40 is no entry of the list; it is shown as it is rather than replaced by a neighbour.
-    EXPECT_EQ(view->historyLimitPicker()->currentText(), QStringLiteral("40"));
-}
-
 // The rules are LaunchAtLogin's (tested with the services); here only that the toggle uses them.
 TEST(SettingsView, LaunchAtLoginToggleShowsAndChangesTheRealLoginItem)
 {

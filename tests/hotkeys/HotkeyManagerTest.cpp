@@ -79,19 +79,3 @@ TEST(HotkeyManager, PressesBecomeSignalsOnlyOnceTheHandlerIsInstalled)
     EXPECT_EQ(pick.count(), 1);
     EXPECT_EQ(popover.count(), 1);
 }
-
-TEST(HotkeyManager, SuspendedManagerHoldsNothingAndResumesFromCurrentPreferences)
-{
-    Fixture f;
-    f.manager.reregisterAll();
-    f.manager.setSuspended(true);
-    EXPECT_TRUE(f.backend.registered.isEmpty());
-    f.manager.reregisterAll(); // a change recorded while suspended
-    EXPECT_TRUE(f.backend.registered.isEmpty());
-
-    f.setPick(3, 1048576);
-    f.manager.setSuspended(false);
-    ASSERT_EQ(f.backend.registered.size(), 2);
-    EXPECT_EQ(f.backend.registered.at(0).keyCode, 3u);
-    EXPECT_EQ(f.backend.registered.at(0).modifiers, 1048576);
-}

@@ -82,22 +82,16 @@ TEST(HotkeyRecorderView, AcceptedPressesStoreThePhysicalKeyAndTheTextItTypes)
     const Row rows[] = {
         { "option-shift-C", Qt::Key_C, Qt::AltModifier | Qt::ShiftModifier, 54, QStringLiteral("C"), 8,
             655360, QStringLiteral("C"), QStringLiteral("Alt+Shift+C") },
-        { "command-1", Qt::Key_1, Qt::MetaModifier, 10, QStringLiteral("1"), 18, 1048576, QStringLiteral("1"),
-            QStringLiteral("Super+1") },
         { "option-K typing lower case", Qt::Key_K, Qt::AltModifier, 45, QStringLiteral("k"), 40, 524288,
             QStringLiteral("K"), QStringLiteral("Alt+K") },
         { "control on a French keyboard: the A key types Q", Qt::Key_Q, Qt::ControlModifier, 38,
             QStringLiteral("\x11"), 0, 262144, QStringLiteral("Q"), QStringLiteral("Ctrl+Q") },
         { "keypad flag does not leak", Qt::Key_X, Qt::AltModifier | Qt::KeypadModifier, 53,
             QStringLiteral("x"), 7, 524288, QStringLiteral("X"), QStringLiteral("Alt+X") },
-        { "a key that types nothing", Qt::Key_F5, Qt::ControlModifier | Qt::AltModifier, 71, QString(), 96,
-            786432, QStringLiteral("F5"), QStringLiteral("Ctrl+Alt+F5") },
         { "keypad 1 with Num Lock off", Qt::Key_End, Qt::AltModifier | Qt::KeypadModifier, 87, QString(), 83,
             524288, QStringLiteral("1"), QStringLiteral("Alt+1") },
         { "F13, which the standard keymap calls Tools", Qt::Key_Tools, Qt::ControlModifier, 191, QString(),
             105, 262144, QStringLiteral("F13"), QStringLiteral("Ctrl+F13") },
-        { "Play, which Macs have no code for", Qt::Key_MediaPlay, Qt::ControlModifier, 172, QString(),
-            0x100 + 164, 262144, QStringLiteral("Media Play"), QStringLiteral("Ctrl+Media Play") },
     };
     for (const Row &row : rows) {
         SCOPED_TRACE(row.what);
@@ -176,18 +170,4 @@ TEST(HotkeyRecorderView, ClearWritesNoShortcutAndKeepsRecording)
     EXPECT_EQ(pane.fieldText(), QStringLiteral("None - click to set"));
     EXPECT_FALSE(pane.recorder->clearButton()->isVisible());
     EXPECT_EQ(pane.recorder->field()->toolTip(), QString());
-}
-
-TEST(HotkeyRecorderView, StoredCodeWithoutTextShowsNoneButOffersClear)
-{
-    TempSettings settings;
-    settings.store->setInteger(popoverKeyCode, 7);
-    settings.store->setInteger(popoverModifiers, 655360);
-    settings.store->setString(popoverKeyChar, QString());
-    HotkeyRecorderView view(QStringLiteral("Toggle popover"), *settings.store, popoverKeyCode,
-        popoverModifiers, popoverKeyChar, [] {});
-    view.show();
-    EXPECT_EQ(view.field()->text(), QStringLiteral("None - click to set"));
-    EXPECT_TRUE(view.clearButton()->isVisible());
-    EXPECT_GE(view.field()->sizeHint().width(), 130);
 }

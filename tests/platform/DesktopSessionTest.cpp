@@ -16,11 +16,9 @@ TEST(DesktopSession, ChoosesEveryBackendByOverrideThenSession)
         BackendChoice expected;
     } cases[] = {
         { "xcb", "x11", yes, no, "", "", "", { S::x11, C::qt, K::x11 } },
-        { "xcb", "", yes, no, "", "", "", { S::x11, C::qt, K::x11 } },
         // An X11 session that happens to inherit a stale WAYLAND_DISPLAY.
         { "xcb", "x11", yes, yes, "", "", "", { S::x11, C::qt, K::x11 } },
         { "wayland", "wayland", no, yes, "", "", "", { S::portal, C::dataControl, K::portal } },
-        { "wayland-egl", "", no, yes, "", "", "", { S::portal, C::dataControl, K::portal } },
         { "wayland", "", no, no, "", "", "", { S::portal, C::dataControl, K::portal } },
         // XWayland: the X root shows nothing of the other clients, and the compositor's
         // clipboard is reached directly rather than through the bridge.
@@ -32,7 +30,6 @@ TEST(DesktopSession, ChoosesEveryBackendByOverrideThenSession)
         { "xcb", "x11", yes, no, "portal", "", "", { S::portal, C::qt, K::x11 } },
         { "xcb", "wayland", yes, yes, "X11", "", "", { S::x11, C::dataControl, K::x11 } },
         { "wayland", "wayland", no, yes, "x11", "", "", { S::none, C::dataControl, K::portal } },
-        { "wayland", "wayland", no, yes, "", "qt", "", { S::portal, C::qt, K::portal } },
         { "xcb", "x11", yes, no, "", " Data-Control ", "", { S::x11, C::dataControl, K::x11 } },
         { "xcb", "x11", yes, no, "", "", "Portal", { S::x11, C::qt, K::portal } },
         { "wayland", "wayland", no, yes, "", "", "x11", { S::portal, C::dataControl, K::x11 } },

@@ -80,26 +80,6 @@ TEST(SamplerGeometry, ArrowNudgesStopAtEdgesAndCrossOntoNeighbours)
         EXPECT_EQ(nudged(screens, c.from, c.dx, c.dy), c.expected) << c.from << " by " << c.dx << "," << c.dy;
 }
 
-TEST(SamplerGeometry, ZoomStepsStayWithinBounds)
-{
-    EXPECT_EQ(zoomedIn(defaultZoom), 16);
-    EXPECT_EQ(zoomedOut(defaultZoom), 10);
-    EXPECT_EQ(zoomedIn(maximumZoom), maximumZoom);
-    EXPECT_EQ(zoomedOut(minimumZoom), minimumZoom);
-    int zoom = defaultZoom;
-    for (int i = 0; i < 50; ++i)
-        zoom = zoomedIn(zoom);
-    EXPECT_EQ(zoom, maximumZoom);
-    for (int i = 0; i < 50; ++i)
-        zoom = zoomedOut(zoom);
-    EXPECT_EQ(zoom, minimumZoom);
-    for (int z = minimumZoom; z <= maximumZoom; ++z) {
-        const int across = loupePixelsAcross(132, z);
-        EXPECT_EQ(across % 2, 1) << z;
-        EXPECT_GE(across * z, 132) << "the lens must be filled at zoom " << z;
-    }
-}
-
 TEST(SamplerGeometry, LoupeFlipsToStayOnScreen)
 {
     const QRect screen(1920, 0, 1920, 1080);
@@ -126,30 +106,4 @@ TEST(SamplerGeometry, LoupeFlipsToStayOnScreen)
     // A screen too small to flip on still holds the whole loupe.
     const QRect tiny(0, 0, 200, 200);
     EXPECT_TRUE(tiny.contains(loupePlacement(tiny, QPoint(100, 100), box, gap)));
-}
-
-TEST(SamplerGeometry, SamplesTheExactFrozenPixel)
-{
-    // A synthetic desktop where every pixel's colour encodes its position.
-    QImage desktop(300, 200, QImage::Format_RGB32);
-    for (int y = 0; y < desktop.height(); ++y)
-        for (int x = 0; x < desktop.width(); ++x)
-            desktop.setPixel(x, y, qRgb(x % 256, y, (x / 256) * 100));
-    for (const double scale : { 1.0, 1.5, 2.0 }) {
-        const ScreenArea screen
-            = screenArea(QRect(QPoint(0, 0), QSizeF(300 / scale, 200 / scale).toSize()), scale);
-        for (const QPoint device :
-            { QPoint(0, 0), QPoint(299, 199), QPoint(257, 3), QPoint(1, 198), QPoint(150, 101) }) {
-            const QPoint hit = deviceFromLocalLogical(screen, localFromDevice(screen, device));
-            const auto rgb = sampleAt(desktop, QPoint(0, 0), hit);
-            ASSERT_TRUE(rgb);
-            EXPECT_EQ(rgb->red, (device.x() % 256) / 255.0) << scale << device;
-            EXPECT_EQ(rgb->green, device.y() / 255.0) << scale << device;
-            EXPECT_EQ(rgb->blue, (device.x() / 256) * 100 / 255.0) << scale << device;
-        }
-    }
-    EXPECT_FALSE(sampleAt(desktop, QPoint(0, 0), QPoint(300, 0)));
-    EXPECT_FALSE(sampleAt(desktop, QPoint(0, 0), QPoint(-1, 5)));
-    // A part of the desktop that starts elsewhere.
-    EXPECT_EQ(sampleAt(desktop, QPoint(1920, 0), QPoint(1920 + 7, 9))->red, 7 / 255.0);
 }

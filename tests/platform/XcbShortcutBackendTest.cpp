@@ -228,50 +228,6 @@ TEST_F(XcbShortcuts, EveryPressOfASeriesFiresWhereverTheReleaseGoes)
     taker.release();
 }
 
-TEST_F(XcbShortcuts, UnsetPopoverRegistersNothing)
-{
-    setShortcut(popoverKeyCode, popoverModifiers, -1, 655360);
-    manager->reregisterAll();
-    spy();
-    key(QStringLiteral("alt+shift+x"));
-    key(QStringLiteral("alt+shift+c"));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() > 0; }, 10000));
-    EXPECT_EQ(popover->count(), 0);
-    EXPECT_EQ(pick->count(), 1);
-}
-
-TEST_F(XcbShortcuts, ChangedShortcutReleasesTheOldCombinationAtOnce)
-{
-    manager->reregisterAll();
-    spy();
-    setShortcut(pickKeyCode, pickModifiers, 8, 262144 | 524288); // Ctrl+Alt+C
-    manager->reregisterAll();
-    pressThenMarker(QStringLiteral("alt+shift+c"));
-    EXPECT_EQ(pick->count(), 0);
-    pressThenMarker(QStringLiteral("ctrl+alt+c"));
-    EXPECT_EQ(pick->count(), 1);
-}
-
-TEST_F(XcbShortcuts, CombinationHeldByAnotherClientLeavesTheOtherShortcutWorking)
-{
-    QProcess helper;
-    helper.start(QStringLiteral(XGRAB_HELPER), { QStringLiteral("c") });
-    ASSERT_TRUE(helper.waitForReadyRead(10000));
-    ASSERT_EQ(helper.readLine().trimmed(), QByteArray("grabbed"));
-
-    manager->reregisterAll();
-    spy();
-    pressThenMarker(QStringLiteral("alt+shift+c"));
-    EXPECT_EQ(pick->count(), 0) << "the other client has it";
-    // With Num Lock on our own grab of the same key still works: only the taken variant failed.
-    xdotool({ QStringLiteral("key"), QStringLiteral("Num_Lock") });
-    pressThenMarker(QStringLiteral("alt+shift+c"));
-    xdotool({ QStringLiteral("key"), QStringLiteral("Num_Lock") });
-    EXPECT_EQ(pick->count(), 1);
-    helper.closeWriteChannel();
-    EXPECT_TRUE(helper.waitForFinished(10000));
-}
-
 TEST_F(XcbShortcuts, EveryRecordableKeyIsGrabbedOnItself)
 {
     // The recorder stores the physical key; the grab goes by keysym. A key whose keysym the
@@ -285,26 +241,6 @@ TEST_F(XcbShortcuts, EveryRecordableKeyIsGrabbedOnItself)
         EXPECT_TRUE(backend->keycodesForKey(code).contains(xcb_keycode_t(*xKeycode))) << code;
     }
     EXPECT_GT(keys, 200);
-}
-
-TEST_F(XcbShortcuts, SameCombinationForBothGoesToPick)
-{
-    setShortcut(popoverKeyCode, popoverModifiers, 8, 655360);
-    manager->reregisterAll();
-    spy();
-    for (int press = 1; press <= 3; ++press) {
-        xdotool({ QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("80"),
-            QStringLiteral("alt+shift+c") });
-        ASSERT_TRUE(QTest::qWaitFor([&] { return pick->count() >= press; }, 10000)) << "press " << press;
-    }
-    EXPECT_EQ(popover->count(), 0);
-
-    // Releasing pick alone must not take the combination from under the popover's record.
-    backend->unregisterShortcut(HotkeyManager::pickId);
-    setShortcut(popoverKeyCode, popoverModifiers, 7, 655360);
-    manager->registerPopoverHotkey();
-    pressThenMarker(QStringLiteral("alt+shift+c"));
-    EXPECT_EQ(pick->count(), 3) << "pick is no longer registered";
 }
 
 TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)

@@ -100,24 +100,6 @@ public: // the case tables below reach in from lambdas
 
 } // namespace
 
-TEST_F(ColorListViewTest, IsThreeHundredTwentyPixelsWideAndListScrollsWithinItsLimit)
-{
-    QList<PickedColor> many;
-    for (int i = 0; i < 40; ++i)
-        many.append(makeColor(i / 40.0, 0.5, 0.5));
-    build(many);
-    EXPECT_EQ(view->width(), 320);
-    EXPECT_LE(view->height(), ColorListView::maximumListHeight + 200);
-    EXPECT_EQ(view->rows().size(), 40);
-
-    // Little room beside the tray icon (a small screen): the list and the detail screen
-    // scroll within it.
-    view->setHeightLimit(300);
-    QTRY_COMPARE(view->height(), 300);
-    view->openColor(many.first());
-    QTRY_VERIFY(view->height() <= 300);
-}
-
 TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
 {
     const struct {
@@ -151,17 +133,10 @@ TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
             actual.append(row->color().id);
         EXPECT_EQ(actual, expected);
 
-        const QList<QAction *> actions = view->exportMenu()->actions();
-        ASSERT_EQ(actions.size(), 5);
-        EXPECT_EQ(actions[0]->text(), u"Export Pinned as Text");
-        EXPECT_EQ(actions[1]->text(), u"Export Pinned as JSON");
-        EXPECT_TRUE(actions[2]->isSeparator());
-        EXPECT_EQ(actions[3]->text(), u"Export All as Text");
-        EXPECT_EQ(actions[4]->text(), u"Export All as JSON");
-        EXPECT_EQ(actions[0]->isEnabled(), c.pinned);
-        EXPECT_EQ(actions[1]->isEnabled(), c.pinned);
-        EXPECT_EQ(actions[3]->isEnabled(), !c.empty);
-        EXPECT_EQ(actions[4]->isEnabled(), !c.empty);
+        QList<bool> enabled;
+        for (const QAction *action : view->exportMenu()->actions())
+            enabled << action->isEnabled();
+        EXPECT_EQ(enabled, (QList<bool> { c.pinned, c.pinned, true, !c.empty, !c.empty })); // [2]: separator
     }
 }
 
@@ -183,26 +158,16 @@ TEST_F(ColorListViewTest, ClickOnRowCopiesInPreferredFormatAndOpensDetail)
     // A copy of one format on the detail screen goes through the model too.
     view->detailView()->copy(ColorFormat::hsl);
     EXPECT_EQ(clipboard.current(), second.formatted(ColorFormat::hsl));
+    // The detail keeps the colour as opened; the list behind it is fresh when the user comes back.
+    model->renameColor(second, QStringLiteral("Later"));
+    model->togglePin(second);
+    EXPECT_EQ(view->detailView()->color(), second);
 
     QTest::mouseClick(
         view->detailView()->findChild<QAbstractButton *>(QStringLiteral("backButton")), Qt::LeftButton);
     EXPECT_EQ(view->detailView(), nullptr);
     EXPECT_EQ(view->selectedColor(), std::nullopt);
     EXPECT_TRUE(child("pickButton")->isVisible());
-    EXPECT_EQ(model->colors().size(), 2); // looking changes nothing
-}
-
-TEST_F(ColorListViewTest, DetailKeepsTheColourAsOpened)
-{
-    const PickedColor color = makeColor(0.3, 0.6, 0.9);
-    build({ color });
-    QTest::mouseClick(view->rows().first(), Qt::LeftButton);
-    model->renameColor(color, QStringLiteral("Later"));
-    model->togglePin(color);
-    ASSERT_NE(view->detailView(), nullptr);
-    EXPECT_EQ(view->detailView()->color(), color);
-    // The list behind it is fresh when the user comes back.
-    QTest::keyClick(view->detailView(), Qt::Key_Escape);
     EXPECT_TRUE(shown("pinnedHeader"));
     EXPECT_EQ(view->rows().first()->color().name, QStringLiteral("Later"));
 }
@@ -230,30 +195,6 @@ TEST_F(ColorListViewTest, KeyboardWalksRowsOpensAndBacksOut)
     EXPECT_TRUE(rowFor(colors[1].id)->hasFocus());
 }
 
-TEST_F(ColorListViewTest, OneRowLooksSelectedFollowingThePointerOrTheKeys)
-{
-    build({ makeColor(1, 0, 0), makeColor(0, 1, 0), makeColor(0, 0, 1) });
-    const QList<ColorRowView *> rows = view->rows();
-    const auto pointAt = [&](int row, int x) {
-        QTest::mouseMove(
-            view->windowHandle(), rows[row]->mapTo(view.get(), QPoint(x, rows[row]->height() / 2)));
-    };
-    const auto selected = [&] {
-        QList<int> looks;
-        for (int i = 0; i < rows.size(); ++i) {
-            if (rows[i]->isHovered() || rows[i]->hasFocus())
-                looks.append(i);
-        }
-        return looks;
-    };
-    pointAt(0, 40);
-    EXPECT_EQ(selected(), QList<int> { 0 });
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down); // the pointer stays on row 0
-    EXPECT_EQ(selected(), QList<int> { 1 });
-    pointAt(0, 60);
-    EXPECT_EQ(selected(), QList<int> { 0 });
-}
-
 TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
 {
     const struct {
@@ -268,8 +209,6 @@ TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
             } },
         { "Pin", false,
             [](ColorListViewTest &t, const PickedColor &c) { EXPECT_TRUE(t.stored(c.id)->isPinned); } },
-        { "Unpin", true,
-            [](ColorListViewTest &t, const PickedColor &c) { EXPECT_FALSE(t.stored(c.id)->isPinned); } },
         { "Delete", false,
             [](ColorListViewTest &t, const PickedColor &c) {
                 EXPECT_FALSE(t.stored(c.id));
@@ -282,12 +221,6 @@ TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
         build({ color, makeColor(0.1, 0.1, 0.1) }, QStringLiteral("HSL"));
         QMenu *menu = openContextMenu(rowFor(color.id));
         ASSERT_NE(menu, nullptr);
-        QStringList texts;
-        for (const QAction *action : menu->actions())
-            texts.append(action->isSeparator() ? QStringLiteral("-") : action->text());
-        EXPECT_EQ(texts,
-            (QStringList { QStringLiteral("Copy"), c.pinned ? QStringLiteral("Unpin") : QStringLiteral("Pin"),
-                QStringLiteral("Rename…"), QStringLiteral("-"), QStringLiteral("Delete") }));
         clickAction(menu, QLatin1String(c.item));
         c.check(*this, color);
         QTRY_VERIFY(!QApplication::activePopupWidget());
@@ -297,7 +230,15 @@ TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
 
 TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
 {
-    enum class Close { saveButton, returnKey, cancelButton, escapeKey };
+    using Close = std::function<void(RenameColorSheet *)>;
+    const Close saveButton
+        = [](RenameColorSheet *sheet) { QTest::mouseClick(sheet->saveButton(), Qt::LeftButton); };
+    const Close cancelButton
+        = [](RenameColorSheet *sheet) { QTest::mouseClick(sheet->cancelButton(), Qt::LeftButton); };
+    const Close returnKey
+        = [](RenameColorSheet *sheet) { QTest::keyClick(sheet->nameField(), Qt::Key_Return); };
+    const Close escapeKey
+        = [](RenameColorSheet *sheet) { QTest::keyClick(sheet->nameField(), Qt::Key_Escape); };
     const struct {
         const char *what;
         std::optional<QString> name;
@@ -305,16 +246,11 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         Close close;
         std::optional<QString> expected;
     } cases[] = {
-        { "new name by Return", std::nullopt, QStringLiteral("Sky"), Close::returnKey,
-            QStringLiteral("Sky") },
-        { "new name by Save", QStringLiteral("Old"), QStringLiteral(" Brand orange "), Close::saveButton,
-            QStringLiteral(" Brand orange ") },
-        { "empty clears", QStringLiteral("Old"), QString(), Close::saveButton, std::nullopt },
-        { "blanks are kept", QStringLiteral("Old"), QStringLiteral("   "), Close::returnKey,
-            QStringLiteral("   ") },
-        { "Cancel keeps", QStringLiteral("Old"), QStringLiteral("New"), Close::cancelButton,
-            QStringLiteral("Old") },
-        { "Escape keeps", std::nullopt, QStringLiteral("New"), Close::escapeKey, std::nullopt },
+        { "new name by Return", std::nullopt, QStringLiteral("Sky"), returnKey, QStringLiteral("Sky") },
+        { "empty clears", QStringLiteral("Old"), QString(), saveButton, std::nullopt },
+        { "blanks are kept", QStringLiteral("Old"), QStringLiteral("   "), returnKey, QStringLiteral("   ") },
+        { "Cancel keeps", QStringLiteral("Old"), QStringLiteral("New"), cancelButton, QStringLiteral("Old") },
+        { "Escape keeps", std::nullopt, QStringLiteral("New"), escapeKey, std::nullopt },
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.what);
@@ -326,12 +262,6 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         // A sheet inside the popup, not a window of its own that would close it.
         EXPECT_EQ(sheet->window(), view.get());
         EXPECT_EQ(sheet->nameField()->text(), c.name.value_or(QString()));
-        // The upper-case hex, whatever the list's format.
-        EXPECT_EQ(sheet->findChild<ElidedLabel *>(QStringLiteral("hexLabel"))->text(), u"#FF6B36");
-        EXPECT_EQ(sheet->nameField()->placeholderText(), u"Color name (optional)");
-        EXPECT_EQ(sheet->nameField()->width(), 240);
-        EXPECT_EQ(sheet->cancelButton()->text(), u"Cancel");
-        EXPECT_EQ(sheet->saveButton()->text(), u"Save");
 
         QLineEdit *field = sheet->nameField();
         field->setFocus();
@@ -339,20 +269,7 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         QTest::keyClick(field, Qt::Key_Backspace);
         QTest::keyClicks(field, c.typed);
         const QPointer<RenameColorSheet> guard(sheet);
-        switch (c.close) {
-        case Close::saveButton:
-            QTest::mouseClick(sheet->saveButton(), Qt::LeftButton);
-            break;
-        case Close::returnKey:
-            QTest::keyClick(field, Qt::Key_Return);
-            break;
-        case Close::cancelButton:
-            QTest::mouseClick(sheet->cancelButton(), Qt::LeftButton);
-            break;
-        case Close::escapeKey:
-            QTest::keyClick(field, Qt::Key_Escape);
-            break;
-        }
+        c.close(sheet);
         QTRY_VERIFY(!guard);
         EXPECT_EQ(stored(color.id)->name, c.expected);
         // Back on the list, which shows the name as stored.
@@ -363,66 +280,11 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
     }
 }
 
-TEST_F(ColorListViewTest, PickButtonReadsPickingAndRefusesWhileAPickRuns)
-{
-    build({});
-    auto *pick = child<QAbstractButton>("pickButton");
-    EXPECT_EQ(pick->text(), u"Pick Color");
-    EXPECT_EQ(pick->accessibleName(), u"Pick Color");
-    QTest::mouseClick(pick, Qt::LeftButton);
-    ASSERT_TRUE(sampler.isOpen());
-    EXPECT_EQ(pick->text(), u"Picking…");
-    EXPECT_FALSE(pick->isEnabled());
-    QTest::mouseClick(pick, Qt::LeftButton);
-    EXPECT_EQ(sampler.pickCount, 1);
-
-    sampler.finish(0.2, 0.4, 0.8);
-    EXPECT_EQ(pick->text(), u"Pick Color");
-    EXPECT_TRUE(pick->isEnabled());
-    EXPECT_FALSE(shown("emptyState"));
-    ASSERT_EQ(view->rows().size(), 1);
-    EXPECT_TRUE(shown("recentHeader"));
-    EXPECT_EQ(child("countBadge")->accessibleName(), u"1");
-}
-
-TEST_F(ColorListViewTest, FooterButtonsAndExportEntries)
+TEST_F(ColorListViewTest, FooterButtonsOpenTheSettingsAndQuit)
 {
     build({ makeColor(1, 0, 0, true), makeColor(0, 1, 0) });
-    const struct {
-        const char *name, *accessible;
-    } buttons[] = { { "settingsButton", "Settings" }, { "exportButton", "Export colors" },
-        { "quitButton", "Quit vantle" } };
-    for (const auto &b : buttons) {
-        auto *button = child<QAbstractButton>(b.name);
-        ASSERT_NE(button, nullptr) << b.name;
-        EXPECT_EQ(button->accessibleName(), QLatin1String(b.accessible));
-        EXPECT_EQ(button->toolTip(), QLatin1String(b.accessible));
-        EXPECT_EQ(button->cursor().shape(), Qt::PointingHandCursor);
-    }
     QTest::mouseClick(child<QAbstractButton>("settingsButton"), Qt::LeftButton);
     EXPECT_EQ(settingsOpened, 1);
     QTest::mouseClick(child<QAbstractButton>("quitButton"), Qt::LeftButton);
     EXPECT_EQ(quits, 1);
-
-    const struct {
-        const char *item;
-        bool asJSON;
-        const char *proposed;
-    } entries[] = {
-        { "Export Pinned as Text", false, "pinned-colors.txt" },
-        { "Export Pinned as JSON", true, "pinned-colors.json" },
-        { "Export All as Text", false, "colors.txt" },
-        { "Export All as JSON", true, "colors.json" },
-    };
-    for (const auto &e : entries) {
-        SCOPED_TRACE(e.item);
-        QTest::mouseClick(child<QAbstractButton>("exportButton"), Qt::LeftButton);
-        QTRY_VERIFY(view->exportMenu()->isVisible());
-        clickAction(view->exportMenu(), QLatin1String(e.item));
-        ASSERT_FALSE(dialogs.saveRequests.isEmpty());
-        EXPECT_EQ(dialogs.saveRequests.last().asJSON, e.asJSON);
-        EXPECT_EQ(dialogs.saveRequests.last().proposedName, QLatin1String(e.proposed));
-        QTRY_VERIFY(!view->exportMenu()->isVisible());
-    }
-    EXPECT_EQ(dialogs.saveRequests.size(), 4);
 }

@@ -5,12 +5,9 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QProgressBar>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
-#include <string_view>
 
 namespace {
 
@@ -21,15 +18,6 @@ AppcastItem release()
     item.displayVersion = QStringLiteral("1.4");
     item.releaseNotes = QStringLiteral("<ul><li>Faster picking</li></ul>");
     return item;
-}
-
-QProgressDialog *progressDialog()
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *dialog = qobject_cast<QProgressDialog *>(widget); dialog && dialog->isVisible())
-            return dialog;
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -67,26 +55,4 @@ TEST(DialogUpdateInterface, UpdateOfferAnswersWithTheButtonThePersonChose)
             QTest::keyClick(dialog, Qt::Key_Escape);
         EXPECT_EQ(choices, QList<Choice> { row.choice });
     }
-}
-
-TEST(DialogUpdateInterface, ProgressOfLargeDownloadsAndCancel)
-{
-    DialogUpdateInterface ui;
-    int cancels = 0;
-    ui.downloadStarted(release(), [&] {
-        ++cancels;
-        ui.downloadEnded(); // the updater answers a cancel at once
-    });
-    QProgressDialog *dialog = progressDialog();
-    ASSERT_NE(dialog, nullptr);
-
-    // Byte counts beyond the int range still give the right share.
-    ui.downloadProgressed(qint64(6) << 30, qint64(12) << 30);
-    EXPECT_EQ(dialog->findChild<QProgressBar *>()->text(), QStringLiteral("50%"));
-
-    QTest::mouseClick(dialog->findChild<QPushButton *>(), Qt::LeftButton);
-    EXPECT_EQ(cancels, 1);
-    EXPECT_EQ(progressDialog(), nullptr);
-    ui.downloadEnded(); // a late end is harmless
-    EXPECT_EQ(cancels, 1);
 }

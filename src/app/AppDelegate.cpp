@@ -149,7 +149,7 @@ void AppDelegate::createStatusItem()
     connect(m_statusItem.get(), &QSystemTrayIcon::activated, this,
         [this](QSystemTrayIcon::ActivationReason reason) {
             if (reason == QSystemTrayIcon::Trigger)
-                togglePopover();
+                togglePopoverWith(Qt::MouseFocusReason);
         });
     m_statusItem->show();
     TrayHost::sendPendingRequests();
@@ -215,9 +215,11 @@ void AppDelegate::refreshPopoverContent()
     });
 }
 
+// `vantle toggle` and a second start come from a key the desktop binds or a launcher: like the
+// popup shortcut, they open the popup with the focus ring on Pick Color.
 void AppDelegate::togglePopover()
 {
-    togglePopoverWith(Qt::PopupFocusReason);
+    togglePopoverWith(Qt::ShortcutFocusReason);
 }
 
 void AppDelegate::togglePopoverWith(Qt::FocusReason reason)

@@ -65,13 +65,20 @@ void SymbolButton::paintEvent(QPaintEvent *)
         painter.setBrush(Theme::withAlpha(Theme::text(pal), isDown() ? 0.12 : 0.06));
         painter.drawRoundedRect(box, m_style.radius, m_style.radius);
     }
+    QColor foreground = m_style.foreground(pal);
     if (showsFocusRing()) {
         painter.setPen(QPen(pal.color(QPalette::Highlight), 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(box.adjusted(1, 1, -1, -1), m_style.radius, m_style.radius);
+        // On a coloured fill the highlight alone hardly shows: a second ring inside it in the
+        // button's text colour does.
+        if (m_style.fill) {
+            painter.setPen(QPen(foreground, 1.5));
+            painter.drawRoundedRect(box.adjusted(3.5, 3.5, -3.5, -3.5), qMax(0.0, m_style.radius - 2.5),
+                qMax(0.0, m_style.radius - 2.5));
+        }
     }
 
-    QColor foreground = m_style.foreground(pal);
     if (!isEnabled())
         foreground = Theme::withAlpha(foreground, 0.75);
     const QFontMetrics metrics(font());

@@ -100,6 +100,10 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
         if (onDelete)
             onDelete();
     });
+    // While the menu is open its selected entry is the one highlight; the row keeps its fill.
+    m_menu = menu;
+    connect(menu, &QMenu::aboutToHide, this, qOverload<>(&QWidget::update));
+    update();
     // Not exec(): a nested event loop would run the whole program inside this call.
     menu->popup(globalPosition);
     return menu;
@@ -107,8 +111,7 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
 
 void ColorRowView::paintEvent(QPaintEvent *)
 {
-    const bool showsFocusRing = hasFocus() && m_focusFromKeyboard;
-    if (!isHovered() && !showsFocusRing && !m_isPressed)
+    if (!isHovered() && !showsFocusRing() && !m_isPressed)
         return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -116,7 +119,7 @@ void ColorRowView::paintEvent(QPaintEvent *)
     painter.setPen(Qt::NoPen);
     painter.setBrush(Theme::withAlpha(Theme::text(palette()), m_isPressed ? 0.1 : 0.06));
     painter.drawRoundedRect(box, 8, 8);
-    if (showsFocusRing) {
+    if (showsFocusRing() && !(m_menu && m_menu->isVisible())) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1.5));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(box.adjusted(0.75, 0.75, -0.75, -0.75), 8, 8);

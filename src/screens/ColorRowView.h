@@ -3,6 +3,7 @@
 
 #include "model/PickedColor.h"
 
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 
@@ -57,5 +58,6 @@ private:
     std::function<void()> m_onDelete;
     bool m_isHovered = false;
     bool m_isPressed = false;
+    QPointer<QMenu> m_menu; // the row's menu while it is open
     bool m_focusFromKeyboard = false;
 };

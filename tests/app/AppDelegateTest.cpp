@@ -46,21 +46,6 @@ protected:
     std::unique_ptr<AppDelegate> delegate;
 };
 
-TEST_F(AppDelegateTest, FirstLaunchSeedsBothShortcutsAndGreets)
-{
-    launch();
-    EXPECT_EQ(
-        Preferences::pickShortcut.read(*settings.store), (StoredShortcut { 8, 655360, QStringLiteral("C") }));
-    EXPECT_EQ(Preferences::popoverShortcut.read(*settings.store),
-        (StoredShortcut { 7, 655360, QStringLiteral("X") }));
-    // The seeded shortcuts are live at once, not at the next launch.
-    ASSERT_EQ(shortcuts.registered.size(), 2);
-    ASSERT_NE(delegate->onboardingWindow(), nullptr);
-    EXPECT_TRUE(delegate->onboardingWindow()->isVisible());
-    // Launch at login is on by default, so the first launch writes the autostart entry.
-    EXPECT_TRUE(loginItems.enabled);
-}
-
 TEST_F(AppDelegateTest, OnlyAnUnsetShortcutIsSeeded)
 {
     // -2 is a shortcut the user turned off; -1 one never set; 42 a shortcut of their own.
@@ -82,17 +67,23 @@ TEST_F(AppDelegateTest, OnlyAnUnsetShortcutIsSeeded)
     }
 }
 
-TEST_F(AppDelegateTest, LaunchReadsTheStoredHistoryAndWelcomesOnlyOnce)
+TEST_F(AppDelegateTest, FirstLaunchGreetsAndTheNextFindsTheHistory)
 {
-    settings.store->setBool(onboardingShown, true);
     launch();
-    EXPECT_EQ(delegate->onboardingWindow(), nullptr); // welcomed once
+    EXPECT_EQ(Preferences::popoverShortcut.read(*settings.store),
+        (StoredShortcut { 7, 655360, QStringLiteral("X") }));
+    EXPECT_EQ(shortcuts.registered.size(), 2) << "the seeded shortcuts are live at once";
+    ASSERT_NE(delegate->onboardingWindow(), nullptr);
+    EXPECT_TRUE(delegate->onboardingWindow()->isVisible());
+    EXPECT_TRUE(loginItems.enabled) << "launch at login is on by default";
     delegate->pickColor();
     sampler.finish(1.0, 0.42, 0.21);
     EXPECT_EQ(clipboard.current(), QStringLiteral("#FF6B36"));
     delegate.reset();
 
-    launch(); // the next run finds the colour picked in the last one
+    settings.store->setBool(onboardingShown, true); // as the welcome's Get Started does
+    launch();
+    EXPECT_EQ(delegate->onboardingWindow(), nullptr); // welcomed once
     ASSERT_EQ(delegate->viewModel()->colors().size(), 1);
     EXPECT_EQ(delegate->viewModel()->colors().first().formatted(ColorFormat::hex), QStringLiteral("#FF6B36"));
 }

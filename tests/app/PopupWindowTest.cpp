@@ -29,8 +29,6 @@ TEST(PopupWindowPlacement, BesideTheIconAwayFromThePanelAndWholeOnTheScreen)
     const Case cases[] = {
         { "top panel, short", QRect(1200, 0, 24, 24), screen, 200, QRect(960, 24 + gap, 320, 200) },
         { "top panel, long", QRect(1200, 0, 24, 24), screen, 1000, QRect(960, 28, 320, 800 - 28) },
-        { "top panel reserving its space, long", QRect(600, 0, 24, 24), QRect(0, 24, 1280, 776), 1000,
-            QRect(451, 28, 320, 772) },
         { "bottom panel, short", QRect(600, 776, 24, 24), screen, 200,
             QRect(451, 776 - gap - 200, 320, 200) },
         { "bottom panel, long", QRect(600, 776, 24, 24), screen, 1000, QRect(451, 0, 320, 772) },

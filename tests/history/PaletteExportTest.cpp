@@ -25,8 +25,8 @@ TEST(PaletteExportTest, TextLayout)
     };
     const Case cases[] = {
         { "named and unnamed", { sunset, blue }, ColorFormat::hex, "Sunset: #FF6B36\n#3366CC" },
-        { "one colour, no final line feed", { blue }, ColorFormat::hex, "#3366CC" },
-        { "the given format", { sunset }, ColorFormat::css, "Sunset: rgba(255, 107, 54, 1.0)" },
+        { "the given format, no final line feed", { sunset }, ColorFormat::css,
+            "Sunset: rgba(255, 107, 54, 1.0)" },
         { "empty name is no name", { color(1, 0.42, 0.21, QString()) }, ColorFormat::rgb,
             "rgb(255, 107, 54)" },
         { "slash and quote unchanged", { color(0.2, 0.4, 0.8, QStringLiteral("a/b \"c\"")) },

@@ -25,33 +25,6 @@ TEST(KeyCodes, EveryKeyConvertsBothWaysThroughEachPlatformForm)
     EXPECT_GT(count, 200);
 }
 
-TEST(KeyCodes, KnownKeysSitWhereTheStoredValuesExpectThem)
-{
-    struct Row {
-        int keyCode;
-        std::optional<int> qtKey;
-        quint32 keysym;
-        quint32 xKeycode;
-    };
-    const Row rows[] = {
-        { 8, Qt::Key_C, 0x63, 54 }, // the default pick shortcut
-        { 7, Qt::Key_X, 0x78, 53 }, // the default popover shortcut
-        { 53, Qt::Key_Escape, 0xff1b, 9 }, // cancels recording
-        { 105, Qt::Key_F13, 0x1008ff81, 191 }, // the standard keymap's XF86Tools
-        { 83, QKeyCombination(Qt::KeypadModifier, Qt::Key_1).toCombined(), 0xffb1, 87 },
-        { 0x100 + 164, std::nullopt, 0x1008ff14, 172 }, // Play: its Linux input event code
-    };
-    for (const Row &row : rows) {
-        SCOPED_TRACE(row.keyCode);
-        EXPECT_EQ(qtKeyForKeyCode(row.keyCode), row.qtKey);
-        EXPECT_EQ(keysymForKeyCode(row.keyCode), row.keysym);
-        EXPECT_EQ(xKeycodeForKeyCode(row.keyCode), row.xKeycode);
-    }
-    EXPECT_EQ(keyCodeForKeysym(0x43), 8) << "Shift's upper-case keysym names the same key";
-    EXPECT_EQ(keyCodeForXKeycode(50), std::nullopt) << "Shift itself is not a shortcut key";
-    EXPECT_EQ(qtKeyForKeyCode(10), std::nullopt) << "the ISO section key is not in the table";
-}
-
 TEST(KeyCodes, OnlyTheFourStoredBitsBecomePlatformModifiers)
 {
     struct Row {

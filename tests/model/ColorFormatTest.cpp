@@ -25,11 +25,6 @@ const Example examples[] = {
         "rgba(255, 0, 2, 1.0)", "UIColor(red: 1.00, green: 0.00, blue: 0.01, alpha: 1.00)" },
     { 0.25, 0.5, 0.5, 0.25, "#408080", "rgb(64, 128, 128)", "hsl(180, 33%, 38%)", "hsb(180, 50%, 50%)",
         "rgba(64, 128, 128, 0.2)", "UIColor(red: 0.25, green: 0.50, blue: 0.50, alpha: 0.25)" },
-    // Black and white.
-    { 0, 0, 0, 1, "#000000", "rgb(0, 0, 0)", "hsl(0, 0%, 0%)", "hsb(0, 0%, 0%)", "rgba(0, 0, 0, 1.0)",
-        "UIColor(red: 0.00, green: 0.00, blue: 0.00, alpha: 1.00)" },
-    { 1, 1, 1, 1, "#FFFFFF", "rgb(255, 255, 255)", "hsl(0, 0%, 100%)", "hsb(0, 0%, 100%)",
-        "rgba(255, 255, 255, 1.0)", "UIColor(red: 1.00, green: 1.00, blue: 1.00, alpha: 1.00)" },
     // Out of range: clamped in the 8-bit formats, printed as is in the others.
     { 1.02, -0.01, 0.5, 1.0, "#FF0080", "rgb(255, 0, 128)", "hsl(330, 104%, 51%)", "hsb(330, 101%, 102%)",
         "rgba(255, 0, 128, 1.0)", "UIColor(red: 1.02, green: -0.01, blue: 0.50, alpha: 1.00)" },

@@ -47,10 +47,6 @@ TEST(SamplerGeometry, ScreenAreasKeepTheirOriginAndScaleTheirSize)
 {
     const ScreenArea half = screenArea(QRect(1920, 0, 2560, 1440), 1.5);
     EXPECT_EQ(half.device, QRect(1920, 0, 3840, 2160));
-    // Positions inside a logical pixel land on the device pixel under them, never the next one.
-    EXPECT_EQ(deviceFromLocalLogical(half, QPointF(10, 10)), QPoint(1935, 15));
-    EXPECT_EQ(deviceFromLocalLogical(half, QPointF(10.6, 10.6)), QPoint(1935, 15));
-    EXPECT_EQ(deviceFromLocalLogical(half, QPointF(10.7, 10.7)), QPoint(1936, 16));
     // Positions beyond the edges stay on the screen's last pixel.
     EXPECT_EQ(deviceFromLocalLogical(half, QPointF(2560, 1440)), QPoint(1920 + 3839, 2159));
     EXPECT_EQ(deviceFromLocalLogical(half, QPointF(-1, -1)), QPoint(1920, 0));

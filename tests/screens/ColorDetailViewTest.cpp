@@ -16,11 +16,6 @@ PickedColor makeColor(double r, double g, double b, std::optional<QString> name 
     return color;
 }
 
-struct Copy {
-    QUuid id;
-    ColorFormat format;
-};
-
 // A detail screen whose delayed resets are collected, so a test decides when 1.5 s have passed.
 struct DetailHarness {
     explicit DetailHarness(const PickedColor &color)
@@ -50,7 +45,7 @@ struct DetailHarness {
         return result;
     }
 
-    QList<Copy> copies;
+    QList<std::pair<QUuid, ColorFormat>> copies;
     int backs = 0;
     QList<std::function<void()>> pending;
     ColorDetailView view;
@@ -64,12 +59,11 @@ TEST(ColorDetailView, ClickCopiesThatFormatAndOnlyTheNewestResetClearsTheMark)
     DetailHarness harness(color);
     harness.click(ColorFormat::hex);
     ASSERT_EQ(harness.copies.size(), 1);
-    EXPECT_EQ(harness.copies[0].id, color.id);
-    EXPECT_EQ(harness.copies[0].format, ColorFormat::hex);
+    EXPECT_EQ(harness.copies[0], std::pair(color.id, ColorFormat::hex));
     EXPECT_EQ(harness.checked(), QList<ColorFormat> { ColorFormat::hex });
 
     harness.click(ColorFormat::rgb);
-    EXPECT_EQ(harness.copies.last().format, ColorFormat::rgb);
+    EXPECT_EQ(harness.copies.last().second, ColorFormat::rgb);
     EXPECT_EQ(harness.checked(), QList<ColorFormat> { ColorFormat::rgb });
     // The Hex reset comes first and must leave the newer RGB mark alone.
     ASSERT_EQ(harness.pending.size(), 2);

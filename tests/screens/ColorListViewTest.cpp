@@ -37,7 +37,7 @@ public: // the case tables below reach in from lambdas
         model = std::make_unique<ColorListViewModel>(
             *settings.store, sampler, clipboard, confirmation, dialogs);
         view = std::make_unique<ColorListView>(
-            *model, *settings.store, [this] { ++settingsOpened; }, [this] { ++quits; });
+            *model, *settings.store, [] {}, [] {});
         view->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(view.get()));
     }
@@ -94,8 +94,6 @@ public: // the case tables below reach in from lambdas
     TempSettings settings;
     std::unique_ptr<ColorListViewModel> model;
     std::unique_ptr<ColorListView> view;
-    int settingsOpened = 0;
-    int quits = 0;
 };
 
 } // namespace
@@ -170,29 +168,6 @@ TEST_F(ColorListViewTest, ClickOnRowCopiesInPreferredFormatAndOpensDetail)
     EXPECT_TRUE(child("pickButton")->isVisible());
     EXPECT_TRUE(shown("pinnedHeader"));
     EXPECT_EQ(view->rows().first()->color().name, QStringLiteral("Later"));
-}
-
-TEST_F(ColorListViewTest, KeyboardWalksRowsOpensAndBacksOut)
-{
-    const QList<PickedColor> colors = { makeColor(1, 0, 0, true), makeColor(0, 1, 0), makeColor(0, 0, 1) };
-    build(colors);
-    const QList<ColorRowView *> rows = view->rows();
-    rows[0]->setFocus();
-    QTest::keyClick(rows[0], Qt::Key_Down);
-    QTest::keyClick(rows[1], Qt::Key_Down);
-    ASSERT_TRUE(rows[2]->hasFocus());
-    QTest::keyClick(rows[2], Qt::Key_Down); // stays on the last row
-    QTest::keyClick(rows[2], Qt::Key_Up);
-    ASSERT_TRUE(rows[1]->hasFocus());
-
-    QTest::keyClick(rows[1], Qt::Key_Return);
-    ASSERT_NE(view->detailView(), nullptr);
-    EXPECT_EQ(view->detailView()->color().id, colors[1].id);
-    EXPECT_EQ(clipboard.texts, QStringList { colors[1].formatted(ColorFormat::hex) });
-
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    EXPECT_EQ(view->detailView(), nullptr);
-    EXPECT_TRUE(rowFor(colors[1].id)->hasFocus());
 }
 
 TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
@@ -278,13 +253,4 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         EXPECT_EQ(name && name->isVisibleTo(view.get()) ? std::optional(name->text()) : std::nullopt,
             c.expected && !c.expected->isEmpty() ? c.expected : std::nullopt);
     }
-}
-
-TEST_F(ColorListViewTest, FooterButtonsOpenTheSettingsAndQuit)
-{
-    build({ makeColor(1, 0, 0, true), makeColor(0, 1, 0) });
-    QTest::mouseClick(child<QAbstractButton>("settingsButton"), Qt::LeftButton);
-    EXPECT_EQ(settingsOpened, 1);
-    QTest::mouseClick(child<QAbstractButton>("quitButton"), Qt::LeftButton);
-    EXPECT_EQ(quits, 1);
 }

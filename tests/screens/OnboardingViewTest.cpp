@@ -5,7 +5,6 @@
 #include "support/ManualAnimationDriver.h"
 #include "support/TempSettings.h"
 
-#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -80,18 +79,4 @@ TEST_F(Onboarding, ClosingOrDroppingTheViewStopsEveryAnimation)
     dropped.reset(); // the host dropped it with every step still pending
     driver.advanceTo(7000);
     EXPECT_FALSE(driver.isRunning());
-}
-
-TEST(OnboardingViewCallback, HostMayDestroyTheViewInsideOnComplete)
-{
-    ManualAnimationDriver driver;
-    TempSettings settings;
-    QPointer<OnboardingView> view;
-    view = new OnboardingView(*settings.store, [&] { delete view.data(); });
-    view->show();
-    driver.advanceTo(1300);
-    view->getStarted();
-    driver.advanceTo(1300 + 2500);
-    view->startUsing();
-    EXPECT_TRUE(view.isNull());
 }

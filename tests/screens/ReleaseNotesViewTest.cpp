@@ -22,12 +22,10 @@ TEST(ReleaseNotesView, NotesAreShownWithoutTheirStylesOrResources)
     const Row rows[] = {
         { "plain text keeps its angle brackets", QStringLiteral("Faster when width < 100 & height > 2"),
             QStringLiteral("Faster when width < 100 & height > 2") },
-        { "inline styles that hide text are dropped",
-            QStringLiteral("<p style=\"font-size:1px;color:white\">Sends your history away</p>"),
+        { "styles that hide text are dropped",
+            QStringLiteral(
+                "<style>p { display:none }</style><p style=\"font-size:1px\">Sends your history away</p>"),
             QStringLiteral("Sends your history away") },
-        { "style sheets are dropped",
-            QStringLiteral("<style>p { display:none; font-size:1px }</style><p>Visible</p>"),
-            QStringLiteral("Visible") },
         { "local files named by images are not read",
             QStringLiteral("<ul><li>New</li></ul><img src=\"%1\">").arg(pictureUrl.toString()),
             QStringLiteral("New") },

@@ -73,7 +73,6 @@ TEST(DiskImageCleanup, OnlyALaunchFromAnApplicationsFolderStartsTheCleanUp)
         const char *bundle;
         bool starts;
     } cases[] = {
-        { "/Applications/Vantle.AppImage", true },
         { "~/Applications/Vantle.AppImage", true },
         { "/usr/bin/vantle", false },
         { "~/Downloads/Vantle.AppImage", false },

@@ -56,10 +56,3 @@ TEST(UpdateSignature, OnlyTheExactSignedFilePasses)
             << c.what;
     }
 }
-
-TEST(UpdateSignature, AMissingFileIsUnreadable)
-{
-    const UpdateSigning::KeyPair keys = UpdateSigning::makeKeyPair();
-    EXPECT_EQ(UpdateSignature::verifyFile(QStringLiteral("/nonexistent/file"), 10, QString(), keys.publicKey),
-        Verdict::unreadable);
-}

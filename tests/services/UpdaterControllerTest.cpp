@@ -192,16 +192,3 @@ TEST_F(UpdaterControllerTest, BackgroundChecksDownloadOrOfferAndStayQuietWhenSki
             QFile::remove(file);
     }
 }
-
-TEST_F(UpdaterControllerTest, SkippingAndTheAutomaticSettingAreRemembered)
-{
-    server.serve(QStringLiteral("/appcast.xml"),
-        { 200, appcast(QStringLiteral("2.0"), QStringLiteral("https://e.org/v"), 5, "c2ln") });
-    ui.answer = Choice::skipThisVersion;
-    auto controller = makeController(bundle());
-    checkAndWait(*controller);
-    controller->setAutomaticallyDownloadsUpdates(false);
-    const auto next = settings.reopen();
-    EXPECT_EQ(next->stringForKey(PreferenceKeys::skippedUpdateVersion), QStringLiteral("2.0"));
-    EXPECT_FALSE(next->boolForKey(PreferenceKeys::automaticallyUpdate));
-}

@@ -97,6 +97,15 @@ wait_for 20 clipboard_is '#0080FF' || fail "the second copy did not replace the 
 [[ $(history) == *"#0080FF"*"#FF8000"* || $(history) == *"#FF8000"*"#0080FF"* ]] ||
     fail "the history does not hold both colours: $(history)"
 
+# Every press of a series is a pick, as a hand presses the shortcut again and again: the desktop
+# reports each press and its release, and no press may be taken for the last one still held.
+for press in "1 0 0 #FF0000" "0 1 0 #00FF00" "0 0 1 #0000FF" "1 1 0 #FFFF00"; do
+    read -r red green blue hex <<<"$press"
+    portal SetPick uint32:0 "double:$red" "double:$green" "double:$blue" >/dev/null
+    portal Activate string:pick >/dev/null
+    wait_for 20 clipboard_is "$hex" || fail "a press of the series was lost: the clipboard holds \"$(clipboard)\", not $hex"
+done
+
 kill -TERM "$pid"
 wait "$pid" || fail "Vantle ended with status $? on SIGTERM"
 echo "PASS"

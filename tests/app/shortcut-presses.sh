@@ -5,6 +5,7 @@
 # window open all along, both shortcuts while the popup holds the keyboard, and a pick from the
 # popup's own button, which must not see the popup.
 #   VANTLE_BIN=... x11-session.sh shortcut-presses.sh [SHOT_DIR]
+# At QT_SCALE_FACTOR=2 give the desktop room for the larger windows: x11-session.sh --size 2560x1600.
 set -euo pipefail
 
 vantle=${VANTLE_BIN:?}
@@ -44,7 +45,7 @@ for i in "${!ends[@]}"; do
     colour=$(printf '#%02X%02X%02X' $((20 * i + 10)) $((200 - 15 * i)) $((90 + 7 * i)))
     xsetroot -solid "$colour"
     echo "sentinel $i" | xclip -selection clipboard
-    xdotool mousemove $((60 + 20 * i)) 700 # clear of the welcome window
+    xdotool mousemove $((60 + 20 * i)) "$(scaled 700)" # clear of the welcome window
     press alt+shift+c
     wait_for 10 loupe_shown || fail "press $((i + 1)) of the pick shortcut opened no loupe"
     sleep 0.2 # the grabs follow the map: a person's next action comes later still
@@ -94,7 +95,7 @@ read -r px py pw ph < <(popup_geometry)
 sleep 0.5
 [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/popup-before-pick.png"
 # The button spans the popup's width just below its header.
-xdotool mousemove $((px + pw / 2)) $((py + 62)) click 1
+xdotool mousemove $((px + pw / 2)) $((py + $(scaled 62))) click 1
 wait_for 10 loupe_shown || fail "the popup's Pick Color button opened no loupe"
 xdotool mousemove $((px + pw / 2)) $((py + ph / 2))
 sleep 0.3

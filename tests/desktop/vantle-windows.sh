@@ -9,8 +9,12 @@ windows() {
             /Width:/ {w=$2} /Height:/ {h=$2} END {print id, w, h, x, y}'
     done
 }
+# scaled N: N logical pixels in device pixels at QT_SCALE_FACTOR (the scripts run at any scale).
+scaled() { awk -v n="$1" -v s="${QT_SCALE_FACTOR:-1}" 'BEGIN {print int(n * s + 0.5)}'; }
 # popup_geometry: "x y width height" of the popup (Vantle's window 320 wide), or fails.
-popup_geometry() { windows | awk '$2 == 320 {print $4, $5, $2, $3; found=1; exit} END {exit !found}'; }
+popup_geometry() {
+    windows | awk -v w="$(scaled 320)" '$2 == w {print $4, $5, $2, $3; found=1; exit} END {exit !found}'
+}
 popup_shown() { popup_geometry >/dev/null; }
 popup_hidden() { ! popup_shown; }
 # The loupe: Vantle's small window beside the pointer.

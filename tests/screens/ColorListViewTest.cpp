@@ -42,10 +42,7 @@ public: // the case tables below reach in from lambdas
         ASSERT_TRUE(QTest::qWaitForWindowExposed(view.get()));
     }
 
-    template<typename T = QWidget> T *child(const char *name) const
-    {
-        return view->findChild<T *>(QLatin1String(name));
-    }
+    QWidget *child(const char *name) const { return view->findChild<QWidget *>(QLatin1String(name)); }
 
     bool shown(const char *name) const
     {

@@ -402,6 +402,43 @@ public:
         return result;
     }
 
+    // What the desktop looks like when a step went wrong: who holds the keyboard and the
+    // pointer (a grab that outlived its window loses every later shortcut), and what shows.
+    std::string describe()
+    {
+        std::string text;
+        xcb_grab_keyboard_reply_t *keyboard = xcb_grab_keyboard_reply(m_connection,
+            xcb_grab_keyboard(
+                m_connection, 0, m_root, XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+            nullptr);
+        text
+            += keyboard && keyboard->status == XCB_GRAB_STATUS_SUCCESS ? "keyboard free" : "keyboard grabbed";
+        std::free(keyboard);
+        xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
+        xcb_grab_pointer_reply_t *pointer = xcb_grab_pointer_reply(m_connection,
+            xcb_grab_pointer(m_connection, 0, m_root, 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC, XCB_NONE,
+                XCB_NONE, XCB_CURRENT_TIME),
+            nullptr);
+        text
+            += pointer && pointer->status == XCB_GRAB_STATUS_SUCCESS ? ", pointer free" : ", pointer grabbed";
+        std::free(pointer);
+        xcb_ungrab_pointer(m_connection, XCB_CURRENT_TIME);
+        const xcb_keycode_t c = keycode(0x63);
+        xcb_generic_error_t *taken = xcb_request_check(m_connection,
+            xcb_grab_key_checked(m_connection, 0, m_root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT, c,
+                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+        text += taken ? ", Alt+Shift+C grabbed" : ", Alt+Shift+C not grabbed";
+        if (!taken)
+            xcb_ungrab_key(m_connection, c, m_root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT);
+        std::free(taken);
+        xcb_flush(m_connection);
+        for (auto &[id, w] : m_windows)
+            if (w.viewable && w.parent == m_root)
+                text += "; " + std::to_string(id) + " pid " + std::to_string(ownerPid(id)) + " \""
+                    + className(id) + "\"" + (w.overrideRedirect ? " override-redirect" : "");
+        return text;
+    }
+
     // As a window manager's close button does.
     void askToClose(xcb_window_t window)
     {
@@ -680,13 +717,14 @@ void sleepUntil(double at)
 }
 
 // Trigger → loupe viewable, then Escape (or a click) and wait until it is gone.
-double timeOverlay(Observer &x, const std::function<double()> &trigger, bool pickByClick = false)
+double timeOverlay(
+    Observer &x, const char *what, const std::function<double()> &trigger, bool pickByClick = false)
 {
     x.settle();
     const double at = trigger();
     const auto shown = x.nextMapped(at, [&](xcb_window_t w) { return x.isLoupe(w); });
     if (!shown)
-        die("no loupe came up");
+        die(std::string("no loupe came up after ") + what + " (" + x.describe() + ")");
     // The loupe takes the keyboard a moment after it shows: until then a key or a click may go
     // elsewhere, so both are repeated until it answers.
     bool hidden = false;
@@ -698,7 +736,8 @@ double timeOverlay(Observer &x, const std::function<double()> &trigger, bool pic
         hidden = x.waitHidden(shown->first, 200);
     }
     if (!hidden)
-        die("the loupe " + std::to_string(shown->first) + " did not go away");
+        die("the loupe " + std::to_string(shown->first) + " after " + what + " did not go away ("
+            + x.describe() + ")");
     return shown->second - at;
 }
 
@@ -715,13 +754,13 @@ void measureStart(Observer &x, const Options &o, const QString &home, Figures &o
         vantleDock.push_back(startDocked(x, o.vantle, child));
         sleepUntil(start + 2000);
         vantleRss.push_back(rssMiB(child.pid));
-        vantleFirst.push_back(timeOverlay(x, [&] { return x.altShift(keyC); }));
+        vantleFirst.push_back(timeOverlay(x, "Vantle's first shortcut", [&] { return x.altShift(keyC); }));
         // What a resident Vantle keeps once it has been used: a few picks that copy, then
         // 15 s for the confirmations to go and anything temporary to be given back.
         if (run < 3) {
             for (int pick = 0; pick < 4; ++pick)
                 timeOverlay(
-                    x, [&] { return x.altShift(keyC); }, true);
+                    x, "a shortcut that picks by click", [&] { return x.altShift(keyC); }, true);
             std::this_thread::sleep_for(std::chrono::seconds(15));
             vantleAfterPicks.push_back(rssMiB(child.pid));
         }
@@ -736,7 +775,7 @@ void measureStart(Observer &x, const Options &o, const QString &home, Figures &o
         child = spawn({ o.floorOverlay }, true);
         if (!readLine(child, 10000))
             die("the floor overlay never became ready");
-        floorFirst.push_back(timeOverlay(x, [&] { return x.altShift(keyV); }));
+        floorFirst.push_back(timeOverlay(x, "the floor's first shortcut", [&] { return x.altShift(keyV); }));
         stop(child);
     }
     out.add(QStringLiteral("start_docked"), QStringLiteral("vantle"), QStringLiteral("ms"), vantleDock);
@@ -764,9 +803,9 @@ void measurePicks(Observer &x, const Options &o, const QString &home, Figures &o
         die("the floor overlay never became ready");
     std::vector<double> vantleSteady, floorSteady, command;
     for (int run = 0; run <= o.runs; ++run) { // the first round is each one's first pick: not counted
-        const double v = timeOverlay(x, [&] { return x.altShift(keyC); });
-        const double f = timeOverlay(x, [&] { return x.altShift(keyV); });
-        double c = timeOverlay(x, [&] {
+        const double v = timeOverlay(x, "Vantle's shortcut", [&] { return x.altShift(keyC); });
+        const double f = timeOverlay(x, "the floor's shortcut", [&] { return x.altShift(keyV); });
+        double c = timeOverlay(x, "vantle pick", [&] {
             const double at = nowMs();
             Child request = spawn({ o.vantle, "pick" });
             waitExit(request.pid);
@@ -854,7 +893,7 @@ void measureIdle(Observer &x, const Options &o, const QString &home, Figures &ou
 
     const double pickedFrom = nowMs();
     timeOverlay(
-        x, [&] { return x.altShift(keyC); }, true);
+        x, "a shortcut that picks by click", [&] { return x.altShift(keyC); }, true);
     x.movePointer(x.width / 2, x.height / 2);
     // The "Copied" confirmation comes up a moment after the loupe goes: the idle window starts
     // once it has come and gone, not in the moment between.
@@ -872,7 +911,7 @@ void measureIdle(Observer &x, const Options &o, const QString &home, Figures &ou
     std::fprintf(stderr, "  %d picks and %d popups\n", o.picks, o.toggles);
     for (int i = 0; i < o.picks; ++i)
         timeOverlay(
-            x, [&] { return x.altShift(keyC); }, true);
+            x, "a shortcut that picks by click", [&] { return x.altShift(keyC); }, true);
     for (int i = 0; i < o.toggles; ++i)
         togglePopup(x, o, pid);
     std::this_thread::sleep_for(std::chrono::seconds(2));

@@ -151,6 +151,13 @@ void AppDelegate::createStatusItem()
             if (reason == QSystemTrayIcon::Trigger)
                 togglePopoverWith(Qt::MouseFocusReason);
         });
+    // The icon comes on screen once the launch has run to its end, after the shortcuts are
+    // registered: a person takes the icon for "ready" and may press the shortcut at once.
+    QMetaObject::invokeMethod(this, &AppDelegate::showStatusItem, Qt::QueuedConnection);
+}
+
+void AppDelegate::showStatusItem()
+{
     m_statusItem->show();
     TrayHost::sendPendingRequests();
     if (m_popover && m_popover->isStandalone()) {

@@ -78,6 +78,7 @@ Q_SIGNALS:
 
 private:
     void createStatusItem();
+    void showStatusItem();
     void useStandaloneWindow();
     void applyDefaultShortcuts();
     bool isStandalone() const;

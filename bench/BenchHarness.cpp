@@ -402,6 +402,21 @@ public:
         return result;
     }
 
+    // Whether some client holds Alt+Shift+`keysym` as a shortcut: only one client may.
+    bool isAltShiftGrabbed(uint32_t keysym)
+    {
+        const xcb_keycode_t key = keycode(keysym);
+        xcb_generic_error_t *taken = xcb_request_check(m_connection,
+            xcb_grab_key_checked(m_connection, 0, m_root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT, key,
+                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+        const bool grabbed = taken != nullptr;
+        std::free(taken);
+        if (!grabbed)
+            xcb_ungrab_key(m_connection, key, m_root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT);
+        xcb_flush(m_connection);
+        return grabbed;
+    }
+
     // What the desktop looks like when a step went wrong: who holds the keyboard and the
     // pointer (a grab that outlived its window loses every later shortcut), and what shows.
     std::string describe()
@@ -423,14 +438,7 @@ public:
             += pointer && pointer->status == XCB_GRAB_STATUS_SUCCESS ? ", pointer free" : ", pointer grabbed";
         std::free(pointer);
         xcb_ungrab_pointer(m_connection, XCB_CURRENT_TIME);
-        const xcb_keycode_t c = keycode(0x63);
-        xcb_generic_error_t *taken = xcb_request_check(m_connection,
-            xcb_grab_key_checked(m_connection, 0, m_root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT, c,
-                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
-        text += taken ? ", Alt+Shift+C grabbed" : ", Alt+Shift+C not grabbed";
-        if (!taken)
-            xcb_ungrab_key(m_connection, c, m_root, XCB_MOD_MASK_1 | XCB_MOD_MASK_SHIFT);
-        std::free(taken);
+        text += isAltShiftGrabbed(0x63) ? ", Alt+Shift+C grabbed" : ", Alt+Shift+C not grabbed";
         xcb_flush(m_connection);
         for (auto &[id, w] : m_windows)
             if (w.viewable && w.parent == m_root)
@@ -798,6 +806,10 @@ void measurePicks(Observer &x, const Options &o, const QString &home, Figures &o
     useConfig(prepareConfig(home, QStringLiteral("picks"), false));
     Child vantle, floor;
     startDocked(x, o.vantle, vantle);
+    // An icon on screen tells a person Vantle is ready: its shortcut answers from that moment,
+    // also on a first start, when the default shortcut is set during the launch.
+    if (!x.isAltShiftGrabbed(keyC))
+        die("the tray icon docked before the pick shortcut was registered");
     floor = spawn({ o.floorOverlay }, true);
     if (!readLine(floor, 10000))
         die("the floor overlay never became ready");

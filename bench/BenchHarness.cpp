@@ -220,6 +220,8 @@ Activity activity(pid_t pid)
 
 // ---- The X server as another client sees it --------------------------------------------
 
+constexpr uint32_t keyC = 0x63, keyV = 0x76, keyEscape = 0xff1b;
+
 struct Window {
     xcb_window_t parent = 0;
     bool viewable = false;
@@ -438,8 +440,7 @@ public:
             += pointer && pointer->status == XCB_GRAB_STATUS_SUCCESS ? ", pointer free" : ", pointer grabbed";
         std::free(pointer);
         xcb_ungrab_pointer(m_connection, XCB_CURRENT_TIME);
-        text += isAltShiftGrabbed(0x63) ? ", Alt+Shift+C grabbed" : ", Alt+Shift+C not grabbed";
-        xcb_flush(m_connection);
+        text += isAltShiftGrabbed(keyC) ? ", Alt+Shift+C grabbed" : ", Alt+Shift+C not grabbed";
         for (auto &[id, w] : m_windows)
             if (w.viewable && w.parent == m_root)
                 text += "; " + std::to_string(id) + " pid " + std::to_string(ownerPid(id)) + " \""
@@ -657,8 +658,6 @@ struct Figures {
             stderr, "  %s [%s] %zu samples\n", qPrintable(figure), qPrintable(program), samples.size());
     }
 };
-
-constexpr uint32_t keyC = 0x63, keyV = 0x76, keyEscape = 0xff1b;
 
 struct Options {
     std::string vantle, floorTray, floorOverlay;

@@ -221,8 +221,11 @@ void ColorListViewModel::exportColors(bool pinnedOnly, bool asJSON)
     const QList<PickedColor> colors = pinnedOnly ? pinnedColors() : m_colors;
     if (colors.isEmpty())
         return;
-    // An empty folder (no download folder known) lets the dialog start where it likes.
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+    // The Downloads folder; where a desktop has none, home rather than wherever the program
+    // happened to be started from.
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+    if (folder.isEmpty() || !QDir(folder).exists())
+        folder = QDir::homePath();
     // The colours as they were when the user asked; the model may be gone when the dialog answers.
     m_exportDialogs.chooseExportFile(folder, proposedExportName(pinnedOnly, asJSON), asJSON,
         [self = QPointer(this), colors, asJSON](const std::optional<QString> &path) {
@@ -231,8 +234,10 @@ void ColorListViewModel::exportColors(bool pinnedOnly, bool asJSON)
             const QByteArray content = asJSON
                 ? exportJSON(colors)
                 : exportText(colors, SettingsViewModel::currentFormat(self->m_store));
+            // The system's reason alone ("Permission denied") does not say which file.
             if (const std::optional<QString> failure = writeFileAtomically(*path, content))
-                self->m_exportDialogs.showExportFailed(*failure);
+                self->m_exportDialogs.showExportFailed(
+                    tr("“%1” could not be written: %2").arg(QDir::toNativeSeparators(*path), *failure));
         });
 }
 

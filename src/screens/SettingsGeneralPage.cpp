@@ -92,7 +92,7 @@ QWidget *SettingsView::makeGeneralPage()
     m_pickRecorder = new HotkeyRecorderView(tr("Pick color"), m_store, PreferenceKeys::pickKeyCode,
         PreferenceKeys::pickModifiers, PreferenceKeys::pickKeyChar, reregister, clearIcon);
     m_pickRecorder->setOnRecordingChanged(suspend);
-    m_popoverRecorder = new HotkeyRecorderView(tr("Toggle popover"), m_store, PreferenceKeys::popoverKeyCode,
+    m_popoverRecorder = new HotkeyRecorderView(tr("Toggle popup"), m_store, PreferenceKeys::popoverKeyCode,
         PreferenceKeys::popoverModifiers, PreferenceKeys::popoverKeyChar, reregister, clearIcon);
     m_popoverRecorder->setOnRecordingChanged(suspend);
     // The clear button keeps its place while hidden, so both fields end at the same edge.
@@ -105,11 +105,11 @@ QWidget *SettingsView::makeGeneralPage()
     shortcuts->addWidget(m_pickRecorder);
     shortcuts->addWidget(m_popoverRecorder);
 
-    // Menu Bar
+    // Tray (the panel's words on a Linux desktop)
     m_colorDotToggle = new QCheckBox(tr("Show colored dot for last picked color"));
     connect(m_colorDotToggle, &QCheckBox::clicked, this,
         [this](bool on) { m_store.setBool(PreferenceKeys::showColorDot, on); });
-    compact(new QVBoxLayout(section(tr("Menu Bar"))))->addWidget(m_colorDotToggle);
+    compact(new QVBoxLayout(section(tr("Tray Icon"))))->addWidget(m_colorDotToggle);
 
     // General: the preference is written first, then the login item follows; a refused change
     // rewrites the preference to the real state, and the toggle follows the store.

@@ -56,3 +56,15 @@ TEST(DialogUpdateInterface, UpdateOfferAnswersWithTheButtonThePersonChose)
         EXPECT_EQ(choices, QList<Choice> { row.choice });
     }
 }
+
+TEST(DialogUpdateInterface, MessageBoxIsWideEnoughForItsTitle)
+{
+    DialogUpdateInterface ui;
+    ui.showUpToDate(QStringLiteral("Vantle"), QStringLiteral("1.0"));
+    QWidget *box = QApplication::activeModalWidget();
+    ASSERT_NE(box, nullptr);
+    QFont titleFont = box->font();
+    titleFont.setBold(true);
+    EXPECT_GT(box->width(), QFontMetrics(titleFont).horizontalAdvance(box->windowTitle()) + 100);
+    box->close();
+}

@@ -28,6 +28,9 @@ PopupWindow::PopupWindow(bool isWayland, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetFixedSize);
     setAttribute(Qt::WA_DeleteOnClose, false);
+    // The popup never becomes the active window, and Qt shows tooltips only in the active one:
+    // the footer's icon buttons would never say what they are.
+    setAttribute(Qt::WA_AlwaysShowToolTips);
     setAccessibleName(QStringLiteral("Vantle"));
 }
 

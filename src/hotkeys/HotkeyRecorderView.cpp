@@ -87,7 +87,9 @@ HotkeyRecorderView::HotkeyRecorderView(const QString &label, SettingsStore &stor
     connect(m_field, &QPushButton::clicked, this, &HotkeyRecorderView::toggle);
 
     m_clearButton->setAutoRaise(true);
-    m_clearButton->setAccessibleName(tr("Clear shortcut"));
+    // Two recorders sit one above the other: each clear button says whose shortcut it clears.
+    m_clearButton->setAccessibleName(tr("Clear the %1 shortcut").arg(label));
+    m_clearButton->setToolTip(m_clearButton->accessibleName());
     m_clearButton->setCursor(Qt::PointingHandCursor);
     m_clearButton->setIconSize(QSize(14, 14));
     m_clearButton->setStyleSheet(QStringLiteral("QToolButton { border: none; padding: 0; }"));

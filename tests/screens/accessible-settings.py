@@ -14,9 +14,9 @@ from atspi import Session  # noqa: E402
 GENERAL_TAB_ORDER = [  # from the selected tab on, what each Tab press reaches
     ("combo box", "Hex"),  # a combo box is named by its value; its label is its relation
     ("push button", "Pick color"),
-    ("push button", "Clear shortcut"),
+    ("push button", "Clear the Pick color shortcut"),
     ("push button", "Toggle popup"),
-    ("push button", "Clear shortcut"),
+    ("push button", "Clear the Toggle popup shortcut"),
     ("check box", "Show colored dot for last picked color"),
     ("check box", "Launch at login"),
     ("combo box", "50"),

@@ -16,8 +16,6 @@ constexpr int verticalPadding = 6;
 constexpr int spacing = 6;
 constexpr int markSize = 10;
 constexpr int valuePixelSize = 13;
-// Fonts wider than DejaVu Sans Mono may step down this far before a text is elided.
-constexpr int smallestValuePixelSize = 11;
 
 } // namespace
 
@@ -40,8 +38,9 @@ FormatLine::FormatLine(ColorFormat format, const QString &value, QWidget *parent
     texts->addWidget(label);
     m_valueLabel = new ElidedLabel(value, Theme::monospacedFont(valuePixelSize), &Theme::text, this);
     m_valueLabel->setObjectName(QStringLiteral("valueLabel"));
-    m_valueLabel->setElideMode(Qt::ElideMiddle);
-    m_valueLabel->setSmallestPixelSize(smallestValuePixelSize);
+    // Code initialisers are wider than the popup: they go on over a second line, so every
+    // component stays readable (cut in the middle, one of them would be hidden).
+    m_valueLabel->setWrapping(true);
     // The line's tooltip holds the whole text; the label's own would only repeat it.
     m_valueLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -81,9 +81,8 @@ TEST(ColorDetailView, ClickCopiesThatFormatAndOnlyTheNewestResetClearsTheMark)
 }
 
 // White has the longest value in every format, here with a 40-character name, in the popup's
-// width: every text is drawn whole, measured afresh rather than trusted to the size hints. The
-// code initialisers, wider than the popup by design, keep their opening and end and the line's
-// tooltip holds them whole.
+// width: every text is drawn whole, measured afresh rather than trusted to the size hints; the
+// code initialisers, wider than the popup, over two lines.
 TEST(ColorDetailView, TheLongestTextsAreDrawnWholeInThePopupsWidth)
 {
     DetailHarness harness(makeColor(1, 1, 1, QStringLiteral("Warm sunset orange for the spring banner")));
@@ -91,13 +90,7 @@ TEST(ColorDetailView, TheLongestTextsAreDrawnWholeInThePopupsWidth)
     harness.view.adjustSize();
     for (const ElidedLabel *label : harness.view.findChildren<ElidedLabel *>()) {
         SCOPED_TRACE(label->text().toStdString());
-        const auto *line = qobject_cast<const FormatLine *>(label->parentWidget());
-        if (line && (line->format() == ColorFormat::swiftUI || line->format() == ColorFormat::uiColor)
-            && label->objectName() == u"valueLabel") {
-            EXPECT_EQ(line->toolTip(), line->value());
-            EXPECT_TRUE(label->shownText().startsWith(line->value().left(8)));
-            EXPECT_TRUE(label->shownText().endsWith(line->value().right(6)));
-        } else if (label->hasHeightForWidth()) {
+        if (label->hasHeightForWidth()) {
             EXPECT_LE(label->heightForWidth(label->width()), label->height());
         } else {
             EXPECT_LE(QFontMetricsF(label->shownFont()).horizontalAdvance(label->text()), label->width());

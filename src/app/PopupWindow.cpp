@@ -105,7 +105,10 @@ Edge panelEdge(const QRect &anchor, const QRect &screen, const QRect &available)
     const int toLeft = anchor.left() - screen.left();
     const int toRight = screen.right() - anchor.right();
     const int vertical = qMin(toTop, toBottom);
-    if (vertical <= qMin(toLeft, toRight))
+    // An icon in a corner touches two edges (at scale 2 a top panel's icon may end on the
+    // screen's last column): within its own height of the top or bottom, it sits in a
+    // horizontal panel, which is where trays nearly always are.
+    if (vertical <= qMax(anchor.height(), qMin(toLeft, toRight)))
         return toTop <= toBottom ? Edge::top : Edge::bottom;
     return toLeft <= toRight ? Edge::left : Edge::right;
 }

@@ -29,6 +29,8 @@ TEST(PopupWindowPlacement, BesideTheIconAwayFromThePanelAndWholeOnTheScreen)
     const Case cases[] = {
         { "top panel, short", QRect(1200, 0, 24, 24), screen, 200, QRect(960, 24 + gap, 320, 200) },
         { "top panel, long", QRect(1200, 0, 24, 24), screen, 1000, QRect(960, 28, 320, 800 - 28) },
+        { "top panel's corner, no strut (scale 2)", QRect(1258, 1, 22, 11), screen, 200,
+            QRect(960, 12 + gap, 320, 200) },
         { "bottom panel, short", QRect(600, 776, 24, 24), screen, 200,
             QRect(451, 776 - gap - 200, 320, 200) },
         { "bottom panel, long", QRect(600, 776, 24, 24), screen, 1000, QRect(451, 0, 320, 772) },

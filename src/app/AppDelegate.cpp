@@ -91,6 +91,11 @@ void AppDelegate::applicationDidFinishLaunching()
     connect(&store, &SettingsStore::changed, this, &AppDelegate::updateStatusItemIcon, Qt::QueuedConnection);
     connect(&m_facilities.appearance, &AppearanceMonitor::appearanceChanged, this,
         &AppDelegate::updateStatusItemIcon, Qt::QueuedConnection);
+    // Every window takes the desktop's light or dark wish, also while it is open.
+    const auto followColorScheme
+        = [this] { Theme::followColorScheme(m_facilities.appearance.requestedDark()); };
+    followColorScheme();
+    connect(&m_facilities.appearance, &AppearanceMonitor::appearanceChanged, this, followColorScheme);
     // The screens follow the desktop's wish for higher contrast, also when it changes while
     // they are open.
     Theme::setHighContrast(m_facilities.appearance.prefersHighContrast());

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/Theme.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <QPalette>
+#include <QStyle>
 
 namespace Theme {
 
 namespace {
 bool highContrastOn = false;
+// The palette the desktop's Qt theme gave, while one of ours stands in for it.
+std::optional<QPalette> desktopPalette;
 
 // The high-contrast tone of a hue: light under black text in a dark theme, deep under white.
 QColor contrastTone(const QPalette &palette, QColor light, QColor deep)
@@ -29,6 +33,48 @@ bool highContrast()
 void setHighContrast(bool on)
 {
     highContrastOn = on;
+}
+
+QPalette darkPalette()
+{
+    // The tones of the dark desktop themes (Adwaita dark, Breeze dark): grey surfaces, light
+    // text, a blue selection.
+    const QColor window(0x2D, 0x2D, 0x2D), base(0x1E, 0x1E, 0x1E), text(0xEE, 0xEE, 0xEE);
+    const QColor disabledText(0x80, 0x80, 0x80), highlight(0x35, 0x84, 0xE4);
+    QPalette palette(window);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, window.lighter(115));
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::Button, QColor(0x3A, 0x3A, 0x3A));
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::ToolTipBase, QColor(0x40, 0x40, 0x40));
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, QColor(0xA0, 0xA0, 0xA0));
+    palette.setColor(QPalette::Highlight, highlight);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, highlight.lighter(130));
+    palette.setColor(QPalette::BrightText, QColor(0xFF, 0x7B, 0x63));
+    for (const QPalette::ColorRole role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText })
+        palette.setColor(QPalette::Disabled, role, disabledText);
+    return palette;
+}
+
+void followColorScheme(std::optional<bool> dark)
+{
+    const QPalette given = desktopPalette.value_or(QApplication::palette());
+    if (!dark || *dark == isDark(given)) {
+        if (desktopPalette) {
+            desktopPalette.reset();
+            QApplication::setPalette(given);
+        }
+        return;
+    }
+    desktopPalette = given;
+    if (*dark)
+        QApplication::setPalette(darkPalette());
+    else
+        QApplication::setPalette(QApplication::style()->standardPalette());
 }
 
 QColor withAlpha(QColor color, qreal alpha)

@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QFont>
 #include <QString>
+#include <optional>
 
 class QPalette;
 
@@ -21,6 +22,13 @@ namespace Theme {
 bool isDark(const QPalette &palette);
 bool highContrast();
 void setHighContrast(bool on);
+
+// Every window follows the desktop's light or dark wish: where the palette the desktop's Qt
+// theme gave does not match it, the application takes a dark (or light) palette of the same
+// kind, and gives the desktop's back once the wish matches it again or goes (none: no wish).
+void followColorScheme(std::optional<bool> dark);
+// The palette for a dark wish on a desktop whose Qt theme gives a light one.
+QPalette darkPalette();
 
 // Label styles: primary text, then two quieter shades for secondary and tertiary text.
 QColor text(const QPalette &palette);

@@ -2,6 +2,7 @@
 #include "screens/Theme.h"
 #include "model/Contrast.h"
 
+#include <QApplication>
 #include <QPalette>
 #include <gtest/gtest.h>
 
@@ -52,4 +53,23 @@ TEST(Theme, HighContrastTextsReachSevenToOne)
         }
     }
     Theme::setHighContrast(false);
+}
+
+// The desktop's wish in the order a person switches it; every window follows, and the palette
+// the desktop's Qt theme gave comes back whole once the wish matches it or goes.
+TEST(Theme, WindowsFollowTheDesktopsLightOrDarkWish)
+{
+    const QPalette given = QApplication::palette();
+    ASSERT_FALSE(Theme::isDark(given)) << "the offscreen platform's palette is light";
+    const struct {
+        std::optional<bool> wish;
+        bool isDark;
+    } steps[] = { { true, true }, { true, true }, { false, false }, { true, true }, { std::nullopt, false } };
+    for (const auto &step : steps) {
+        Theme::followColorScheme(step.wish);
+        EXPECT_EQ(Theme::isDark(QApplication::palette()), step.isDark);
+        if (!step.isDark) {
+            EXPECT_EQ(QApplication::palette(), given);
+        }
+    }
 }

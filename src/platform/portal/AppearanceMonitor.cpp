@@ -69,6 +69,13 @@ void AppearanceMonitor::read(const QString &nameSpace, const QString &key)
         });
 }
 
+std::optional<bool> AppearanceMonitor::requestedDark() const
+{
+    if (m_portalScheme == 1 || m_portalScheme == 2)
+        return m_portalScheme == 1;
+    return std::nullopt;
+}
+
 bool AppearanceMonitor::isDark() const
 {
     if (m_portalScheme == 1)
@@ -113,7 +120,10 @@ void AppearanceMonitor::apply(const QString &nameSpace, const QString &key, cons
 void AppearanceMonitor::setPortalScheme(uint scheme)
 {
     const bool wasDark = isDark();
+    const std::optional<bool> wasRequested = requestedDark();
     m_portalScheme = scheme;
-    if (isDark() != wasDark)
+    // A wish that goes away changes nothing seen yet, but the windows give back the palette
+    // they took for it.
+    if (isDark() != wasDark || requestedDark() != wasRequested)
         Q_EMIT appearanceChanged();
 }

@@ -3,6 +3,7 @@
 
 #include <QDBusVariant>
 #include <QObject>
+#include <optional>
 
 // Whether the desktop is in its dark appearance or asks for higher contrast, and when that
 // changes.
@@ -21,6 +22,9 @@ public:
 
     bool isDark() const;
     bool prefersHighContrast() const;
+    // The desktop's explicit wish, dark (true) or light (false); none where the portal has no
+    // preference or does not answer.
+    std::optional<bool> requestedDark() const;
 
 Q_SIGNALS:
     void appearanceChanged();

@@ -57,7 +57,18 @@ SettingsView::SettingsView(SettingsStore &store, HotkeyManager &hotkeyManager, L
     m_pages->addWidget(makeGeneralPage());
     m_pages->addWidget(makeAboutPage());
     m_pages->addWidget(makeMorePage());
-    layout->addWidget(m_pages, 1);
+    // On a small screen with a large font the pages are taller than the window may be: they
+    // scroll below the tabs rather than run off the screen.
+    auto *scroller = new QScrollArea;
+    scroller->setObjectName(QStringLiteral("settingsPages"));
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setFocusPolicy(Qt::NoFocus); // Tab goes through the controls, not the pane
+    scroller->setWidgetResizable(true);
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->setWidget(m_pages);
+    scroller->viewport()->setAutoFillBackground(false);
+    m_pages->setAutoFillBackground(false);
+    layout->addWidget(scroller, 1);
 
     connect(&m_store, &SettingsStore::changed, this, &SettingsView::showStoredValue);
     setSelectedTab(generalTab);

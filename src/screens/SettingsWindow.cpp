@@ -39,15 +39,19 @@ void SettingsWindow::open()
     m_view->setWindowFlags(
         Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     m_view->setWindowTitle(QObject::tr("Vantle Settings"));
-    m_view->setFixedSize(contentSize);
 
     // A tray program has no main window to centre on: use the screen the user is working on.
     QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
     if (!screen)
         screen = QGuiApplication::primaryScreen();
-    if (screen)
-        m_view->setGeometry(
-            QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, contentSize, screen->availableGeometry()));
+    QRect room = screen ? screen->availableGeometry() : QRect(QPoint(0, 0), contentSize);
+    // The window manager adds a title bar and borders around the content: room for them, so
+    // the title bar is never placed above the screen's top edge.
+    const int titleBar = m_view->style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8;
+    room.adjust(4, titleBar, -4, -4);
+    const QSize size = contentSize.boundedTo(room.size());
+    m_view->setFixedSize(size);
+    m_view->setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, room));
 
     m_view->show();
     m_view->raise();

@@ -200,5 +200,11 @@ QAccessibleInterface *accessibleSettingsWidget(const QString &className, QObject
         return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::PageTabList);
     if (className == QLatin1String("OnboardingView"))
         return new AccessibleOnboarding(static_cast<OnboardingView *>(object));
+    // A screen reader announces a window by its role: the settings as a dialog, the welcome as
+    // a window (a plain top-level widget would be a nameless filler).
+    if (className == QLatin1String("SettingsView"))
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Dialog);
+    if (className == QLatin1String("OnboardingWindow"))
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Window);
     return nullptr;
 }

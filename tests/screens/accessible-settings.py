@@ -42,7 +42,7 @@ with Session(settings={"onboardingShown": "true"}) as s:
     screen_width = int(subprocess.run(["xdotool", "getdisplaygeometry"], capture_output=True,
                                       text=True).stdout.split()[0])
     subprocess.run(["xdotool", "mousemove", str(screen_width - 300), "273", "click", "1"])
-    window = s.wait(lambda: s.find(name="Vantle Settings"), 10)
+    window = s.wait(lambda: s.find(role="dialog", name="Vantle Settings"), 10)
     s.check("settings open", window is not None, s.dump())
     s.expect_tree("tab list", [("page tab list", ""), ("page tab", "General"), ("page tab", "About"),
                                ("page tab", "More Brindlework"), ("label", "Default format"),

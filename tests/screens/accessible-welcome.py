@@ -19,6 +19,7 @@ SCREENS = [  # (what is read, the button that Return presses there)
 ]
 
 with Session() as s:
+    s.check("announced as a window", s.wait(lambda: s.find(role="frame", name="Welcome to vantle"), 10), s.dump())
     for table, button in SCREENS:
         s.expect_tree(button, table + [("push button", button)])
         s.expect_focus(f"focus on {button}", role="push button", name=button)

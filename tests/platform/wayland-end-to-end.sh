@@ -4,7 +4,7 @@
 # (headless sway, nobody focused, private session bus): the real xdg-desktop-portal frontend
 # with our test backend behind it, the tray program on QT_QPA_PLATFORM=wayland, a shortcut
 # pressed at the desktop, `vantle pick` from another process, a cancelled pick; the clipboard
-# read back with wl-paste, the history with `vantle export`.
+# read back with wl-paste, the history with `vantle export`; a restart that takes back its keys.
 #   VANTLE_BIN=... sway-session.sh wayland-end-to-end.sh PORTAL_TEST_BACKEND
 set -euo pipefail
 
@@ -105,6 +105,21 @@ for press in "1 0 0 #FF0000" "0 1 0 #00FF00" "0 0 1 #0000FF" "1 1 0 #FFFF00"; do
     portal Activate string:pick >/dev/null
     wait_for 20 clipboard_is "$hex" || fail "a press of the series was lost: the clipboard holds \"$(clipboard)\", not $hex"
 done
+
+# A restart takes back the keys of the previous run without binding again: the desktop keeps
+# them under the session's token, and a bind would open its shortcut settings at every start.
+binds() { portal Binds | awk '{print $2}'; }
+binds_before=$(binds)
+kill -TERM "$pid"
+wait "$pid" || fail "Vantle ended with status $? on SIGTERM"
+"$vantle" >"$home/vantle.log" 2>&1 &
+pids+=($!)
+pid=$!
+portal SetPick uint32:0 double:0 double:1 double:1 >/dev/null
+# Pressed again until Vantle, still starting, has its session.
+press_picks() { portal Activate string:pick | grep -q true && wait_for 2 clipboard_is '#00FFFF'; }
+wait_for 30 press_picks || fail "after a restart the pick shortcut did not pick: the desktop holds $(portal BoundShortcuts), the clipboard \"$(clipboard)\""
+[[ $(binds) == "$binds_before" ]] || fail "a restart bound the shortcuts again ($binds_before binds before, $(binds) after)"
 
 kill -TERM "$pid"
 wait "$pid" || fail "Vantle ended with status $? on SIGTERM"

@@ -98,6 +98,11 @@ int fakeInput(const QStringList &args)
         return 1;
     }
     org_kde_kwin_fake_input_authenticate(fake.input, "Vantle tests", "drives the desktop");
+    const auto key = [&](int code, wl_keyboard_key_state state) {
+        org_kde_kwin_fake_input_keyboard_key(fake.input, code, state);
+        wl_display_roundtrip(fake.display);
+        pause();
+    };
     const QString verb = args.value(0);
     if (verb == QLatin1String("key")) {
         for (const QString &combo : args.mid(1)) {
@@ -109,16 +114,10 @@ int fakeInput(const QStringList &args)
                     return 2;
                 }
             }
-            for (int code : codes) {
-                org_kde_kwin_fake_input_keyboard_key(fake.input, code, WL_KEYBOARD_KEY_STATE_PRESSED);
-                wl_display_roundtrip(fake.display);
-                pause();
-            }
-            for (auto code = codes.crbegin(); code != codes.crend(); ++code) {
-                org_kde_kwin_fake_input_keyboard_key(fake.input, *code, WL_KEYBOARD_KEY_STATE_RELEASED);
-                wl_display_roundtrip(fake.display);
-                pause();
-            }
+            for (int code : codes)
+                key(code, WL_KEYBOARD_KEY_STATE_PRESSED);
+            for (auto code = codes.crbegin(); code != codes.crend(); ++code)
+                key(*code, WL_KEYBOARD_KEY_STATE_RELEASED);
         }
     } else if (verb == QLatin1String("move") && args.size() == 3) {
         org_kde_kwin_fake_input_pointer_motion_absolute(
@@ -133,10 +132,7 @@ int fakeInput(const QStringList &args)
     }
     wl_display_roundtrip(fake.display);
     pause();
-    org_kde_kwin_fake_input_destroy(fake.input);
-    wl_registry_destroy(registry);
-    wl_display_disconnect(fake.display);
-    return 0;
+    return 0; // the connection ends with the process
 }
 
 QDBusMessage callKWin(

@@ -67,7 +67,7 @@ void AppDelegate::applicationDidFinishLaunching()
     m_trayHost->waitForHost(trayHostWaitMs);
 
     // 4. The popup and its content.
-    m_popover = std::make_unique<PopupWindow>(m_facilities.isWayland);
+    m_popover = std::make_unique<PopupWindow>(m_facilities.isWayland, m_facilities.windowRoles);
     refreshPopoverContent();
 
     // 5. Shortcuts: each reaction runs just after its signal, on the main thread.

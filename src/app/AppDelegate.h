@@ -15,6 +15,7 @@ class HotkeyManager;
 class LoginItemService;
 class OnboardingWindow;
 class PopupWindow;
+class WindowRoles;
 class QMenu;
 class UpdateNetwork;
 class QSystemTrayIcon;
@@ -46,6 +47,8 @@ public:
         UpdateUserInterface &updateInterface;
         // Qt's windows are Wayland surfaces, which the compositor places.
         bool isWayland;
+        // How the desktop is told where the popup goes (Wayland); null where it needs no telling.
+        WindowRoles *windowRoles = nullptr;
     };
 
     explicit AppDelegate(Facilities facilities, QObject *parent = nullptr);

@@ -17,6 +17,8 @@ extern "C" Q_DECL_EXPORT int vantleDesktopMain(int argc, char **argv)
         args << QString::fromLocal8Bit(argv[i]);
     const bool tray = argc < 2;
 
+    // Named after our desktop entry: the desktop shows its icon and name for our windows.
+    QGuiApplication::setDesktopFileName(QStringLiteral("vantle"));
     QApplication app(argc, argv);
     setApplicationIdentity();
     installAccessibleWidgets();

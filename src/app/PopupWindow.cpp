@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/PopupWindow.h"
 
+#include "history/WindowRoles.h"
+
 #include <QCursor>
 #include <QDateTime>
 #include <QGuiApplication>
@@ -19,9 +21,10 @@ constexpr int gapToAnchor = 4;
 
 } // namespace
 
-PopupWindow::PopupWindow(bool isWayland, QWidget *parent)
+PopupWindow::PopupWindow(bool isWayland, WindowRoles *roles, QWidget *parent)
     : QWidget(parent)
     , m_isWayland(isWayland)
+    , m_roles(roles)
 {
     setStandalone(false);
     auto *layout = new QVBoxLayout(this);
@@ -180,6 +183,11 @@ void PopupWindow::popUp(const QRect &anchor, Qt::FocusReason reason)
         adjustSize();
     }
     show();
+    // On Wayland the tray's place is unknown to us (a StatusNotifierItem host keeps it, and the
+    // pointer's place is the compositor's), but a click on the icon leaves the pointer there:
+    // the desktop opens the popup under it, inside the area its panels leave free.
+    if (m_roles && !m_standalone && windowHandle())
+        m_roles->placeUnderPointer(*windowHandle());
     raise();
     activateWindow();
     if (m_content)

@@ -6,6 +6,8 @@
 #include <functional>
 #include <optional>
 
+class WindowRoles;
+
 // The window under the tray icon that hosts the colour list. Frameless; it closes when the user
 // clicks elsewhere or presses Escape, and takes keyboard focus when it opens.
 //
@@ -15,8 +17,9 @@ class PopupWindow : public QWidget {
     Q_OBJECT
 public:
     // `isWayland`: the compositor places windows and a popup needs a parent surface, so the
-    // popup is a tool window that closes when it loses activation.
-    explicit PopupWindow(bool isWayland, QWidget *parent = nullptr);
+    // popup is a tool window that closes when it loses activation. `roles` tell the desktop
+    // that it opens at the tray and stays out of the task bar (null where it needs no telling).
+    explicit PopupWindow(bool isWayland, WindowRoles *roles = nullptr, QWidget *parent = nullptr);
 
     // Replaces the hosted content (the previous one is deleted). `makeContent` runs when the
     // content is first needed: the window opening, or at once if it is open. Until the user
@@ -64,6 +67,7 @@ private:
     void ensureContent();
 
     const bool m_isWayland;
+    WindowRoles *const m_roles;
     std::function<QWidget *()> m_makeContent;
     QPointer<QWidget> m_content;
     bool m_standalone = false;

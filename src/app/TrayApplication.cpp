@@ -10,11 +10,13 @@
 #include "platform/WindowCompositing.h"
 #include "platform/network/LoadedUpdateNetwork.h"
 #include "platform/portal/AppearanceMonitor.h"
+#include "platform/wayland/PlasmaShellSurfaces.h"
 #include "screens/DialogUpdateInterface.h"
 #include "services/SettingsStore.h"
 #include "services/XdgAutostartService.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QSocketNotifier>
 #include <QTextStream>
 #include <QThreadPool>
@@ -24,6 +26,25 @@
 #include <unistd.h>
 
 namespace {
+
+Q_LOGGING_CATEGORY(lcWindows, "vantle.windows")
+
+// How the desktop is told about the capsule and the popup: on X11 they are placed as asked and
+// need no telling; on Wayland only KWin's plasma shell can be told, and elsewhere the capsule
+// shows no window.
+std::unique_ptr<WindowRoles> makeWindowRoles(const DesktopSession &session)
+{
+    if (!session.isWayland())
+        return nullptr;
+    if (std::unique_ptr<WindowRoles> plasmaShell = PlasmaShellSurfaces::connect()) {
+        qCInfo(lcWindows) << "capsule and popup through org_kde_plasma_shell: an on-screen display that "
+                             "never takes the keyboard, the popup under the pointer";
+        return plasmaShell;
+    }
+    qCInfo(lcWindows) << "the compositor offers no org_kde_plasma_shell: no copy capsule (it would take the "
+                         "keyboard), the popup where the compositor puts it";
+    return std::make_unique<NullWindowRoles>();
+}
 
 int quitSignalPipe[2] = { -1, -1 };
 
@@ -82,7 +103,8 @@ int runTrayApplication()
     SettingsStore store(SettingsStore::standardFilePath());
     std::unique_ptr<ScreenColorSampler> sampler = makeScreenColorSampler(session);
     std::unique_ptr<Clipboard> clipboard = makeClipboard(session);
-    CopyHud confirmation(desktopShowsTranslucentWindows, session.isX11());
+    const std::unique_ptr<WindowRoles> windowRoles = makeWindowRoles(session);
+    CopyHud confirmation(desktopShowsTranslucentWindows, session.isX11(), windowRoles.get());
     FileExportDialogs exportDialogs;
     std::unique_ptr<GlobalShortcutBackend> shortcuts = makeGlobalShortcutBackend(session);
     XdgAutostartService loginItems(
@@ -92,7 +114,7 @@ int runTrayApplication()
     DialogUpdateInterface updateInterface;
 
     AppDelegate delegate({ store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
-        appearance, network, updateInterface, session.isWayland() });
+        appearance, network, updateInterface, session.isWayland(), windowRoles.get() });
     QObject::connect(instance.get(), &InstanceServer::pickRequested, &delegate, &AppDelegate::pickColor,
         Qt::QueuedConnection);
     QObject::connect(instance.get(), &InstanceServer::togglePopoverRequested, &delegate,

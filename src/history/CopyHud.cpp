@@ -113,9 +113,11 @@ private:
 
 } // namespace
 
-CopyHud::CopyHud(std::function<bool()> showsTranslucentWindows, bool placesWindowsAsAsked, QObject *parent)
+CopyHud::CopyHud(std::function<bool()> showsTranslucentWindows, bool placesWindowsAsAsked, WindowRoles *roles,
+    QObject *parent)
     : QObject(parent)
     , m_placesWindowsAsAsked(placesWindowsAsAsked)
+    , m_roles(roles)
     , m_showsTranslucentWindows(std::move(showsTranslucentWindows))
 {
     m_dismissal.setSingleShot(true);
@@ -161,6 +163,8 @@ void CopyHud::showHUD(const QString &message)
     }
     if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
         return;
+    if (m_roles && !m_roles->canShowOverlays())
+        return;
 
     auto *window = new CapsuleWindow(message, !m_showsTranslucentWindows(), m_placesWindowsAsAsked);
     QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
@@ -170,8 +174,12 @@ void CopyHud::showHUD(const QString &message)
         window->setScreen(screen);
         window->move(capsulePosition(screen->availableGeometry(), window->size()));
     }
-    window->setWindowOpacity(0);
+    // Wayland windows have no opacity of their own: there the capsule shows and goes at once.
+    if (!m_roles)
+        window->setWindowOpacity(0);
     window->show();
+    if (m_roles && window->windowHandle())
+        m_roles->makeOverlay(*window->windowHandle(), window->pos());
     // Qt keeps quiet about tooltip windows showing; a screen reader hears a notification
     // when it shows, and this one takes no focus to be read otherwise.
     if (QAccessible::isActive()) {
@@ -179,11 +187,13 @@ void CopyHud::showHUD(const QString &message)
         QAccessible::updateAccessibility(&shown);
     }
 
-    auto *fadeIn = new QPropertyAnimation(window, "windowOpacity", window);
-    fadeIn->setDuration(fadeInMs);
-    fadeIn->setStartValue(0.0);
-    fadeIn->setEndValue(1.0);
-    fadeIn->start(QAbstractAnimation::DeleteWhenStopped);
+    if (!m_roles) {
+        auto *fadeIn = new QPropertyAnimation(window, "windowOpacity", window);
+        fadeIn->setDuration(fadeInMs);
+        fadeIn->setStartValue(0.0);
+        fadeIn->setEndValue(1.0);
+        fadeIn->start(QAbstractAnimation::DeleteWhenStopped);
+    }
 
     m_current = window;
     m_dismissal.start();
@@ -194,14 +204,20 @@ void CopyHud::dismiss()
     QWidget *window = m_current.data();
     if (!window)
         return;
-    auto *fadeOut = new QPropertyAnimation(window, "windowOpacity", window);
-    fadeOut->setDuration(fadeOutMs);
-    fadeOut->setEndValue(0.0);
-    connect(fadeOut, &QPropertyAnimation::finished, window, [this, window] {
+    const auto remove = [this, window] {
         window->hide();
         if (m_current == window)
             m_current.clear();
         window->deleteLater();
-    });
+    };
+    // Without opacity (Wayland) the fade is only the wait before the capsule goes.
+    if (m_roles) {
+        QTimer::singleShot(fadeOutMs, window, remove);
+        return;
+    }
+    auto *fadeOut = new QPropertyAnimation(window, "windowOpacity", window);
+    fadeOut->setDuration(fadeOutMs);
+    fadeOut->setEndValue(0.0);
+    connect(fadeOut, &QPropertyAnimation::finished, window, remove);
     fadeOut->start(QAbstractAnimation::DeleteWhenStopped);
 }

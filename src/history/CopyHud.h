@@ -2,6 +2,7 @@
 #pragma once
 
 #include "history/CopyConfirmation.h"
+#include "history/WindowRoles.h"
 
 #include <QObject>
 #include <QPointer>
@@ -16,16 +17,21 @@ class QWidget;
 // never takes focus from the application the user works in. A new message replaces the
 // capsule on screen at once, without a fade. Main thread only; a fresh window per message.
 //
-// Where the windowing system places windows itself (Wayland), the capsule still shows, where
-// the compositor puts it; where no window can be shown at all, nothing happens.
+// Where the windowing system places windows and gives focus itself (Wayland), the capsule is
+// shown as an overlay the desktop never focuses (WindowRoles); where the desktop has no
+// overlays, no capsule shows at all, since an ordinary window would take the keyboard and a
+// paste right after the copy would go to Vantle. Where no window can be shown at all, nothing
+// happens.
 class CopyHud : public QObject, public CopyConfirmation {
     Q_OBJECT
 public:
     // `showsTranslucentWindows` answers, at each message, whether the desktop composites:
     // without that, the capsule's window is cut to its shape instead. `placesWindowsAsAsked`:
     // whether the windowing system puts an unparented window exactly where asked (X11).
-    CopyHud(
-        std::function<bool()> showsTranslucentWindows, bool placesWindowsAsAsked, QObject *parent = nullptr);
+    // `roles`: how the desktop is told that the capsule is an overlay, where it must be
+    // (Wayland); null where windows need no telling.
+    CopyHud(std::function<bool()> showsTranslucentWindows, bool placesWindowsAsAsked,
+        WindowRoles *roles = nullptr, QObject *parent = nullptr);
     ~CopyHud() override;
 
     void showHUD(const QString &message) override;
@@ -42,6 +48,7 @@ private:
     void dismiss();
 
     bool m_placesWindowsAsAsked;
+    WindowRoles *m_roles;
 
     std::function<bool()> m_showsTranslucentWindows;
     QPointer<QWidget> m_current;

@@ -8,3 +8,10 @@ wait_for() {
         sleep 0.05
     done
 }
+
+# end_started: ends the background processes the script started (pids+=($!)), newest first;
+# with `pids=(); trap end_started EXIT` they end when it exits.
+end_started() {
+    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[$i]}" 2>/dev/null || true; done
+    wait 2>/dev/null || true
+}

@@ -6,8 +6,12 @@
 // .portal file the frontend is to read from DIR (XDG_DESKTOP_PORTAL_DIR). The test script gives
 // its orders through org.vantle.TestPortal at /org/vantle/TestPortal (dbus-send):
 //   SetPick(u response, d red, d green, d blue)   the answer to the next picks
-//   Activate(s shortcutId) -> b                   press a shortcut of the newest session
-//   Picks() -> i, BoundShortcuts() -> as          what the frontend asked for so far
+//   Activate(s shortcutId) -> b                   press a shortcut the newest session holds
+//   Picks() -> i, Binds() -> i                    how often the frontend asked for these so far
+//   BoundShortcuts() -> as                        the shortcuts the newest session holds
+// Like the desktops, it keeps shortcuts per session token across sessions, takes them from
+// CreateSession's `shortcuts` option (as Plasma 5.27 does) and from BindShortcuts (as later
+// desktops do), and a shortcut it already holds keeps its trigger at CreateSession.
 #include <QCoreApplication>
 #include <QDBusAbstractAdaptor>
 #include <QDBusArgument>
@@ -51,9 +55,20 @@ struct PortalState {
     uint pickResponse = 0; // 0 with the colour, 1 cancelled, 2 failed
     double red = 0.9999, green = 0.5, blue = 0.00196;
     int picks = 0;
-    QStringList boundSessions;
-    QList<QList<TestPortalShortcut>> binds;
+    int binds = 0;
+    QString newestSession;
+    QHash<QString, QList<TestPortalShortcut>> heldByToken;
+    QList<TestPortalShortcut> &held(const QString &session) { return heldByToken[session.section(u'/', -1)]; }
 };
+
+// The shortcut as the desktop lists it: its description and its trigger.
+TestPortalShortcut described(const TestPortalShortcut &shortcut)
+{
+    return { shortcut.id,
+        { { QStringLiteral("description"), shortcut.properties.value(QStringLiteral("description")) },
+            { QStringLiteral("trigger_description"),
+                shortcut.properties.value(QStringLiteral("preferred_trigger")) } } };
+}
 
 class TestScreenshotAdaptor : public QDBusAbstractAdaptor {
     Q_OBJECT
@@ -130,11 +145,18 @@ public:
     uint version() const { return 1; }
 public Q_SLOTS:
     uint CreateSession(const QDBusObjectPath &, const QDBusObjectPath &sessionHandle, const QString &,
-        const QVariantMap &, QVariantMap &results)
+        const QVariantMap &options, QVariantMap &results)
     {
         auto *session = new QObject(this);
         new TestSessionAdaptor(session);
         m_bus.registerObject(sessionHandle.path(), session, QDBusConnection::ExportAdaptors);
+        m_state.newestSession = sessionHandle.path();
+        QList<TestPortalShortcut> &held = m_state.held(sessionHandle.path());
+        for (const TestPortalShortcut &shortcut :
+            qdbus_cast<QList<TestPortalShortcut>>(options.value(QStringLiteral("shortcuts")))) {
+            if (std::none_of(held.cbegin(), held.cend(), [&](const auto &h) { return h.id == shortcut.id; }))
+                held << described(shortcut);
+        }
         results.insert(QStringLiteral("session_handle"), sessionHandle.path());
         return 0;
     }
@@ -142,17 +164,17 @@ public Q_SLOTS:
         const QList<TestPortalShortcut> &shortcuts, const QString &, const QVariantMap &,
         QVariantMap &results)
     {
-        m_state.boundSessions << sessionHandle.path();
-        m_state.binds << shortcuts;
-        // Bound as asked, each described by its preferred trigger.
-        QList<TestPortalShortcut> bound;
-        for (const TestPortalShortcut &shortcut : shortcuts) {
-            bound << TestPortalShortcut { shortcut.id,
-                { { QStringLiteral("description"), shortcut.properties.value(QStringLiteral("description")) },
-                    { QStringLiteral("trigger_description"),
-                        shortcut.properties.value(QStringLiteral("preferred_trigger")) } } };
-        }
-        results.insert(QStringLiteral("shortcuts"), QVariant::fromValue(bound));
+        ++m_state.binds;
+        QList<TestPortalShortcut> &held = m_state.held(sessionHandle.path());
+        held.clear();
+        for (const TestPortalShortcut &shortcut : shortcuts)
+            held << described(shortcut);
+        results.insert(QStringLiteral("shortcuts"), QVariant::fromValue(held));
+        return 0;
+    }
+    uint ListShortcuts(const QDBusObjectPath &, const QDBusObjectPath &sessionHandle, QVariantMap &results)
+    {
+        results.insert(QStringLiteral("shortcuts"), QVariant::fromValue(m_state.held(sessionHandle.path())));
         return 0;
     }
 Q_SIGNALS:
@@ -187,18 +209,21 @@ public Q_SLOTS:
     // The frontend relays a press to the session's owner only.
     bool Activate(const QString &shortcutId)
     {
-        if (m_state.boundSessions.isEmpty())
+        const QStringList held = BoundShortcuts();
+        if (!held.contains(shortcutId))
             return false;
-        const QDBusObjectPath session(m_state.boundSessions.last());
+        const QDBusObjectPath session(m_state.newestSession);
         Q_EMIT m_shortcuts.Activated(session, shortcutId, 1234, {});
         Q_EMIT m_shortcuts.Deactivated(session, shortcutId, 1240, {});
         return true;
     }
     int Picks() const { return m_state.picks; }
+    int Binds() const { return m_state.binds; }
     QStringList BoundShortcuts() const
     {
         QStringList ids;
-        for (const TestPortalShortcut &shortcut : m_state.binds.value(m_state.binds.size() - 1))
+        for (const TestPortalShortcut &shortcut :
+            m_state.heldByToken.value(m_state.newestSession.section(u'/', -1)))
             ids << shortcut.id;
         return ids;
     }

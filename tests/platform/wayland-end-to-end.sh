@@ -4,7 +4,7 @@
 # (headless sway, nobody focused, private session bus): the real xdg-desktop-portal frontend
 # with our test backend behind it, the tray program on QT_QPA_PLATFORM=wayland, a shortcut
 # pressed at the desktop, `vantle pick` from another process, a cancelled pick; the clipboard
-# read back with wl-paste, the history with `vantle export`.
+# read back with wl-paste, the history with `vantle export`; a restart that takes back its keys.
 #   VANTLE_BIN=... sway-session.sh wayland-end-to-end.sh PORTAL_TEST_BACKEND
 set -euo pipefail
 
@@ -16,23 +16,18 @@ for tool in wl-paste wl-copy dbus-send; do
     command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }
 done
 
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
 home=$(mktemp -d -p "$XDG_RUNTIME_DIR")
 export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
 mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$home/portals"
 
 pids=()
-cleanup() {
-    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[$i]}" 2>/dev/null || true; done
-    wait 2>/dev/null || true
-}
-trap cleanup EXIT
-
+trap end_started EXIT
 fail() {
     echo "FAIL: $*" >&2
     tail -n 20 "$home/vantle.log" >&2 || true
     exit 1
 }
-source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
 bus_call() { # bus_call DEST PATH INTERFACE.METHOD ARGS...
     dbus-send --session --print-reply=literal --dest="$1" "$2" "$3" "${@:4}"
 }
@@ -105,6 +100,21 @@ for press in "1 0 0 #FF0000" "0 1 0 #00FF00" "0 0 1 #0000FF" "1 1 0 #FFFF00"; do
     portal Activate string:pick >/dev/null
     wait_for 20 clipboard_is "$hex" || fail "a press of the series was lost: the clipboard holds \"$(clipboard)\", not $hex"
 done
+
+# A restart takes back the keys of the previous run without binding again: the desktop keeps
+# them under the session's token, and a bind would open its shortcut settings at every start.
+binds() { portal Binds | awk '{print $2}'; }
+binds_before=$(binds)
+kill -TERM "$pid"
+wait "$pid" || fail "Vantle ended with status $? on SIGTERM"
+"$vantle" >"$home/vantle.log" 2>&1 &
+pids+=($!)
+pid=$!
+portal SetPick uint32:0 double:0 double:1 double:1 >/dev/null
+# Pressed again until Vantle, still starting, has its session.
+press_picks() { portal Activate string:pick | grep -q true && wait_for 2 clipboard_is '#00FFFF'; }
+wait_for 30 press_picks || fail "after a restart the pick shortcut did not pick: the desktop holds $(portal BoundShortcuts), the clipboard \"$(clipboard)\""
+[[ $(binds) == "$binds_before" ]] || fail "a restart bound the shortcuts again ($binds_before binds before, $(binds) after)"
 
 kill -TERM "$pid"
 wait "$pid" || fail "Vantle ended with status $? on SIGTERM"

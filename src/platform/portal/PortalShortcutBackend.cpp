@@ -36,6 +36,28 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, PortalShortcut &s
     return argument;
 }
 
+QList<PortalShortcut> portalShortcuts(const QList<GlobalShortcut> &wanted)
+{
+    QList<PortalShortcut> shortcuts;
+    for (const GlobalShortcut &shortcut : wanted) {
+        QVariantMap properties { { QStringLiteral("description"), shortcut.description } };
+        const QString trigger = KeyCodes::portalTrigger(shortcut.keyCode, shortcut.modifiers);
+        if (!trigger.isEmpty())
+            properties.insert(QStringLiteral("preferred_trigger"), trigger);
+        shortcuts << PortalShortcut { shortcut.name, properties };
+    }
+    return shortcuts;
+}
+
+// A trigger as a set of key names: desktops spell it back in their own case and order
+// ("Shift+Alt+C" for "ALT+SHIFT+c").
+QStringList triggerKeys(const QString &trigger)
+{
+    QStringList keys = trigger.toLower().remove(u' ').split(u'+', Qt::SkipEmptyParts);
+    keys.sort();
+    return keys;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(PortalShortcut)
@@ -54,10 +76,7 @@ PortalShortcutBackend::PortalShortcutBackend(const QDBusConnection &bus, QObject
 
 PortalShortcutBackend::~PortalShortcutBackend()
 {
-    if (!m_sessionHandle.isEmpty()) {
-        m_bus.asyncCall(QDBusMessage::createMethodCall(
-            portalService, m_sessionHandle, sessionInterface, QStringLiteral("Close")));
-    }
+    closeSession();
 }
 
 void PortalShortcutBackend::registerShortcut(const GlobalShortcut &shortcut)
@@ -69,29 +88,32 @@ void PortalShortcutBackend::registerShortcut(const GlobalShortcut &shortcut)
             return;
     }
     m_shortcuts << shortcut;
-    scheduleBind();
+    scheduleUpdate();
 }
 
 void PortalShortcutBackend::unregisterShortcut(int id)
 {
     if (m_shortcuts.removeIf([id](const GlobalShortcut &s) { return s.id == id; }) > 0)
-        scheduleBind();
+        scheduleUpdate();
 }
 
-void PortalShortcutBackend::scheduleBind()
+void PortalShortcutBackend::scheduleUpdate()
 {
-    // unregister-and-register-both arrives as several calls in a row: bind once, after them.
-    if (m_state == State::Unavailable || m_isBindScheduled)
+    // unregister-and-register-both arrives as several calls in a row: update once, after them.
+    if (m_state == State::Unavailable || m_isUpdateScheduled)
         return;
-    m_isBindScheduled = true;
+    m_isUpdateScheduled = true;
     QMetaObject::invokeMethod(
         this,
         [this] {
-            m_isBindScheduled = false;
-            if (m_state == State::Idle && !m_shortcuts.isEmpty())
+            m_isUpdateScheduled = false;
+            if (m_state == State::Creating) {
+                m_isStale = true;
+                return;
+            }
+            closeSession();
+            if (!m_shortcuts.isEmpty())
                 createSession();
-            else if (m_state == State::Ready)
-                bind();
         },
         Qt::QueuedConnection);
 }
@@ -99,9 +121,11 @@ void PortalShortcutBackend::scheduleBind()
 void PortalShortcutBackend::createSession()
 {
     m_state = State::Creating;
+    m_isStale = false;
     const QDBusMessage call = QDBusMessage::createMethodCall(
         portalService, portalPath, shortcutsInterface, QStringLiteral("CreateSession"));
-    const QVariantMap options { { QStringLiteral("session_handle_token"), PortalRequest::newToken() } };
+    const QVariantMap options { { QStringLiteral("session_handle_token"), QStringLiteral("vantle") },
+        { QStringLiteral("shortcuts"), QVariant::fromValue(portalShortcuts(m_shortcuts)) } };
     PortalRequest::send(m_bus, call, options, this, [this](const PortalRequest::Result &result) {
         // The handle comes back as a string, although it names an object.
         const QVariant handle = result.results.value(QStringLiteral("session_handle"));
@@ -114,30 +138,59 @@ void PortalShortcutBackend::createSession()
             ? handle.value<QDBusObjectPath>().path()
             : handle.toString();
         m_state = State::Ready;
-        bind();
+        if (m_isStale) {
+            scheduleUpdate();
+            return;
+        }
+        QDBusMessage list = QDBusMessage::createMethodCall(
+            portalService, portalPath, shortcutsInterface, QStringLiteral("ListShortcuts"));
+        list << QVariant::fromValue(QDBusObjectPath(m_sessionHandle));
+        const QString session = m_sessionHandle;
+        PortalRequest::send(m_bus, list, {}, this, [this, session](const PortalRequest::Result &listed) {
+            if (session == m_sessionHandle)
+                bindIfMissing(listed.results);
+        });
     });
+}
+
+void PortalShortcutBackend::closeSession()
+{
+    if (m_sessionHandle.isEmpty())
+        return;
+    m_bus.asyncCall(QDBusMessage::createMethodCall(
+        portalService, m_sessionHandle, sessionInterface, QStringLiteral("Close")));
+    m_sessionHandle.clear();
+    m_state = State::Idle;
+}
+
+void PortalShortcutBackend::bindIfMissing(const QVariantMap &listed)
+{
+    QList<PortalShortcut> held;
+    const QVariant shortcuts = listed.value(QStringLiteral("shortcuts"));
+    if (shortcuts.canConvert<QDBusArgument>())
+        shortcuts.value<QDBusArgument>() >> held;
+    const QList<PortalShortcut> wanted = portalShortcuts(m_shortcuts);
+    bool isComplete = held.size() == wanted.size();
+    for (const PortalShortcut &shortcut : wanted) {
+        const auto found = std::find_if(
+            held.cbegin(), held.cend(), [&](const PortalShortcut &h) { return h.id == shortcut.id; });
+        const QString trigger = shortcut.properties.value(QStringLiteral("preferred_trigger")).toString();
+        isComplete = isComplete && found != held.cend()
+            && triggerKeys(found->properties.value(QStringLiteral("trigger_description")).toString())
+                == triggerKeys(trigger);
+    }
+    if (!isComplete)
+        bind();
 }
 
 void PortalShortcutBackend::bind()
 {
-    if (m_shortcuts.isEmpty() && !m_isBound)
-        return;
-    QList<PortalShortcut> shortcuts;
-    for (const GlobalShortcut &shortcut : std::as_const(m_shortcuts)) {
-        QVariantMap properties { { QStringLiteral("description"), shortcut.description } };
-        const QString trigger = KeyCodes::portalTrigger(shortcut.keyCode, shortcut.modifiers);
-        if (!trigger.isEmpty())
-            properties.insert(QStringLiteral("preferred_trigger"), trigger);
-        shortcuts << PortalShortcut { shortcut.name, properties };
-    }
-
     QDBusMessage call = QDBusMessage::createMethodCall(
         portalService, portalPath, shortcutsInterface, QStringLiteral("BindShortcuts"));
-    call << QVariant::fromValue(QDBusObjectPath(m_sessionHandle)) << QVariant::fromValue(shortcuts)
-         << QString();
+    call << QVariant::fromValue(QDBusObjectPath(m_sessionHandle))
+         << QVariant::fromValue(portalShortcuts(m_shortcuts)) << QString();
     // What the desktop finally bound is its business; presses arrive as Activated either way.
     PortalRequest::send(m_bus, call, {}, this, [](const PortalRequest::Result &) {});
-    m_isBound = true;
 }
 
 void PortalShortcutBackend::onActivated(

@@ -11,9 +11,16 @@
 #include <QVariantMap>
 
 // Global shortcuts through the desktop's org.freedesktop.portal.GlobalShortcuts portal (the
-// only way on Wayland). One session is created on the first registration; every change binds
-// the whole current set again, with the stored shortcut as the preferred trigger. The desktop
-// decides the real trigger (it may ask the user), so a press arrives as `Activated` for our
+// only way on Wayland). The session always has the same token ("vantle"): desktops that keep a
+// session's shortcuts under its token (Plasma 5.27 names the group after it) give a restarted
+// Vantle back the keys of the previous run instead of a fresh group without keys.
+//
+// Every set of shortcuts goes to the desktop twice over: in CreateSession's `shortcuts` option,
+// the only list Plasma 5.27 reads, and in BindShortcuts, which later desktops read. Binding may
+// open the desktop's shortcut settings (Plasma 5.27 does, every time), so it happens only when
+// ListShortcuts shows that the desktop lacks one of ours or holds another trigger for it. A
+// change of the set closes the session and creates it again with the new list. The desktop
+// decides the real trigger (it may ask the user); a press arrives as `Activated` for our
 // session and shortcut id.
 //
 // Every call is asynchronous (a PortalRequest) and no event loop is nested. Where the portal is
@@ -39,15 +46,18 @@ private:
     enum class State { Idle, Creating, Ready, Unavailable };
 
     void createSession();
-    void scheduleBind();
+    void closeSession();
+    void scheduleUpdate();
+    void bindIfMissing(const QVariantMap &listed);
     void bind();
 
     QDBusConnection m_bus;
     State m_state = State::Idle;
     QList<GlobalShortcut> m_shortcuts;
     QString m_sessionHandle;
-    bool m_isBindScheduled = false;
-    bool m_isBound = false;
+    bool m_isUpdateScheduled = false;
+    // The set changed while the session was being created: create it again once that is done.
+    bool m_isStale = false;
     // Shortcuts whose keys are down: a desktop that repeats Activated while a key is held
     // fires once. Only once the desktop has shown that it reports releases, since one that
     // never sends Deactivated would otherwise fire only the first time.

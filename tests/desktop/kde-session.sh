@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Runs a command inside a private KDE Plasma desktop on Wayland: kwin_wayland with a virtual
+# output (software rendering, Xwayland), the real KDE portal behind the real xdg-desktop-portal
+# frontend, a tray watcher, on a private session bus. KWin runs real-time as root, so as root
+# the session runs as the unprivileged user `nobody` (tests/desktop/private-session.sh).
+#
+#   KDE_DESKTOP_DRIVER=path/to/kde_desktop_driver kde-session.sh COMMAND [ARGS...]
+#
+# Exports WAYLAND_DISPLAY, DISPLAY, XDG_RUNTIME_DIR, DBUS_SESSION_BUS_ADDRESS,
+# QT_QPA_PLATFORM=wayland, XDG_CURRENT_DESKTOP=KDE, VANTLE_TEST_SESSION=1, and DESKTOP_DRIVER:
+# a command with the verbs `key COMBO` (alt+shift+c, ctrl+shift+v, Escape), `move X Y`, `click`,
+# `screenshot FILE` and `focused` (the resource class of the window with the keyboard).
+# Exits 77 (CTest's "skipped") when KWin, the KDE portal or the driver are missing, or when KWin
+# cannot start on this machine.
+set -euo pipefail
+
+skip() { echo "SKIP: $*" >&2; exit 77; }
+
+source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
+source "$(dirname "${BASH_SOURCE[0]}")/private-session.sh"
+portal_kde=/usr/lib/x86_64-linux-gnu/libexec/xdg-desktop-portal-kde
+frontend=/usr/libexec/xdg-desktop-portal
+
+if [[ -z "${VANTLE_IN_KDE_SESSION:-}" ]]; then
+    command -v kwin_wayland >/dev/null || skip "KWin is not installed (apt-get install kwin-wayland)"
+    [[ -x $portal_kde && -x $frontend ]] || skip "the KDE portal is not installed (apt-get install xdg-desktop-portal-kde)"
+    command -v dbus-run-session >/dev/null || skip "dbus-run-session is not installed (apt-get install dbus)"
+    [[ -x ${KDE_DESKTOP_DRIVER:-} ]] || skip "KDE_DESKTOP_DRIVER names no driver"
+    # KWin's file capability lies outside a container's bounding set, where exec of the
+    # installed binary fails: a plain copy runs anywhere.
+    prepare_session() { cp "$(command -v kwin_wayland)" "$1/kwin_wayland"; }
+    private_session VANTLE_IN_KDE_SESSION "$0" "$@"
+fi
+
+pids=()
+trap end_started EXIT
+log=$XDG_RUNTIME_DIR/logs
+mkdir -p "$log"
+
+unset DISPLAY WAYLAND_DISPLAY
+export XDG_SESSION_TYPE=wayland XDG_CURRENT_DESKTOP=KDE KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
+export NO_AT_BRIDGE=1 VANTLE_TEST_SESSION=1
+# Software OpenGL compositing: the QPainter one has no colour picker for the portal. Fake input
+# is granted to every client, as to a desktop entry that lists org_kde_kwin_fake_input.
+KWIN_COMPOSE=O2 LIBGL_ALWAYS_SOFTWARE=1 KWIN_WAYLAND_NO_PERMISSION_CHECKS=1 KWIN_SCREENSHOT_NO_PERMISSION_CHECKS=1 \
+    kwin_wayland --virtual --width 1280 --height 800 --no-lockscreen --socket wayland-kde --xwayland \
+    >"$log/kwin.log" 2>&1 &
+pids+=($!)
+bus_owned() { dbus-send --session --print-reply --dest=org.freedesktop.DBus / org.freedesktop.DBus.GetNameOwner "string:$1"; }
+if ! wait_for 40 bus_owned org.kde.KWin || ! [[ -S $XDG_RUNTIME_DIR/wayland-kde ]]; then
+    tail -n 20 "$log/kwin.log" >&2 || true
+    skip "headless KWin could not start here (log above)"
+fi
+export WAYLAND_DISPLAY=wayland-kde QT_QPA_PLATFORM=wayland
+dbus-update-activation-environment WAYLAND_DISPLAY XDG_CURRENT_DESKTOP XDG_SESSION_TYPE QT_QPA_PLATFORM \
+    KDE_FULL_SESSION KDE_SESSION_VERSION
+
+# Plasma's tray watcher, then the KDE portal behind the frontend, as Plasma starts them; the
+# frontend reads only kde.portal, so no other desktop's portal stands in.
+export DESKTOP_DRIVER=$KDE_DESKTOP_DRIVER
+"$DESKTOP_DRIVER" tray-watcher >"$log/tray-watcher.log" 2>&1 &
+pids+=($!)
+wait_for 20 bus_owned org.kde.StatusNotifierWatcher || skip "the tray watcher did not start"
+"$portal_kde" >"$log/portal-kde.log" 2>&1 &
+pids+=($!)
+wait_for 20 bus_owned org.freedesktop.impl.portal.desktop.kde || skip "xdg-desktop-portal-kde did not start"
+mkdir -p "$XDG_RUNTIME_DIR/portals"
+cp /usr/share/xdg-desktop-portal/portals/kde.portal "$XDG_RUNTIME_DIR/portals/"
+XDG_DESKTOP_PORTAL_DIR=$XDG_RUNTIME_DIR/portals "$frontend" --replace >"$log/portal.log" 2>&1 &
+pids+=($!)
+wait_for 20 bus_owned org.freedesktop.portal.Desktop || skip "xdg-desktop-portal did not start"
+
+"$@"

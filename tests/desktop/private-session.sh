@@ -1,0 +1,40 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Sourced by the session scripts of compositors that refuse to run as root (sway, KWin).
+# private_session MARKER SCRIPT ARGS...: runs `bash SCRIPT ARGS...` with MARKER=1 on a private
+# session bus, in a private XDG_RUNTIME_DIR that is also HOME, as the user `nobody` when run as
+# root. Files that user cannot read (SCRIPT, file arguments, VANTLE_BIN, KDE_DESKTOP_DRIVER) are
+# copied to the directory's bin/, which leads PATH; `prepare_session BIN_DIR`, when the session
+# script defines it, puts more there. Exits with the script's status; the caller defines skip.
+private_session() {
+    local marker=$1 script arg status=0
+    shift
+    session_dir=$(mktemp -d "${TMPDIR:-/tmp}/vantle-session.XXXXXX")
+    trap 'rm -rf "$session_dir"' EXIT
+    run_as=()
+    if [[ $(id -u) == 0 ]]; then
+        command -v runuser >/dev/null || skip "the compositor refuses to run as root and runuser is missing"
+        id nobody >/dev/null 2>&1 || skip "the compositor refuses to run as root and there is no user 'nobody'"
+        run_as=(runuser -u nobody --)
+        chown nobody "$session_dir"
+    fi
+    chmod 0700 "$session_dir"
+    mkdir -p "$session_dir/bin"
+    bring() { # bring FILE: prints a path the session user can read
+        if [[ -f "$1" && ${#run_as[@]} -gt 0 ]] && ! "${run_as[@]}" test -r "$1"; then
+            cp -p "$1" "$session_dir/bin/"
+            echo "$session_dir/bin/$(basename "$1")"
+        else
+            echo "$1"
+        fi
+    }
+    script=$(bring "$1")
+    local args=()
+    for arg in "${@:2}"; do args+=("$(bring "$arg")"); done
+    [[ -n "${VANTLE_BIN:-}" ]] && VANTLE_BIN=$(bring "$VANTLE_BIN") && export VANTLE_BIN
+    [[ -n "${KDE_DESKTOP_DRIVER:-}" ]] && KDE_DESKTOP_DRIVER=$(bring "$KDE_DESKTOP_DRIVER") && export KDE_DESKTOP_DRIVER
+    declare -F prepare_session >/dev/null && prepare_session "$session_dir/bin"
+    [[ ${#run_as[@]} -gt 0 ]] && chown -R nobody "$session_dir/bin"
+    "${run_as[@]}" env "$marker=1" XDG_RUNTIME_DIR="$session_dir" HOME="$session_dir" PATH="$session_dir/bin:$PATH" \
+        dbus-run-session -- bash "$script" "${args[@]}" || status=$?
+    exit "$status"
+}

@@ -46,6 +46,8 @@ public:
         UpdateUserInterface &updateInterface;
         // Qt's windows are Wayland surfaces, which the compositor places.
         bool isWayland;
+        // The tray sits on a panel that is dark in light and dark styles alike (GNOME's top bar).
+        bool isPanelAlwaysDark = false;
     };
 
     explicit AppDelegate(Facilities facilities, QObject *parent = nullptr);
@@ -77,6 +79,7 @@ Q_SIGNALS:
     void statusItemIconChanged();
 
 private:
+    bool isPanelDark() const;
     void createStatusItem();
     void showStatusItem();
     void useStandaloneWindow();

@@ -92,7 +92,7 @@ int runTrayApplication()
     DialogUpdateInterface updateInterface;
 
     AppDelegate delegate({ store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
-        appearance, network, updateInterface, session.isWayland() });
+        appearance, network, updateInterface, session.isWayland(), session.isGnome() });
     QObject::connect(instance.get(), &InstanceServer::pickRequested, &delegate, &AppDelegate::pickColor,
         Qt::QueuedConnection);
     QObject::connect(instance.get(), &InstanceServer::togglePopoverRequested, &delegate,

@@ -4,7 +4,7 @@
 # mutter's RemoteDesktop API (absolute motion through a linked ScreenCast stream), the screen and
 # the focus through the shell (--unsafe-mode). `serve SOCKET` holds the one input session the
 # seat's virtual devices belong to; every other verb is a client of it (verbs: see the script).
-import json, os, socket, sys, time
+import json, os, socket, subprocess, sys, time
 
 KEYSYMS = {"alt": 0xFFE9, "shift": 0xFFE1, "ctrl": 0xFFE3, "control": 0xFFE3, "super": 0xFFEB,
            "escape": 0xFF1B, "return": 0xFF0D, "tab": 0xFF09, "space": 0x20, "backspace": 0xFF08}
@@ -58,10 +58,23 @@ def serve(path):
 
     focused = ("(w => w ? (w.get_wm_class() || '') + ' ' + (w.get_title() || '') : '')"
                "(global.display.focus_window)")
+    windows = ("global.get_window_actors().map(a => a.meta_window).filter(w => w.showing_on_its_workspace())"
+               ".map(w => (w.get_wm_class() || '') + ' ' + (w.get_title() || '')).join('\\n')")
     # The icons the AppIndicator extension shows on the top bar: "X Y W H" of each.
     tray = ("Object.keys(Main.panel.statusArea).filter(k => k.startsWith('appindicator'))"
             ".map(k => { const a = Main.panel.statusArea[k]; const [x, y] = a.get_transformed_position();"
             " return [x, y, a.width, a.height].map(Math.round).join(' '); }).join('\\n')")
+    picker = "Main.uiGroup.get_children().some(a => a.constructor.name === 'PickPixel' && a.visible)"
+    # Whether the shell has taken a key combination (ours, through gsd-media-keys): X key codes
+    # of the US layout's letters, X modifier masks.
+    rows = {"qwertyuiop": 24, "asdfghjkl": 38, "zxcvbnm": 52}
+    masks = {"shift": 1, "ctrl": 4, "alt": 8, "super": 64}
+
+    def bound(combo):
+        *mods, key = combo.lower().split("+")
+        code = next(start + row.index(key) for row, start in rows.items() if key in row)
+        return "global.display.get_keybinding_action(%d, %d)" % (code, sum(masks[m] for m in mods))
+
     verbs = {
         "key": key,
         "move": lambda x, y: remote.NotifyPointerMotionAbsolute(stream, float(x), float(y)) or "",
@@ -69,6 +82,11 @@ def serve(path):
         "screenshot": lambda f: "" if shot.Screenshot(False, False, os.path.abspath(f))[0] else 1 / 0,
         "focused": lambda: json.loads(evaluate(focused)),
         "tray-icons": lambda: json.loads(evaluate(tray)),
+        "windows": lambda: json.loads(evaluate(windows)),
+        "picker-shown": lambda: "" if evaluate(picker) == "true" else 1 / 0,
+        "shortcut-bound": lambda combo: "" if evaluate(bound(combo)) != "0" else 1 / 0,
+        "background": lambda color: subprocess.run(
+            ["gsettings", "set", "org.gnome.desktop.background", "primary-color", color], check=True) and "",
         "eval": evaluate,
     }
 

@@ -15,7 +15,11 @@
 #   $DESKTOP_DRIVER click             the left button
 #   $DESKTOP_DRIVER screenshot FILE   the whole desktop as a PNG
 #   $DESKTOP_DRIVER focused           "APP TITLE" of the window with the keyboard, or nothing
-#   $DESKTOP_DRIVER panel-color       "R G B" of the top bar beside the tray icons
+#   $DESKTOP_DRIVER windows           "APP TITLE" of each window on screen, one a line
+#   $DESKTOP_DRIVER tray-icons        "X Y W H" of each tray icon on the desktop's panel
+#   $DESKTOP_DRIVER picker-shown      succeeds while the desktop's colour picker is on screen
+#   $DESKTOP_DRIVER shortcut-bound COMBO   succeeds once the desktop has taken the combination
+#   $DESKTOP_DRIVER background COLOR  paints the desktop's background "#RRGGBB"
 # Exits 77 (CTest's "skipped") only when gnome-shell is not installed.
 set -euo pipefail
 
@@ -31,13 +35,23 @@ if [[ -z "${VANTLE_IN_GNOME_SESSION:-}" ]]; then
     env -u DISPLAY -u WAYLAND_DISPLAY -u XAUTHORITY VANTLE_IN_GNOME_SESSION=1 XDG_RUNTIME_DIR="$dir" \
         HOME="$dir/home" XDG_CONFIG_HOME="$dir/home/.config" XDG_DATA_HOME="$dir/home/.local/share" \
         XDG_CACHE_HOME="$dir/home/.cache" dbus-run-session -- "$0" "$@" || status=$?
-    rm -rf "$dir"
+    rm -rf "$dir" 2>/dev/null || true # a portal may still be writing there as it ends
     exit "$status"
 fi
 
 pids=()
 cleanup() {
-    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[$i]}" 2>/dev/null || true; done
+    set +e
+    # The services the bus started for us (portals, dconf) end with the rest, by their PIDs.
+    local name
+    for name in $(dbus-send --session --print-reply=literal --dest=org.freedesktop.DBus / \
+        org.freedesktop.DBus.ListNames 2>/dev/null | tr ' ' '\n' | grep '^:'); do
+        pids+=("$(dbus-send --session --print-reply=literal --dest=org.freedesktop.DBus / \
+            org.freedesktop.DBus.GetConnectionUnixProcessID "string:$name" 2>/dev/null | awk '{print $2}')")
+    done
+    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do
+        [[ -n ${pids[$i]} && ${pids[$i]} != "$$" ]] && kill "${pids[$i]}" 2>/dev/null || true
+    done
     wait 2>/dev/null || true
 }
 trap cleanup EXIT

@@ -59,7 +59,8 @@ def serve(path):
     focused = ("(w => w ? (w.get_wm_class() || '') + ' ' + (w.get_title() || '') : '')"
                "(global.display.focus_window)")
     windows = ("global.get_window_actors().map(a => a.meta_window).filter(w => w.showing_on_its_workspace())"
-               ".map(w => (w.get_wm_class() || '') + ' ' + (w.get_title() || '')).join('\\n')")
+               ".map(w => { const r = w.get_frame_rect(); return [r.x, r.y, r.width, r.height,"
+               " w.get_wm_class() || '', w.get_title() || ''].join(' '); }).join('\\n')")
     # The icons the AppIndicator extension shows on the top bar: "X Y W H" of each.
     tray = ("Object.keys(Main.panel.statusArea).filter(k => k.startsWith('appindicator'))"
             ".map(k => { const a = Main.panel.statusArea[k]; const [x, y] = a.get_transformed_position();"

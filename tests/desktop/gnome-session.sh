@@ -15,7 +15,7 @@
 #   $DESKTOP_DRIVER click             the left button
 #   $DESKTOP_DRIVER screenshot FILE   the whole desktop as a PNG
 #   $DESKTOP_DRIVER focused           "APP TITLE" of the window with the keyboard, or nothing
-#   $DESKTOP_DRIVER windows           "APP TITLE" of each window on screen, one a line
+#   $DESKTOP_DRIVER windows           "X Y W H APP TITLE" of each window on screen, one a line
 #   $DESKTOP_DRIVER tray-icons        "X Y W H" of each tray icon on the desktop's panel
 #   $DESKTOP_DRIVER picker-shown      succeeds while the desktop's colour picker is on screen
 #   $DESKTOP_DRIVER shortcut-bound COMBO   succeeds once the desktop has taken the combination

@@ -24,6 +24,10 @@ fail() {
 history() { "$vantle" export 2>/dev/null; }
 has_picked() { [[ $(history) == *"$1"* ]]; }
 pasted_is() { [[ $(cat "$work/pasted" 2>/dev/null) == "$1" ]]; }
+capsule_placed() {
+    drive windows | awk 'tolower($5) ~ /^vantle/ && $4 < 60 && ($1 + $3 / 2 - 640)^2 < 16 && $2 + $4 / 2 > 250 && $2 + $4 / 2 < 350 {
+        found = 1 } END { exit !found }'
+}
 focused_on() { drive focused | grep -q "^$1"; }
 tray() { # tray registered|pick: Vantle's StatusNotifierItem is on the bus | click its "Pick Color"
     /usr/bin/python3 - "$1" "$pid" <<'PY'
@@ -81,6 +85,8 @@ pick() {
     sleep 0.05
     drive click
     wait_for 10 has_picked "$2" || fail "$1: $2 never reached the history: $(history | head -n 3)"
+    # The "Copied" capsule: centred, a little above the middle, and never given the keyboard.
+    wait_for 5 capsule_placed || fail "$1: no capsule where it belongs: $(drive windows)"
     focused_on paste-target || fail "$1: the focus moved to \"$(drive focused)\""
     drive screenshot "$shots/$1.png"
     drive key ctrl+shift+v
@@ -107,7 +113,7 @@ wait_for 5 pasted_is '#A05020' || fail "escape: the clipboard changed to \"$(cat
 
 # The popup shortcut, with the terminal focused, brings the popup up.
 drive key alt+shift+x
-popup_shown() { drive windows | grep -qi '^vantle'; }
+popup_shown() { drive windows | awk 'tolower($5) ~ /^vantle/ && $3 > 200 {found = 1} END {exit !found}'; }
 wait_for 10 popup_shown || fail "popup: Alt+Shift+X showed no popup (windows: $(drive windows))"
 drive screenshot "$shots/popup.png"
 echo "PASS"

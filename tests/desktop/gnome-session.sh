@@ -14,7 +14,7 @@
 #   $DESKTOP_DRIVER move X Y          the pointer to X,Y in desktop pixels
 #   $DESKTOP_DRIVER click             the left button
 #   $DESKTOP_DRIVER screenshot FILE   the whole desktop as a PNG
-#   $DESKTOP_DRIVER focused           "APP TITLE" of the window with the keyboard, or nothing
+#   $DESKTOP_DRIVER focused           "X Y W H APP TITLE" of the window with the keyboard, or nothing
 #   $DESKTOP_DRIVER windows           "X Y W H APP TITLE" of each window on screen, one a line
 #   $DESKTOP_DRIVER tray-icons        "X Y W H" of each tray icon on the desktop's panel
 #   $DESKTOP_DRIVER picker-shown      succeeds while the desktop's colour picker is on screen
@@ -30,7 +30,6 @@ source "$here/wait-for.sh"
 if [[ -z "${VANTLE_IN_GNOME_SESSION:-}" ]]; then
     command -v gnome-shell >/dev/null || skip "gnome-shell is not installed (scripts/packages/test.txt)"
     dir=$(mktemp -d "${TMPDIR:-/tmp}/vantle-gnome.XXXXXX")
-    chmod 0700 "$dir"
     status=0
     env -u DISPLAY -u WAYLAND_DISPLAY -u XAUTHORITY VANTLE_IN_GNOME_SESSION=1 XDG_RUNTIME_DIR="$dir" \
         HOME="$dir/home" XDG_CONFIG_HOME="$dir/home/.config" XDG_DATA_HOME="$dir/home/.local/share" \
@@ -40,80 +39,65 @@ if [[ -z "${VANTLE_IN_GNOME_SESSION:-}" ]]; then
 fi
 
 pids=()
-cleanup() {
+bus() { dbus-send --session --print-reply=literal --dest=org.freedesktop.DBus / "org.freedesktop.DBus.$1" "${@:2}"; }
+cleanup() { # what we started, then what the bus started for us (portals, dconf), by PID
     set +e
-    # The services the bus started for us (portals, dconf) end with the rest, by their PIDs.
-    local name
-    for name in $(dbus-send --session --print-reply=literal --dest=org.freedesktop.DBus / \
-        org.freedesktop.DBus.ListNames 2>/dev/null | tr ' ' '\n' | grep '^:'); do
-        pids+=("$(dbus-send --session --print-reply=literal --dest=org.freedesktop.DBus / \
-            org.freedesktop.DBus.GetConnectionUnixProcessID "string:$name" 2>/dev/null | awk '{print $2}')")
+    for name in $(bus ListNames | tr ' ' '\n' | grep '^:'); do
+        pids+=("$(bus GetConnectionUnixProcessID "string:$name" 2>/dev/null | awk '{print $2}')")
     done
-    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do
-        [[ -n ${pids[$i]} && ${pids[$i]} != "$$" ]] && kill "${pids[$i]}" 2>/dev/null || true
-    done
-    wait 2>/dev/null || true
+    for pid in "${pids[@]}"; do [[ $pid != "$$" ]] && kill "$pid"; done 2>/dev/null
+    wait 2>/dev/null
 }
 trap cleanup EXIT
-fail() { echo "gnome-session.sh: $*" >&2; tail -n 30 "$XDG_RUNTIME_DIR/shell.log" >&2 || true; exit 1; }
-log=$XDG_RUNTIME_DIR/shell.log
+fail() { echo "gnome-session.sh: $*" >&2; tail -n 30 "$XDG_RUNTIME_DIR/shell.log" >&2; exit 1; }
 mkdir -p "$HOME" "$XDG_RUNTIME_DIR/portals"
 export NO_AT_BRIDGE=1 GSETTINGS_BACKEND=dconf XDG_SESSION_TYPE=wayland XDG_CURRENT_DESKTOP=GNOME
-export XDG_SESSION_DESKTOP=gnome DESKTOP_SESSION=gnome
-
 # gnome-shell dies when /run/systemd/seats exists and no system bus answers: a bus of our own.
-dbus-daemon --session --nofork --address="unix:path=$XDG_RUNTIME_DIR/system_bus" >/dev/null 2>&1 &
-pids+=($!)
 export DBUS_SYSTEM_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/system_bus"
-wait_for 10 test -S "$XDG_RUNTIME_DIR/system_bus" || fail "the stand-in system bus did not start"
+dbus-daemon --session --nofork --address="$DBUS_SYSTEM_BUS_ADDRESS" >/dev/null 2>&1 &
+pids+=($!)
 
-# The desktop as the checks need it: the tray extension on, no hot corner, a plain background.
-gsettings set org.gnome.shell enabled-extensions "['ubuntu-appindicators@ubuntu.com']"
-gsettings set org.gnome.shell welcome-dialog-last-shown-version '999'
-gsettings set org.gnome.desktop.interface enable-hot-corners false
-gsettings set org.gnome.desktop.notifications show-banners false
-gsettings set org.gnome.desktop.background picture-options none
-gsettings set org.gnome.desktop.background primary-color '#202020'
-# Only GNOME's own portals, even where another desktop's are installed.
-cp /usr/share/xdg-desktop-portal/portals/{gnome,gtk,gnome-shell}.portal "$XDG_RUNTIME_DIR/portals/" 2>/dev/null || true
+# The desktop as the checks need it: the tray extension on, no hot corner, no banners, a plain
+# background; only GNOME's own portals, even where another desktop's are installed.
+while read -r schema key value; do gsettings set "$schema" "$key" "$value"; done <<'EOF'
+org.gnome.shell enabled-extensions ['ubuntu-appindicators@ubuntu.com']
+org.gnome.shell welcome-dialog-last-shown-version '999'
+org.gnome.desktop.interface enable-hot-corners false
+org.gnome.desktop.notifications show-banners false
+org.gnome.desktop.background picture-options none
+org.gnome.desktop.background primary-color '#202020'
+EOF
+cp /usr/share/xdg-desktop-portal/portals/{gnome,gtk,gnome-shell}.portal "$XDG_RUNTIME_DIR/portals/" || true
 export XDG_DESKTOP_PORTAL_DIR=$XDG_RUNTIME_DIR/portals
 
 # Mutter starts Xwayland only where /tmp/.X11-unix is world-writable (1777, as systemd makes it;
 # an X server started under a strict umask may have made it 1755).
-mkdir -p /tmp/.X11-unix && { [[ -w /tmp/.X11-unix && $(stat -c %a /tmp/.X11-unix) == 1777 ]] || chmod 1777 /tmp/.X11-unix; } || true
+mkdir -p /tmp/.X11-unix && [[ $(stat -c %a /tmp/.X11-unix) == 1777 ]] || chmod 1777 /tmp/.X11-unix || true
 pipewire >"$XDG_RUNTIME_DIR/pipewire.log" 2>&1 &
 pids+=($!)
-gnome-shell --headless --wayland --virtual-monitor 1280x800 --unsafe-mode >"$log" 2>&1 &
+gnome-shell --headless --wayland --virtual-monitor 1280x800 --unsafe-mode >"$XDG_RUNTIME_DIR/shell.log" 2>&1 &
 pids+=($!)
-shell_pid=$!
-x11_display() { sed -n 's/.*Using public X11 display \(:[0-9]*\).*/\1/p' "$log" | head -n 1; }
+x11_display() { sed -n 's/.*Using public X11 display \(:[0-9]*\).*/\1/p' "$XDG_RUNTIME_DIR/shell.log" | head -n 1; }
 shell_ready() { [[ -n $(x11_display) && -S $XDG_RUNTIME_DIR/wayland-0 ]]; }
 wait_for 60 shell_ready || fail "gnome-shell did not start"
 export WAYLAND_DISPLAY=wayland-0 DISPLAY=$(x11_display)
-XAUTHORITY=$(compgen -G "$XDG_RUNTIME_DIR/.mutter-Xwaylandauth.*" | head -n 1) || true
-export XAUTHORITY
+export XAUTHORITY=$(compgen -G "$XDG_RUNTIME_DIR/.mutter-Xwaylandauth.*" | head -n 1)
 dbus-update-activation-environment WAYLAND_DISPLAY DISPLAY XAUTHORITY XDG_CURRENT_DESKTOP \
     XDG_SESSION_TYPE XDG_DESKTOP_PORTAL_DIR DBUS_SYSTEM_BUS_ADDRESS NO_AT_BRIDGE HOME XDG_CONFIG_HOME
-
 /usr/libexec/gsd-media-keys >"$XDG_RUNTIME_DIR/gsd.log" 2>&1 &
 pids+=($!)
 
-owned() { dbus-send --session --print-reply --dest=org.freedesktop.DBus / org.freedesktop.DBus.NameHasOwner "string:$1" | grep -q true; }
+owned() { bus NameHasOwner "string:$1" | grep -q true; }
 for name in org.gnome.Shell org.gnome.Mutter.RemoteDesktop org.gnome.Mutter.ScreenCast; do
     wait_for 60 owned "$name" || fail "$name never came on the bus"
 done
-export DESKTOP_NAME=gnome DESKTOP_DRIVER="$XDG_RUNTIME_DIR/driver"
-/usr/bin/python3 "$here/gnome-driver.py" serve "$XDG_RUNTIME_DIR/driver.sock" >"$XDG_RUNTIME_DIR/driver.log" 2>&1 &
+export DESKTOP_NAME=gnome DESKTOP_DRIVER=$here/gnome-driver.py GNOME_DRIVER_SOCKET=$XDG_RUNTIME_DIR/driver.sock
+"$DESKTOP_DRIVER" serve "$GNOME_DRIVER_SOCKET" >"$XDG_RUNTIME_DIR/driver.log" 2>&1 &
 pids+=($!)
-printf '#!/bin/sh\nexec /usr/bin/python3 %q "$@"\n' "$here/gnome-driver.py" >"$DESKTOP_DRIVER"
-chmod +x "$DESKTOP_DRIVER"
-export GNOME_DRIVER_SOCKET=$XDG_RUNTIME_DIR/driver.sock
 wait_for 30 "$DESKTOP_DRIVER" focused || fail "the input driver did not start: $(cat "$XDG_RUNTIME_DIR/driver.log")"
 # The shell starts in the overview, which holds the keyboard until Escape.
 "$DESKTOP_DRIVER" key Escape
-overview_gone() { "$DESKTOP_DRIVER" eval 'Main.overview.visible' | grep -qx false; }
-wait_for 20 overview_gone || fail "the overview stays open"
+wait_for 20 "$DESKTOP_DRIVER" eval '!Main.overview.visible' || fail "the overview stays open"
 export VANTLE_TEST_SESSION=1
-kill -0 "$shell_pid" || fail "gnome-shell ended"
 
 "$@"

@@ -28,7 +28,7 @@ capsule_placed() {
     drive windows | awk 'tolower($5) ~ /^vantle/ && $4 < 60 && ($1 + $3 / 2 - 640)^2 < 16 && $2 + $4 / 2 > 250 && $2 + $4 / 2 < 350 {
         found = 1 } END { exit !found }'
 }
-focused_on() { drive focused | grep -q "^$1"; }
+focused_on() { [[ " $(drive focused) " == *" $1 "* ]]; }
 tray() { # tray registered|pick: Vantle's StatusNotifierItem is on the bus | click its "Pick Color"
     /usr/bin/python3 - "$1" "$pid" <<'PY'
 import sys, dbus

@@ -17,8 +17,7 @@ pids=()
 trap 'kill "${pids[@]}" 2>/dev/null; wait' EXIT
 fail() {
     echo "FAIL: $*" >&2
-    drive screenshot "$shots/failure.png" || true
-    tail -n 20 "$work/vantle.log" >&2 || true
+    drive screenshot "$shots/failure-${1%%:*}.png" || true
     exit 1
 }
 history() { "$vantle" export 2>/dev/null; }
@@ -60,21 +59,27 @@ mkdir -p "$config" && printf '[General]\nonboardingShown=true\n' >"$config/Vantl
 QT_LOGGING_RULES="vantle.*=true" "$vantle" >"$work/vantle.log" 2>&1 &
 pids+=($!)
 pid=$!
-wait_for 30 tray registered ||
-    fail "Vantle's tray icon never registered"
-wait_for 30 drive shortcut-bound alt+shift+c || fail "the desktop never took the pick shortcut Alt+Shift+C"
-wait_for 30 drive shortcut-bound alt+shift+x || fail "the desktop never took the popup shortcut Alt+Shift+X"
+wait_for 30 tray registered || fail "Vantle's tray icon never registered"
+
+# Each check of the table runs on its own (in a subshell, where `fail` ends only that check),
+# so that one run says everything that fails.
+failures=()
+check() { ("$@") || failures+=("$1 ${2:-}"); }
 
 # The tray icon stands out from the panel it sits on: a good share of its pixels are far from
 # the panel's colour (the icon's own corner).
-drive screenshot "$shots/panel.png"
-read -r x y w h <<<"$(drive tray-icons | head -n 1)"
-[[ -n ${h:-} ]] || fail "no tray icon on the panel"
-contrast=$(convert "$shots/panel.png" -crop "${w}x${h}+${x}+${y}" +repage -colorspace Gray \
-    -fx 'abs(u-p{0,0}) > 0.3' -format '%[fx:mean]' info:)
-awk -v c="$contrast" 'BEGIN {exit !(c > 0.03)}' || fail "the tray icon is near-invisible on the panel ($contrast of its pixels stand out)"
-
-# pick TRIGGER COLOR: paint COLOR, trigger, let the desktop's picker answer, paste at once.
+tray_visible() {
+    drive screenshot "$shots/panel.png"
+    read -r x y w h <<<"$(drive tray-icons | head -n 1)"
+    [[ -n ${h:-} ]] || fail "no tray icon on the panel"
+    contrast=$(convert "$shots/panel.png" -crop "${w}x${h}+${x}+${y}" +repage -colorspace Gray \
+        -fx 'abs(u-p{0,0}) > 0.3' -format '%[fx:mean]' info:)
+    awk -v c="$contrast" 'BEGIN {exit !(c > 0.03)}' || fail "the tray icon is near-invisible ($contrast of it stands out)"
+    echo "ok: the tray icon stands out from the panel ($contrast of its pixels)"
+}
+# shortcut COMBO: pressed once the desktop has taken it, as a person presses it once it works.
+shortcut() { wait_for 30 drive shortcut-bound "$1" && drive key "$1" || fail "the desktop never took $1"; }
+# pick NAME COLOR TRIGGER...: paint COLOR, trigger, let the desktop's picker answer, paste at once.
 pick() {
     : >"$work/pasted"
     drive background "$2"
@@ -86,34 +91,49 @@ pick() {
     drive click
     wait_for 10 has_picked "$2" || fail "$1: $2 never reached the history: $(history | head -n 3)"
     # The "Copied" capsule: centred, a little above the middle, and never given the keyboard.
-    wait_for 5 capsule_placed || fail "$1: no capsule where it belongs: $(drive windows)"
+    wait_for 5 capsule_placed && capsule=placed || capsule=$(drive windows | grep -iv paste-target)
     focused_on paste-target || fail "$1: the focus moved to \"$(drive focused)\""
     drive screenshot "$shots/$1.png"
     drive key ctrl+shift+v
     drive key Return
     wait_for 5 pasted_is "$2" || fail "$1: the paste gave \"$(cat "$work/pasted")\", not $2"
+    [[ $capsule == placed ]] || fail "$1: no capsule where it belongs: $capsule"
     echo "ok: $1 picked and pasted $2"
 }
-pick shortcut '#3366CC' drive key alt+shift+c
-pick tray '#CC3366' tray pick
-pick command '#66CC33' "$vantle" pick
-pick shortcut-again '#A05020' drive key alt+shift+c
-
-# Escape cancels: nothing new in the history, the clipboard keeps the last pick.
-drive background '#102030'
-drive key alt+shift+c
-wait_for 10 drive picker-shown || fail "escape: the desktop's picker never showed"
-drive key Escape
-wait_for 10 bash -c "! '$DESKTOP_DRIVER' picker-shown" || fail "escape: the picker stays open"
-has_picked '#102030' && fail "escape: a cancelled pick reached the history"
-: >"$work/pasted"
-drive key ctrl+shift+v
-drive key Return
-wait_for 5 pasted_is '#A05020' || fail "escape: the clipboard changed to \"$(cat "$work/pasted")\""
-
+# Escape cancels: nothing new in the history, the clipboard unchanged.
+escape() {
+    : >"$work/pasted"
+    drive key ctrl+shift+v
+    drive key Return
+    wait_for 5 test -s "$work/pasted"
+    before=$(cat "$work/pasted")
+    drive background '#102030'
+    "$vantle" pick
+    wait_for 10 drive picker-shown || fail "escape: the desktop's picker never showed"
+    drive key Escape
+    wait_for 10 bash -c "! '$DESKTOP_DRIVER' picker-shown" || fail "escape: the picker stays open"
+    ! has_picked '#102030' || fail "escape: a cancelled pick reached the history"
+    : >"$work/pasted"
+    drive key ctrl+shift+v
+    drive key Return
+    wait_for 5 pasted_is "$before" || fail "escape: the clipboard changed from \"$before\" to \"$(cat "$work/pasted")\""
+    echo "ok: escape cancelled"
+}
 # The popup shortcut, with the terminal focused, brings the popup up.
-drive key alt+shift+x
+popup() {
+    shortcut alt+shift+x
+    wait_for 10 popup_shown || fail "popup: Alt+Shift+X showed no popup (windows: $(drive windows))"
+    drive screenshot "$shots/popup.png"
+    echo "ok: the popup shortcut showed the popup"
+}
 popup_shown() { drive windows | awk 'tolower($5) ~ /^vantle/ && $3 > 200 {found = 1} END {exit !found}'; }
-wait_for 10 popup_shown || fail "popup: Alt+Shift+X showed no popup (windows: $(drive windows))"
-drive screenshot "$shots/popup.png"
+
+check tray_visible
+check pick shortcut '#3366CC' shortcut alt+shift+c
+check pick tray '#CC3366' tray pick
+check pick command '#66CC33' "$vantle" pick
+check pick shortcut-again '#A05020' shortcut alt+shift+c
+check escape
+check popup
+((${#failures[@]} == 0)) || { echo "FAILED: ${failures[*]}" >&2; exit 1; }
 echo "PASS"

@@ -106,7 +106,7 @@ QWidget *SettingsView::makeGeneralPage()
     shortcuts->addWidget(m_popoverRecorder);
     if (m_hotkeyManager.areShortcutsKeptByDesktop()) {
         auto *note = secondaryLabel(
-            tr("On GNOME these shortcuts live in Settings › Keyboard › Custom Shortcuts."), 11);
+            tr("On GNOME these shortcuts live among the custom shortcuts in Settings › Keyboard."), 11);
         note->setWordWrap(true);
         shortcuts->addWidget(note);
     }

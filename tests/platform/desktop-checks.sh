@@ -22,7 +22,13 @@ fail() {
 }
 history() { "$vantle" export 2>/dev/null; }
 has_picked() { [[ $(history) == *"$1"* ]]; }
-pasted_is() { [[ $(cat "$work/pasted" 2>/dev/null) == "$1" ]]; }
+paste() { # paste: what Ctrl+Shift+V types into the terminal with the focus (appended to a file)
+    : >"$work/pasted"
+    drive key ctrl+shift+v
+    drive key Return
+    wait_for 5 test -s "$work/pasted"
+    cat "$work/pasted"
+}
 capsule_placed() {
     drive windows | awk 'tolower($5) ~ /^vantle/ && $4 < 60 && ($1 + $3 / 2 - 640)^2 < 16 && $2 + $4 / 2 > 250 && $2 + $4 / 2 < 350 {
         found = 1 } END { exit !found }'
@@ -49,7 +55,7 @@ PY
 }
 
 # Another Wayland program with the keyboard: a terminal that writes what is pasted to a file.
-foot -a paste-target sh -c "cat > '$work/pasted'" >/dev/null 2>&1 &
+foot -a paste-target sh -c "cat >> '$work/pasted'" >/dev/null 2>&1 &
 pids+=($!)
 wait_for 20 focused_on paste-target || fail "the paste target never had the focus ($(drive focused))"
 
@@ -81,7 +87,6 @@ tray_visible() {
 shortcut() { wait_for 30 drive shortcut-bound "$1" && drive key "$1" || fail "the desktop never took $1"; }
 # pick NAME COLOR TRIGGER...: paint COLOR, trigger, let the desktop's picker answer, paste at once.
 pick() {
-    : >"$work/pasted"
     drive background "$2"
     drive move 60 760
     "${@:3}" || fail "$1: could not trigger the pick"
@@ -94,29 +99,22 @@ pick() {
     wait_for 5 capsule_placed && capsule=placed || capsule=$(drive windows | grep -iv paste-target)
     focused_on paste-target || fail "$1: the focus moved to \"$(drive focused)\""
     drive screenshot "$shots/$1.png"
-    drive key ctrl+shift+v
-    drive key Return
-    wait_for 5 pasted_is "$2" || fail "$1: the paste gave \"$(cat "$work/pasted")\", not $2"
+    pasted=$(paste)
+    [[ $pasted == "$2" ]] || fail "$1: the paste gave \"$pasted\", not $2"
     [[ $capsule == placed ]] || fail "$1: no capsule where it belongs: $capsule"
     echo "ok: $1 picked and pasted $2"
 }
 # Escape cancels: nothing new in the history, the clipboard unchanged.
 escape() {
-    : >"$work/pasted"
-    drive key ctrl+shift+v
-    drive key Return
-    wait_for 5 test -s "$work/pasted"
-    before=$(cat "$work/pasted")
+    before=$(paste)
     drive background '#102030'
     "$vantle" pick
     wait_for 10 drive picker-shown || fail "escape: the desktop's picker never showed"
     drive key Escape
     wait_for 10 bash -c "! '$DESKTOP_DRIVER' picker-shown" || fail "escape: the picker stays open"
     ! has_picked '#102030' || fail "escape: a cancelled pick reached the history"
-    : >"$work/pasted"
-    drive key ctrl+shift+v
-    drive key Return
-    wait_for 5 pasted_is "$before" || fail "escape: the clipboard changed from \"$before\" to \"$(cat "$work/pasted")\""
+    after=$(paste)
+    [[ $after == "$before" ]] || fail "escape: the clipboard changed from \"$before\" to \"$after\""
     echo "ok: escape cancelled"
 }
 # The popup shortcut, with the terminal focused, brings the popup up.

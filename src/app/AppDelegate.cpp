@@ -140,8 +140,7 @@ void AppDelegate::createStatusItem()
     if (m_statusItem)
         return;
     m_statusItem = std::make_unique<QSystemTrayIcon>();
-    m_statusItem->setIcon(
-        QIcon(QPixmap::fromImage(StatusIcon::plainIcon(m_facilities.appearance.isDark(), 2.0))));
+    m_statusItem->setIcon(QIcon(QPixmap::fromImage(StatusIcon::plainIcon(isPanelDark(), 2.0))));
     m_statusItem->setToolTip(QStringLiteral("Vantle"));
     // Desktops that show only a menu for a tray icon (and a secondary click elsewhere) get
     // the three things one does from the tray.
@@ -186,11 +185,17 @@ bool AppDelegate::isStandalone() const
     return m_popover && m_popover->isStandalone();
 }
 
+bool AppDelegate::isPanelDark() const
+{
+    // The icon's tint follows the panel it sits on, not the windows' style.
+    return m_facilities.isPanelAlwaysDark || m_facilities.appearance.isDark();
+}
+
 void AppDelegate::updateStatusItemIcon()
 {
     if (!m_statusItem)
         return;
-    const bool dark = m_facilities.appearance.isDark();
+    const bool dark = isPanelDark();
     const QList<PickedColor> &colors = m_viewModel->colors();
     QImage image;
     if (!m_facilities.store.boolForKey(showColorDot) || colors.isEmpty()) {

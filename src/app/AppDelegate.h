@@ -49,6 +49,8 @@ public:
         bool isWayland;
         // How the desktop is told where the popup goes (Wayland); null where it needs no telling.
         WindowRoles *windowRoles = nullptr;
+        // The tray sits on a panel that is dark in light and dark styles alike (GNOME's top bar).
+        bool isPanelAlwaysDark = false;
     };
 
     explicit AppDelegate(Facilities facilities, QObject *parent = nullptr);
@@ -80,6 +82,7 @@ Q_SIGNALS:
     void statusItemIconChanged();
 
 private:
+    bool isPanelDark() const;
     void createStatusItem();
     void showStatusItem();
     void useStandaloneWindow();

@@ -2,12 +2,39 @@
 #include "app/CommandLine.h"
 #include "app/DesktopPart.h"
 #include "app/TrayApplication.h"
+#include "platform/DesktopSession.h"
+#include "platform/wayland/DataControlProbe.h"
 #include "screens/AccessibleWidgets.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 #include <QTextStream>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcBackends, "vantle.backends", QtWarningMsg)
+
+// Where the compositor offers no data-control (GNOME), Qt runs on XWayland, whose clipboard
+// needs no focus; the platform is chosen for this process only, not for programs it starts.
+QByteArray choosePlatform(int argc, char **argv)
+{
+    StartEnvironment environment;
+    environment.isPlatformChosen = !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+    for (int i = 1; i < argc; ++i)
+        environment.isPlatformChosen |= qstrcmp(argv[i], "-platform") == 0;
+    environment.hasWaylandDisplay = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    environment.hasX11Display = !qEnvironmentVariableIsEmpty("DISPLAY");
+    if (environment.needsDataControlProbe())
+        environment.offersDataControl = compositorOffersDataControl();
+    const QByteArray platform = qtPlatformFor(environment);
+    if (!platform.isEmpty())
+        qputenv("QT_QPA_PLATFORM", platform);
+    return platform;
+}
+
+} // namespace
 
 extern "C" Q_DECL_EXPORT int vantleDesktopMain(int argc, char **argv)
 {
@@ -19,7 +46,13 @@ extern "C" Q_DECL_EXPORT int vantleDesktopMain(int argc, char **argv)
 
     // Named after our desktop entry: the desktop shows its icon and name for our windows.
     QGuiApplication::setDesktopFileName(QStringLiteral("vantle"));
+    const QByteArray platform = choosePlatform(argc, argv);
     QApplication app(argc, argv);
+    if (!platform.isEmpty()) {
+        qunsetenv("QT_QPA_PLATFORM");
+        qCInfo(lcBackends) << "platform:" << platform
+                           << "through XWayland: the compositor offers no data-control";
+    }
     setApplicationIdentity();
     installAccessibleWidgets();
     if (tray)

@@ -114,7 +114,7 @@ int runTrayApplication()
     DialogUpdateInterface updateInterface;
 
     AppDelegate delegate({ store, *sampler, *clipboard, confirmation, exportDialogs, *shortcuts, loginItems,
-        appearance, network, updateInterface, session.isWayland(), windowRoles.get() });
+        appearance, network, updateInterface, session.isWayland(), windowRoles.get(), session.isGnome() });
     QObject::connect(instance.get(), &InstanceServer::pickRequested, &delegate, &AppDelegate::pickColor,
         Qt::QueuedConnection);
     QObject::connect(instance.get(), &InstanceServer::togglePopoverRequested, &delegate,

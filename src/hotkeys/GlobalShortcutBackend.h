@@ -32,6 +32,9 @@ public:
 
     virtual void registerShortcut(const GlobalShortcut &shortcut) = 0;
     virtual void unregisterShortcut(int id) = 0;
+    // Whether the desktop keeps the shortcuts among its own keyboard settings (GNOME's custom
+    // shortcuts), where the person also sees and changes them.
+    virtual bool areShortcutsKeptByDesktop() const { return false; }
 
 Q_SIGNALS:
     void activated(int id);

@@ -15,6 +15,11 @@ HotkeyManager::HotkeyManager(SettingsStore &store, GlobalShortcutBackend &backen
 
 HotkeyManager::~HotkeyManager() = default;
 
+bool HotkeyManager::areShortcutsKeptByDesktop() const
+{
+    return m_backend.areShortcutsKeptByDesktop();
+}
+
 void HotkeyManager::installEventHandler()
 {
     if (m_isHandlerInstalled)

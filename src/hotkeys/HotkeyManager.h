@@ -27,6 +27,8 @@ public:
     void installEventHandler();
     void registerPickHotkey();
     void registerPopoverHotkey();
+    // Whether the desktop keeps the shortcuts among its own keyboard settings.
+    bool areShortcutsKeptByDesktop() const;
     // Releases both shortcuts, pick first.
     void unregisterAll();
     // unregisterAll(), then pick, then popover.

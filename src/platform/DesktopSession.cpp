@@ -3,6 +3,8 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
+
 DesktopSession DesktopSession::current()
 {
     DesktopSession session;
@@ -15,7 +17,15 @@ DesktopSession DesktopSession::current()
     session.samplerOverride = qEnvironmentVariable("VANTLE_SAMPLER");
     session.clipboardOverride = qEnvironmentVariable("VANTLE_CLIPBOARD");
     session.shortcutsOverride = qEnvironmentVariable("VANTLE_SHORTCUTS");
+    session.currentDesktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
     return session;
+}
+
+bool DesktopSession::isGnome() const
+{
+    const QList<QStringView> names = QStringView(currentDesktop).split(u':');
+    return std::any_of(names.begin(), names.end(),
+        [](QStringView name) { return name.compare(u"GNOME", Qt::CaseInsensitive) == 0; });
 }
 
 namespace {
@@ -48,14 +58,19 @@ ClipboardBackend chooseClipboard(const DesktopSession &session)
 ShortcutBackend chooseShortcuts(const DesktopSession &session)
 {
     const QString forced = session.shortcutsOverride.toLower();
-    if (forced.isEmpty())
+    if (forced.isEmpty()) {
+        if (session.isGnome() && (session.isWayland() || session.isWaylandSession()))
+            return ShortcutBackend::gnome;
         return session.isX11()    ? ShortcutBackend::x11
             : session.isWayland() ? ShortcutBackend::portal
                                   : ShortcutBackend::none;
+    }
     if (forced == u"x11")
         return ShortcutBackend::x11;
     if (forced == u"portal")
         return ShortcutBackend::portal;
+    if (forced == u"gnome")
+        return ShortcutBackend::gnome;
     return ShortcutBackend::none;
 }
 
@@ -64,4 +79,10 @@ ShortcutBackend chooseShortcuts(const DesktopSession &session)
 BackendChoice chooseBackends(const DesktopSession &session)
 {
     return { chooseSampler(session), chooseClipboard(session), chooseShortcuts(session) };
+}
+
+QByteArray qtPlatformFor(const StartEnvironment &environment)
+{
+    return environment.needsDataControlProbe() && !environment.offersDataControl ? QByteArrayLiteral("xcb")
+                                                                                 : QByteArray();
 }

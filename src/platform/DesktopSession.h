@@ -10,11 +10,12 @@ struct DesktopSession {
     QString sessionType; // XDG_SESSION_TYPE: "x11", "wayland", "tty", or empty
     bool hasX11Connection = false; // Qt talks to an X server (XWayland included)
     bool hasWaylandDisplay = false; // WAYLAND_DISPLAY or WAYLAND_SOCKET names a compositor
-    // VANTLE_SAMPLER=portal|x11, VANTLE_CLIPBOARD=qt|data-control, VANTLE_SHORTCUTS=x11|portal|none
-    // force a backend, for tests and bug reports.
+    // VANTLE_SAMPLER=portal|x11, VANTLE_CLIPBOARD=qt|data-control,
+    // VANTLE_SHORTCUTS=x11|portal|gnome|none force a backend, for tests and bug reports.
     QString samplerOverride;
     QString clipboardOverride;
     QString shortcutsOverride;
+    QString currentDesktop; // XDG_CURRENT_DESKTOP: "GNOME", "ubuntu:GNOME", "KDE", "sway", …
 
     // Qt's windows are Wayland surfaces: the compositor places them, and the clipboard follows focus.
     bool isWayland() const { return platformName.startsWith(u"wayland"); }
@@ -22,6 +23,8 @@ struct DesktopSession {
     bool isX11() const { return platformName == u"xcb"; }
     // The user's session is Wayland, even where Qt runs through XWayland.
     bool isWaylandSession() const { return sessionType.compare(u"wayland", Qt::CaseInsensitive) == 0; }
+    // GNOME's shell draws the desktop, whatever flavour names it first.
+    bool isGnome() const;
 
     // This process's session, from the environment and the running QGuiApplication.
     static DesktopSession current();
@@ -29,7 +32,7 @@ struct DesktopSession {
 
 enum class SamplerBackend { portal, x11, none };
 enum class ClipboardBackend { qt, dataControl };
-enum class ShortcutBackend { x11, portal, none };
+enum class ShortcutBackend { x11, portal, gnome, none };
 
 struct BackendChoice {
     SamplerBackend sampler;
@@ -44,5 +47,24 @@ struct BackendChoice {
 // - the clipboard: data-control on Wayland, which needs no focus, tried first also under
 //   XWayland, since the X11 selection reaches Wayland programs only as far as the compositor
 //   bridges it; QClipboard on X11, which owns the selection without focus anyway;
-// - global shortcuts: key grabs on X11, the GlobalShortcuts portal on Wayland, none elsewhere.
+// - global shortcuts: key grabs on X11, the GlobalShortcuts portal on Wayland, none elsewhere;
+//   on GNOME's Wayland session, under XWayland too (X key grabs there see keys only while an
+//   X11 window has the focus), the portal where GNOME has it, else GNOME's custom shortcuts.
 BackendChoice chooseBackends(const DesktopSession &session);
+
+// What the desktop part finds before QApplication chooses its platform.
+struct StartEnvironment {
+    bool isPlatformChosen = false; // QT_QPA_PLATFORM, or -platform on the command line
+    bool hasWaylandDisplay = false; // WAYLAND_DISPLAY
+    bool hasX11Display = false; // DISPLAY: XWayland beside the compositor
+    bool offersDataControl = false; // the compositor's answer, asked only when it matters
+
+    // Whether the compositor must be asked for data-control before the platform is chosen.
+    bool needsDataControlProbe() const { return !isPlatformChosen && hasWaylandDisplay && hasX11Display; }
+};
+
+// The Qt platform to run on, or empty for Qt's own choice. A compositor without data-control
+// (GNOME's mutter) leaves a Wayland client no clipboard without focus, while an X11 selection
+// set through XWayland needs none and the compositor hands it on to Wayland programs: there,
+// "xcb". A platform the person chose is never overridden.
+QByteArray qtPlatformFor(const StartEnvironment &environment);

@@ -104,6 +104,12 @@ QWidget *SettingsView::makeGeneralPage()
     auto *shortcuts = compact(new QVBoxLayout(section(tr("Keyboard Shortcuts"))));
     shortcuts->addWidget(m_pickRecorder);
     shortcuts->addWidget(m_popoverRecorder);
+    if (m_hotkeyManager.areShortcutsKeptByDesktop()) {
+        auto *note = secondaryLabel(
+            tr("On GNOME these shortcuts live among the custom shortcuts in Settings › Keyboard."), 11);
+        note->setWordWrap(true);
+        shortcuts->addWidget(note);
+    }
 
     // Tray (the panel's words on a Linux desktop)
     m_colorDotToggle = new QCheckBox(tr("Show colored dot for last picked color"));

@@ -24,6 +24,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QPixmap>
+#include <QScreen>
 #include <QSystemTrayIcon>
 
 using namespace PreferenceKeys;
@@ -185,10 +186,25 @@ bool AppDelegate::isStandalone() const
     return m_popover && m_popover->isStandalone();
 }
 
+QRect AppDelegate::trayIconPlace() const
+{
+    const QRect icon = m_statusItem ? m_statusItem->geometry() : QRect();
+    if (!icon.isEmpty() || !m_facilities.isOnGnomeTopBar)
+        return icon;
+    // The top bar's tray is its right end: the popup opens below the bar there, not under a
+    // pointer position that XWayland does not know while it is over the shell.
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    if (!screen)
+        return icon;
+    const QRect available = screen->availableGeometry();
+    const int barHeight = qMax(1, available.top() - screen->geometry().top());
+    return QRect(available.right() - 31, screen->geometry().top(), 32, barHeight);
+}
+
 bool AppDelegate::isPanelDark() const
 {
     // The icon's tint follows the panel it sits on, not the windows' style.
-    return m_facilities.isPanelAlwaysDark || m_facilities.appearance.isDark();
+    return m_facilities.isOnGnomeTopBar || m_facilities.appearance.isDark();
 }
 
 void AppDelegate::updateStatusItemIcon()
@@ -251,7 +267,7 @@ void AppDelegate::togglePopoverWith(Qt::FocusReason reason)
     if (!isStandalone() && m_popover->justClosedByOutsideClick())
         return; // this very click on the tray icon closed it
     refreshPopoverContent();
-    m_popover->popUp(m_statusItem ? m_statusItem->geometry() : QRect(), reason);
+    m_popover->popUp(trayIconPlace(), reason);
 }
 
 void AppDelegate::pickColor()

@@ -49,8 +49,9 @@ public:
         bool isWayland;
         // How the desktop is told where the popup goes (Wayland); null where it needs no telling.
         WindowRoles *windowRoles = nullptr;
-        // The tray sits on a panel that is dark in light and dark styles alike (GNOME's top bar).
-        bool isPanelAlwaysDark = false;
+        // The tray sits on GNOME's top bar: dark in light and dark styles alike, and at the top
+        // right of the screen, where the icon's own place is not told.
+        bool isOnGnomeTopBar = false;
     };
 
     explicit AppDelegate(Facilities facilities, QObject *parent = nullptr);
@@ -83,6 +84,8 @@ Q_SIGNALS:
 
 private:
     bool isPanelDark() const;
+    // Where the tray icon is, for placing the popup beside it; empty where unknown.
+    QRect trayIconPlace() const;
     void createStatusItem();
     void showStatusItem();
     void useStandaloneWindow();

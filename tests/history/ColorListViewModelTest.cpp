@@ -248,7 +248,8 @@ TEST_F(ColorListViewModelTest, ExportWritesTheChosenSelectionInTheChosenLayout)
     dialogs.chosenPath = settings.dir.path(); // a folder: the failure is reported
     model->exportColors(false, false);
     ASSERT_EQ(dialogs.failures.size(), 1);
-    EXPECT_TRUE(dialogs.failures.first().contains(settings.dir.path())) << dialogs.failures.first().toStdString();
+    EXPECT_TRUE(dialogs.failures.first().contains(settings.dir.path()))
+        << dialogs.failures.first().toStdString();
     model->clearHistory();
     model->deleteColor(model->colors().first());
     model->exportColors(true, false);

@@ -13,7 +13,8 @@ struct SubcommandInfo {
     const char *name;
 };
 
-constexpr SubcommandInfo subcommands[] = { { "format" }, { "export" }, { "pick" }, { "toggle" } };
+constexpr SubcommandInfo subcommands[]
+    = { { "format" }, { "contrast" }, { "export" }, { "pick" }, { "toggle" } };
 
 } // namespace
 
@@ -54,37 +55,45 @@ OptionWord splitOptionWord(const QString &word)
 
 QString commandLineHelp()
 {
-    return QStringLiteral("Usage: vantle [COMMAND] [OPTIONS]\n"
-                          "\n"
-                          "Without a command, Vantle starts in the system tray (or, when it already runs,\n"
-                          "shows or hides its popup).\n"
-                          "\n"
-                          "Commands:\n"
-                          "  format [--format NAME | --all] [--contrast] COLOR...\n"
-                          "      Print colours as text. COLOR is #RRGGBB, RRGGBB, or sRGB components r,g,b\n"
-                          "      or r,g,b,a between 0 and 1. Without --format the preferred format is used.\n"
-                          "      --all prints all nine formats as LABEL<TAB>TEXT; --contrast adds the\n"
-                          "      WCAG contrast against white and black.\n"
-                          "        vantle format '#FF6B36' --format hsl\n"
-                          "        vantle format --all --contrast 1.0,0.42,0.21\n"
-                          "  export [--pinned] [--json] [-o FILE]\n"
-                          "      Print the stored history (or only the pinned colours) as text in the\n"
-                          "      preferred format, or as JSON; with -o, write it atomically to FILE.\n"
-                          "        vantle export --pinned --json -o palette.json\n"
-                          "  pick [--print [--format NAME]]\n"
-                          "      Ask the running Vantle to start a pick (bind this to a key in your\n"
-                          "      desktop's keyboard settings). With --print, pick in this process and\n"
-                          "      print the colour instead; exit status 1 when cancelled.\n"
-                          "        vantle pick\n"
-                          "        vantle pick --print --format hexLower\n"
-                          "  toggle\n"
-                          "      Ask the running Vantle to show or hide its popup.\n"
-                          "        vantle toggle\n"
-                          "\n"
-                          "Options:\n"
-                          "  -h, --help     Show this help.\n"
-                          "  -v, --version  Show the version.\n"
-                          "\n"
-                          "Settings: %1\n")
+    return QStringLiteral(
+        "Usage: vantle [COMMAND] [OPTIONS]\n"
+        "\n"
+        "Without a command, Vantle starts in the system tray (or, when it already runs,\n"
+        "shows or hides its popup).\n"
+        "\n"
+        "Commands:\n"
+        "  format [--format NAME | --all] [--contrast] COLOR...\n"
+        "      Print colours as text. COLOR is any text Vantle writes (rgb(...), hsl(...)...),\n"
+        "      #RGB, #RRGGBB, RRGGBB, or sRGB components r,g,b or r,g,b,a between 0 and\n"
+        "      1. Without --format the preferred format is used.\n"
+        "      --all prints all nine formats as LABEL<TAB>TEXT; --contrast adds the\n"
+        "      WCAG contrast against white and black.\n"
+        "        vantle format '#FF6B36' --format hsl\n"
+        "        vantle format --all --contrast 1.0,0.42,0.21\n"
+        "  contrast [--json] FOREGROUND BACKGROUND\n"
+        "      Print the WCAG 2 contrast ratio of a text colour on its background, its\n"
+        "      grades for normal text, large text and non-text parts, and the APCA\n"
+        "      lightness contrast Lc; --json prints one object. A colour is any text\n"
+        "      Vantle writes, #RGB, or the forms `format` reads.\n"
+        "        vantle contrast '#888' '#FFF'\n"
+        "  export [--pinned] [--json] [-o FILE]\n"
+        "      Print the stored history (or only the pinned colours) as text in the\n"
+        "      preferred format, or as JSON; with -o, write it atomically to FILE.\n"
+        "        vantle export --pinned --json -o palette.json\n"
+        "  pick [--print [--format NAME]]\n"
+        "      Ask the running Vantle to start a pick (bind this to a key in your\n"
+        "      desktop's keyboard settings). With --print, pick in this process and\n"
+        "      print the colour instead; exit status 1 when cancelled.\n"
+        "        vantle pick\n"
+        "        vantle pick --print --format hexLower\n"
+        "  toggle\n"
+        "      Ask the running Vantle to show or hide its popup.\n"
+        "        vantle toggle\n"
+        "\n"
+        "Options:\n"
+        "  -h, --help     Show this help.\n"
+        "  -v, --version  Show the version.\n"
+        "\n"
+        "Settings: %1\n")
         .arg(QStringLiteral("$XDG_CONFIG_HOME/Vantle/Vantle.conf (~/.config/Vantle/Vantle.conf)"));
 }

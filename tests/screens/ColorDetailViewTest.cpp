@@ -18,9 +18,9 @@ PickedColor makeColor(double r, double g, double b, std::optional<QString> name 
 
 // A detail screen whose delayed resets are collected, so a test decides when 1.5 s have passed.
 struct DetailHarness {
-    explicit DetailHarness(const PickedColor &color)
+    explicit DetailHarness(const PickedColor &color, const QList<PickedColor> &history = {})
         : view(
-            color,
+            color, history,
             [this](const PickedColor &c, ColorFormat f) {
                 copies.append({ c.id, f });
             },

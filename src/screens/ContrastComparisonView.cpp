@@ -115,7 +115,8 @@ ContrastComparisonView::ContrastComparisonView(
     choice->setSpacing(8);
     m_menu = new QComboBox(this);
     m_menu->setObjectName(QStringLiteral("otherColorMenu"));
-    m_menu->setAccessibleName(tr("Compared color"));
+    // A screen reader names a combo box by its value; what the menu is for is its description.
+    m_menu->setAccessibleDescription(tr("Compared color"));
     m_menu->setIconSize(QSize(swatchIconSize, swatchIconSize));
     m_menu->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_menu->setMinimumContentsLength(6);

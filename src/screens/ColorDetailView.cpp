@@ -198,7 +198,7 @@ bool ColorDetailView::eventFilter(QObject *watched, QEvent *event)
     // Reaching the comparison from the keyboard brings its results into view with it, not only
     // the control that has the focus.
     if (event->type() == QEvent::FocusIn && watched->parent() == m_comparison)
-        m_scroll->ensureWidgetVisible(m_comparison, 0, 0);
+        m_scroll->ensureWidgetVisible(m_comparison, 0, 16);
     // Up and Down walk the format lines.
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();

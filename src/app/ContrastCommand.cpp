@@ -40,11 +40,11 @@ int runContrastCommand(const QStringList &args, CommandContext &context)
             json = true;
         } else if (word == u"--help" || word == u"-h") {
             context.out << "Usage: vantle contrast [--json] FOREGROUND BACKGROUND\n"
-                        << "The WCAG 2 contrast ratio of FOREGROUND (text, an icon, a border) on BACKGROUND, "
-                           "its grades\nfor normal text (AA 4.5, AAA 7), large text (AA 3, AAA 4.5) and "
-                           "non-text parts (3),\nand the APCA lightness contrast Lc (negative for light on "
-                           "dark). A translucent\nforeground is drawn on the background first; the "
-                           "background must be opaque.\n"
+                        << "The WCAG 2 contrast ratio of FOREGROUND (text, an icon, a border) on\n"
+                           "BACKGROUND, its grades for normal text (AA 4.5, AAA 7), large text (AA 3,\n"
+                           "AAA 4.5) and non-text parts (3), and the APCA lightness contrast Lc\n"
+                           "(negative for light on dark). A translucent foreground is drawn on the\n"
+                           "background first; the background must be opaque.\n"
                         << "Colours: " << acceptedColorsText() << "\n";
             return ExitStatus::ok;
         } else if (const auto reason = appendColorWord(word, colors)) {

@@ -159,12 +159,12 @@ ContrastComparisonView::ContrastComparisonView(
     for (QWidget *row : m_rows)
         stack->addWidget(row);
 
-    connect(m_menu, &QComboBox::currentIndexChanged, this, [this] { update(); });
+    connect(m_menu, &QComboBox::currentIndexChanged, this, [this] { measure(); });
     connect(swap, &QAbstractButton::clicked, this, [this] {
         m_isShownText = !m_isShownText;
-        update();
+        measure();
     });
-    update();
+    measure();
 }
 
 QWidget *ContrastComparisonView::addResultRow(const QString &label, CapsuleLabel **capsule)
@@ -220,7 +220,7 @@ std::optional<PickedColor> ContrastComparisonView::defaultOther(
     return before ? before : newest;
 }
 
-void ContrastComparisonView::update()
+void ContrastComparisonView::measure()
 {
     const PickedColor &other = m_others[qsizetype(m_menu->currentData().toInt())];
     const PickedColor &text = m_isShownText ? m_shown : other;

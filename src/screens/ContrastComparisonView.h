@@ -39,7 +39,8 @@ public:
     QStringList spokenResults() const;
 
 private:
-    void update();
+    // Measures the pair as the menu and the swap now say, and shows it.
+    void measure();
     QWidget *addResultRow(const QString &label, CapsuleLabel **capsule);
 
     PickedColor m_shown;

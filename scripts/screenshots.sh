@@ -5,6 +5,8 @@
 #   docs/screenshots/popup.png    the popup with pinned and recent colours
 #   docs/screenshots/loupe.png    the loupe over a picture
 #   docs/screenshots/detail.png   one colour's detail screen with its formats and contrast
+#   docs/screenshots/contrast.png the same screen scrolled to its comparison with the colour
+#                                 picked before it, as text on it
 #
 #   scripts/screenshots.sh [BUILD_DIR]     (after `make build`; needs imagemagick, xdotool)
 set -euo pipefail
@@ -86,4 +88,9 @@ xdotool mousemove $((x + w / 2)) $((y + 142)) click 1
 sleep 0.7
 read -r x y w h < <(popup_geometry)
 shot detail $((x - 10)) $((y - 10)) $((w + 20)) $((h + 20))
+
+# Tab past the nine format lines to the comparison's menu, which scrolls into view.
+xdotool key --delay 40 Tab Tab Tab Tab Tab Tab Tab Tab Tab
+sleep 0.5
+shot contrast $((x - 10)) $((y - 10)) $((w + 20)) $((h + 20))
 ls -l "$out"

@@ -13,7 +13,8 @@ struct SubcommandInfo {
     const char *name;
 };
 
-constexpr SubcommandInfo subcommands[] = { { "format" }, { "export" }, { "pick" }, { "toggle" } };
+constexpr SubcommandInfo subcommands[]
+    = { { "format" }, { "contrast" }, { "export" }, { "pick" }, { "toggle" } };
 
 } // namespace
 
@@ -61,12 +62,19 @@ QString commandLineHelp()
                           "\n"
                           "Commands:\n"
                           "  format [--format NAME | --all] [--contrast] COLOR...\n"
-                          "      Print colours as text. COLOR is #RRGGBB, RRGGBB, or sRGB components r,g,b\n"
-                          "      or r,g,b,a between 0 and 1. Without --format the preferred format is used.\n"
+                          "      Print colours as text. COLOR is any text Vantle writes (rgb(...),\n"
+                          "      hsl(...)...), #RGB, #RRGGBB, RRGGBB, or sRGB components r,g,b or r,g,b,a\n"
+                          "      between 0 and 1. Without --format the preferred format is used.\n"
                           "      --all prints all nine formats as LABEL<TAB>TEXT; --contrast adds the\n"
                           "      WCAG contrast against white and black.\n"
                           "        vantle format '#FF6B36' --format hsl\n"
                           "        vantle format --all --contrast 1.0,0.42,0.21\n"
+                          "  contrast [--json] FOREGROUND BACKGROUND\n"
+                          "      Print the WCAG 2 contrast ratio of a text colour on its background, its\n"
+                          "      grades for normal text, large text and non-text parts, and the APCA\n"
+                          "      lightness contrast Lc; --json prints one object. A colour is any text\n"
+                          "      Vantle writes, #RGB, or the forms `format` reads.\n"
+                          "        vantle contrast '#888' '#FFF'\n"
                           "  export [--pinned] [--json] [-o FILE]\n"
                           "      Print the stored history (or only the pinned colours) as text in the\n"
                           "      preferred format, or as JSON; with -o, write it atomically to FILE.\n"

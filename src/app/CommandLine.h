@@ -25,6 +25,9 @@ inline constexpr int usage = 2; // the command was given something it does not u
 // vantle format [--format NAME | --all] [--contrast] COLOR...
 int runFormatCommand(const QStringList &args, CommandContext &context);
 
+// vantle contrast [--json] FOREGROUND BACKGROUND
+int runContrastCommand(const QStringList &args, CommandContext &context);
+
 // vantle export [--pinned] [--json] [-o FILE]
 int runExportCommand(const QStringList &args, CommandContext &context);
 // vantle pick --print [--format NAME]: picks in this process and prints the colour; exit 1 when

@@ -54,13 +54,8 @@ int runFormatCommand(const QStringList &args, CommandContext &context)
                         << "Colours: " << acceptedColorsText() << "\n"
                         << "Formats: " << acceptedFormatsText() << "\n";
             return ExitStatus::ok;
-        } else if (const auto color = parseColorArgument(word)) {
-            colors.append(*color); // before the option test: "-0.5,0,0" is a colour
-        } else if (word.startsWith(u'-') && word.size() > 1 && !word[1].isDigit() && word[1] != u'.') {
-            return usageError(QStringLiteral("unknown option \"%1\"").arg(word));
-        } else {
-            return usageError(QStringLiteral("cannot read the colour \"%1\"; accepted: %2")
-                                  .arg(word, acceptedColorsText()));
+        } else if (const auto reason = appendColorWord(word, colors)) {
+            return usageError(*reason);
         }
     }
     if (all && format)

@@ -25,8 +25,8 @@ struct Command {
 };
 
 const Command commands[] = {
-    { "format", runFormatCommand }, { "toggle", runToggleCommand }, { "export", runExportCommand },
-    { "pick", runPickRequest }, // `pick --print` runs in the desktop part
+    { "format", runFormatCommand }, { "contrast", runContrastCommand }, { "toggle", runToggleCommand },
+    { "export", runExportCommand }, { "pick", runPickRequest }, // `pick --print` runs in the desktop part
 };
 
 int runSubcommand(const QString &name, const QStringList &args)

@@ -234,6 +234,10 @@ QAccessibleInterface *factory(const QString &className, QObject *object)
         return new QAccessibleWidget(widget, QAccessible::Window);
     if (className == QLatin1String("QWidget") && widget->objectName() == QLatin1String("colorList"))
         return new QAccessibleWidget(widget, QAccessible::List);
+    if (widget->objectName() == QLatin1String("contrastResult"))
+        return new AccessibleWhole(widget, QAccessible::StaticText);
+    if (widget->objectName() == QLatin1String("contrastPreview"))
+        return new AccessibleWhole(widget, QAccessible::Graphic);
     if (className == QLatin1String("QWidget") && widget->objectName() == QLatin1String("copyConfirmation"))
         return new AccessibleWhole(widget, QAccessible::Notification);
     return nullptr;

@@ -4,12 +4,14 @@
 #include "model/Contrast.h"
 #include "screens/ColorSwatch.h"
 #include "screens/ContrastBadge.h"
+#include "screens/ContrastComparisonView.h"
 #include "screens/Divider.h"
 #include "screens/ElidedLabel.h"
 #include "screens/FormatLine.h"
 #include "screens/SymbolButton.h"
 #include "screens/Theme.h"
 
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -37,8 +39,8 @@ ContrastBadge *makeBadge(const QString &label, double ratio, QWidget *parent)
 
 } // namespace
 
-ColorDetailView::ColorDetailView(
-    const PickedColor &color, CopyCallback onCopy, std::function<void()> onBack, QWidget *parent)
+ColorDetailView::ColorDetailView(const PickedColor &color, const QList<PickedColor> &history,
+    CopyCallback onCopy, std::function<void()> onBack, QWidget *parent)
     : QWidget(parent)
     , m_color(color)
     , m_onCopy(std::move(onCopy))
@@ -124,6 +126,12 @@ ColorDetailView::ColorDetailView(
     contrast->addWidget(m_whiteBadge);
     contrast->addWidget(m_blackBadge);
     stack->addLayout(contrast);
+    m_comparison = new ContrastComparisonView(color, history, content);
+    stack->addWidget(m_comparison);
+    for (QWidget *control : { static_cast<QWidget *>(m_comparison->otherMenu()),
+             static_cast<QWidget *>(m_comparison->swapButton()) })
+        if (control)
+            control->installEventFilter(this);
 
     m_scroll = new QScrollArea(this);
     m_scroll->setFrameShape(QFrame::NoFrame);
@@ -187,6 +195,10 @@ void ColorDetailView::keyPressEvent(QKeyEvent *event)
 
 bool ColorDetailView::eventFilter(QObject *watched, QEvent *event)
 {
+    // Reaching the comparison from the keyboard brings its results into view with it, not only
+    // the control that has the focus.
+    if (event->type() == QEvent::FocusIn && watched->parent() == m_comparison)
+        m_scroll->ensureWidgetVisible(m_comparison, 0, 16);
     // Up and Down walk the format lines.
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();

@@ -10,11 +10,13 @@
 #include <optional>
 
 class ContrastBadge;
+class ContrastComparisonView;
 class FormatLine;
 class QScrollArea;
 
 // The popup's second screen: one colour large, its text in all nine formats (a click on a line
-// copies it), and its contrast against white and black. It shows the colour as it was handed
+// copies it), its contrast against white and black, and its contrast with another colour of the
+// history as text and background. It shows the colour as it was handed
 // over and changes nothing itself: copies go through `onCopy`. Escape or "Back" calls `onBack`.
 class ColorDetailView : public QWidget {
     Q_OBJECT
@@ -27,14 +29,16 @@ public:
     // How long a copied line keeps its check mark.
     static constexpr int copiedMarkMilliseconds = 1500;
 
-    ColorDetailView(const PickedColor &color, CopyCallback onCopy, std::function<void()> onBack,
-        QWidget *parent = nullptr);
+    // `history`: every colour, newest first, for the comparison.
+    ColorDetailView(const PickedColor &color, const QList<PickedColor> &history, CopyCallback onCopy,
+        std::function<void()> onBack, QWidget *parent = nullptr);
 
     const PickedColor &color() const { return m_color; }
     std::optional<ColorFormat> copiedFormat() const { return m_copiedFormat; }
     FormatLine *line(ColorFormat format) const;
     ContrastBadge *whiteBadge() const { return m_whiteBadge; }
     ContrastBadge *blackBadge() const { return m_blackBadge; }
+    ContrastComparisonView *comparison() const { return m_comparison; }
 
     void setScheduler(Scheduler scheduler) { m_scheduler = std::move(scheduler); }
     // The tallest the screen may be; its content scrolls within it.
@@ -58,6 +62,7 @@ private:
     std::array<FormatLine *, allColorFormats.size()> m_lines {};
     ContrastBadge *m_whiteBadge = nullptr;
     ContrastBadge *m_blackBadge = nullptr;
+    ContrastComparisonView *m_comparison = nullptr;
     QWidget *m_topBar = nullptr;
     QScrollArea *m_scroll = nullptr;
 };

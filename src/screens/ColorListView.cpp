@@ -357,7 +357,8 @@ void ColorListView::openColor(const PickedColor &color, Qt::FocusReason reason)
     }
     m_selectedColor = color;
     m_detail = new ColorDetailView(
-        color, [this](const PickedColor &shown, ColorFormat format) { m_viewModel.copyColor(shown, format); },
+        color, m_viewModel.colors(),
+        [this](const PickedColor &shown, ColorFormat format) { m_viewModel.copyColor(shown, format); },
         [this] { closeDetail(); }, this);
     m_detail->setFixedWidth(viewWidth);
     m_detail->setHeightLimit(m_heightLimit);

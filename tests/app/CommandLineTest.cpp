@@ -98,12 +98,65 @@ TEST(FormatCommand, BadInputPrintsOneLineAndNothingOnStandardOutput)
             .err.contains(u"Hexx"));
 }
 
-TEST(ColorArgument, ComponentsAreReadExactly)
+// Every text Vantle writes reads back as a colour with that text; components are read exactly.
+TEST(ColorArgument, ReadsEveryTextVantleWritesAndComponentsExactly)
 {
     const auto c = parseColorArgument(QStringLiteral("0.1,0.30000000000000004,1e-3,+0.5")).value();
     EXPECT_EQ(std::tuple(c.red, c.green, c.blue, c.alpha), std::tuple(0.1, 0.30000000000000004, 0.001, 0.5));
-    const auto hex = parseColorArgument(QStringLiteral("#ff6B36")).value();
-    EXPECT_EQ(std::tuple(hex.green, hex.alpha), std::tuple(107 / 255.0, 1.0));
+    for (const double alpha : { 1.0, 0.75 }) {
+        for (const ColorFormat format : allColorFormats) {
+            const QString text = formatColor(1.0, 0.42, 0.21, alpha, format);
+            const auto read = parseColorArgument(text);
+            ASSERT_TRUE(read) << text.toStdString();
+            // Written again in its own format, the colour read gives the same text.
+            EXPECT_EQ(formatColor(read->red, read->green, read->blue, read->alpha, format), text);
+        }
+    }
+    const struct {
+        const char *text, *hex;
+    } more[] = { { "#f60", "#FF6600" }, { "1,0,0", "#FF0000" }, { "1, 1, 2", "#010102" },
+        { "HSV(120, 50, 50)", "#408040" }, { "hsl(-120, 100%, 50%)", "#0000FF" } };
+    for (const auto &m : more) {
+        const auto read = parseColorArgument(QLatin1String(m.text));
+        EXPECT_EQ(read ? hexText(read->red, read->green, read->blue) : QString(), QLatin1String(m.hex))
+            << m.text;
+    }
+    for (const char *bad :
+        { "#f6", "f60", "rgb(1, 2)", "Color(green: 1, red: 0, blue: 0)", "hsl(1, 2%, x%)", "(1,2,3)" })
+        EXPECT_FALSE(parseColorArgument(QLatin1String(bad))) << bad;
+}
+
+TEST(ContrastCommand, PrintsTheMeasureInPlainLinesOrOneObject)
+{
+    TempSettings t;
+    const CommandRun plain
+        = run(runContrastCommand, { QStringLiteral("#888"), QStringLiteral("rgb(255, 255, 255)") }, *t.store);
+    EXPECT_EQ(std::tuple(plain.status, plain.out, plain.err),
+        std::tuple(0,
+            QStringLiteral("Foreground\t#888888\nBackground\t#FFFFFF\nRatio\t3.5:1\nNormal text\tFail\n"
+                           "Large text\tAA\nNon-text\tPass\nAPCA Lc\t63.1\tlarge or bold text\n"),
+            QString()));
+    // Translucent black on white is drawn as grey first; light on dark gives a negative Lc.
+    const CommandRun json = run(runContrastCommand,
+        { QStringLiteral("--json"), QStringLiteral("0,0,0,0.5"), QStringLiteral("#FFFFFF") }, *t.store);
+    EXPECT_TRUE(json.out.startsWith(u"{\"foreground\":\"#808080\",\"background\":\"#FFFFFF\",\"ratio\":3.97"))
+        << json.out.toStdString();
+    EXPECT_TRUE(json.out.contains(
+        u"\"normalText\":\"Fail\",\"largeText\":\"AA\",\"nonText\":\"Pass\",\"apcaLc\":67.13"));
+    EXPECT_TRUE(run(runContrastCommand,
+        { QStringLiteral("-j"), QStringLiteral("#fff"), QStringLiteral("#888") }, *t.store)
+                    .out.contains(u"\"apcaLc\":-68.54"));
+
+    const QStringList bad[] = { { QStringLiteral("#fff") },
+        { QStringLiteral("#fff"), QStringLiteral("#000"), QStringLiteral("#888") },
+        { QStringLiteral("#fff"), QStringLiteral("rgba(0, 0, 0, 0.5)") },
+        { QStringLiteral("#fff"), QStringLiteral("--bogus"), QStringLiteral("#000") },
+        { QStringLiteral("#ggg"), QStringLiteral("#000") } };
+    for (const QStringList &args : bad) {
+        const CommandRun r = run(runContrastCommand, args, *t.store);
+        EXPECT_EQ(std::tuple(r.status, r.out, r.err.count(u'\n')), std::tuple(2, QString(), 1))
+            << args.join(u' ').toStdString();
+    }
 }
 
 namespace {

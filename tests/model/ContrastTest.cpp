@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/Contrast.h"
+#include "model/ContrastPair.h"
 
 #include <gtest/gtest.h>
 
@@ -46,4 +47,40 @@ TEST(Contrast, LinearBranchAtThresholdAndOutOfRangeComponents)
 {
     EXPECT_DOUBLE_EQ(relativeLuminance(0.03928, 0, 0), 0.2126 * 0.03928 / 12.92);
     EXPECT_GE(contrastRatio(relativeLuminance(1.02, 1.02, 1.02), whiteLuminance), 1.0); // brighter than white
+}
+
+// Published values: the APCA-W3 references in both polarities, the WCAG edge around 4.5 on white
+// (#767676 passes AA at 4.54, #777777 fails at 4.48), and a translucent foreground composited
+// channel by channel before either measure (#000 at 0.5 on white draws as #808080).
+TEST(ContrastPair, PublishedValues)
+{
+    const struct {
+        double r, g, b, a;
+        OpaqueColor background;
+        double ratio, lc;
+        const char *normal, *large, *nonText;
+    } cases[] = {
+        { 0x88 / 255., 0x88 / 255., 0x88 / 255., 1, { 1, 1, 1 }, 3.545, 63.06, "Fail", "AA", "Pass" },
+        { 1, 1, 1, 1, { 0x88 / 255., 0x88 / 255., 0x88 / 255. }, 3.545, -68.54, "Fail", "AA", "Pass" },
+        { 0, 0, 0, 1, { 0xAA / 255., 0xAA / 255., 0xAA / 255. }, 9.040, 58.15, "AAA", "AAA", "Pass" },
+        { 0xAA / 255., 0xAA / 255., 0xAA / 255., 1, { 0, 0, 0 }, 9.040, -56.24, "AAA", "AAA", "Pass" },
+        { 0x76 / 255., 0x76 / 255., 0x76 / 255., 1, { 1, 1, 1 }, 4.542, 71.57, "AA", "AAA", "Pass" },
+        { 0x77 / 255., 0x77 / 255., 0x77 / 255., 1, { 1, 1, 1 }, 4.478, 71.11, "Fail", "AA", "Pass" },
+        { 0, 0, 0, 0.5, { 1, 1, 1 }, 3.977, 67.13, "Fail", "AA", "Pass" },
+        { 1, 1, 1, 1, { 1, 1, 1 }, 1.0, 0, "Fail", "Fail", "Fail" },
+    };
+    for (const auto &c : cases) {
+        const ContrastPair pair = measureContrast(c.r, c.g, c.b, c.a, c.background);
+        SCOPED_TRACE(::testing::Message() << c.r << ' ' << c.a << " on " << c.background.red);
+        EXPECT_NEAR(pair.ratio, c.ratio, 0.005);
+        EXPECT_NEAR(pair.apcaLc, c.lc, 0.005);
+        EXPECT_EQ(gradeText(pair.normalText()), QLatin1String(c.normal));
+        EXPECT_EQ(gradeText(pair.largeText()), QLatin1String(c.large));
+        EXPECT_EQ(nonTextGradeText(pair.nonTextPasses()), QLatin1String(c.nonText));
+    }
+    EXPECT_EQ(measureContrast(0, 0, 0, 0.5, { 1, 1, 1 }).foreground, (OpaqueColor { 0.5, 0.5, 0.5 }));
+    // The reading goes by size in either polarity, at inclusive thresholds.
+    EXPECT_EQ(apcaUse(-75), ApcaUse::bodyText);
+    EXPECT_EQ(apcaUse(59.99), ApcaUse::headlines);
+    EXPECT_EQ(apcaUse(14.9), ApcaUse::invisible);
 }

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ColorDetailView.h"
 #include "screens/ColorListView.h"
+#include "screens/ContrastComparisonView.h"
 #include "screens/ElidedLabel.h"
 #include "screens/FormatLine.h"
 
+#include <QAbstractButton>
+#include <QComboBox>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -18,9 +21,9 @@ PickedColor makeColor(double r, double g, double b, std::optional<QString> name 
 
 // A detail screen whose delayed resets are collected, so a test decides when 1.5 s have passed.
 struct DetailHarness {
-    explicit DetailHarness(const PickedColor &color)
+    explicit DetailHarness(const PickedColor &color, const QList<PickedColor> &history = {})
         : view(
-            color,
+            color, history,
             [this](const PickedColor &c, ColorFormat f) {
                 copies.append({ c.id, f });
             },
@@ -80,12 +83,14 @@ TEST(ColorDetailView, ClickCopiesThatFormatAndOnlyTheNewestResetClearsTheMark)
     EXPECT_EQ(harness.view.copiedFormat(), std::nullopt);
 }
 
-// White has the longest value in every format, here with a 40-character name, in the popup's
-// width: every text is drawn whole, measured afresh rather than trusted to the size hints; the
-// code initialisers, wider than the popup, over two lines.
+// White has the longest value in every format, here with a 40-character name and compared with
+// another long name, in the popup's width: every text is drawn whole, measured afresh rather
+// than trusted to the size hints; the code initialisers, wider than the popup, over two lines.
 TEST(ColorDetailView, TheLongestTextsAreDrawnWholeInThePopupsWidth)
 {
-    DetailHarness harness(makeColor(1, 1, 1, QStringLiteral("Warm sunset orange for the spring banner")));
+    const PickedColor white = makeColor(1, 1, 1, QStringLiteral("Warm sunset orange for the spring banner"));
+    DetailHarness harness(
+        white, { white, makeColor(0, 0, 0, QStringLiteral("Deep night blue for the winter banner")) });
     harness.view.setFixedWidth(ColorListView::viewWidth);
     harness.view.adjustSize();
     for (const ElidedLabel *label : harness.view.findChildren<ElidedLabel *>()) {
@@ -96,4 +101,42 @@ TEST(ColorDetailView, TheLongestTextsAreDrawnWholeInThePopupsWidth)
             EXPECT_LE(QFontMetricsF(label->shownFont()).horizontalAdvance(label->text()), label->width());
         }
     }
+}
+
+// The comparison starts with the colour picked just before the shown one as the text on it (for
+// the oldest, the newest other), follows the menu and the swap from the keyboard alone, and
+// reads every result again as a sentence.
+TEST(ColorDetailView, ComparesWithThePreviousPickFromTheKeyboard)
+{
+    PickedColor grey = makeColor(0x88 / 255., 0x88 / 255., 0x88 / 255.), white = makeColor(1, 1, 1),
+                black = makeColor(0, 0, 0);
+    grey.timestamp = 30;
+    white.timestamp = 20;
+    black.timestamp = 10;
+    black.isPinned = true;
+    const QList<PickedColor> history { grey, white, black }; // newest first
+    for (const auto &[shown, other] :
+        { std::pair(grey, white), std::pair(white, black), std::pair(black, grey) })
+        EXPECT_EQ(ContrastComparisonView::defaultOther(shown, history)->id, other.id);
+    EXPECT_EQ(DetailHarness(grey).view.comparison()->otherMenu(), nullptr); // nothing to compare with
+
+    DetailHarness harness(white, history);
+    ContrastComparisonView *comparison = harness.view.comparison();
+    auto results = [](const char *ratio, const char *normal, const char *large, const char *nonText,
+                       const char *apca) {
+        const QString spoken = QString::fromLatin1(ratio) + QStringLiteral(" to 1");
+        return QStringList { QStringLiteral("Contrast ratio ") + spoken,
+            QStringLiteral("Normal text: %1, %2").arg(QLatin1String(normal), spoken),
+            QStringLiteral("Large text: %1, %2").arg(QLatin1String(large), spoken),
+            QStringLiteral("Non-text: %1, %2").arg(QLatin1String(nonText), spoken), QLatin1String(apca) };
+    };
+    EXPECT_EQ(
+        comparison->spokenResults(), results("21.0", "AAA", "AAA", "Pass", "APCA: Lc 106.0, body text"));
+    // Pinned black, then past the separator to the recent grey.
+    QTest::keyClick(comparison->otherMenu(), Qt::Key_Down);
+    EXPECT_EQ(comparison->spokenResults(),
+        results("3.5", "Fail", "AA", "Pass", "APCA: Lc 63.1, large or bold text"));
+    QTest::keyClick(comparison->swapButton(), Qt::Key_Space);
+    EXPECT_EQ(comparison->pair().foreground, (OpaqueColor { 1, 1, 1 }));
+    EXPECT_EQ(comparison->spokenResults().last(), u"APCA: Lc -68.5, large or bold text");
 }

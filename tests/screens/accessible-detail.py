@@ -1,8 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The detail screen as a screen reader reads it: each format line a button named by its format
 and text, in Tab order from the first; the contrast lines with the ratio said as a ratio; the
-copy capsule heard as a notification without taking the focus; Escape back to the row, then
-closing the popup."""
+comparison with the colour picked before, its menu and swap button reached by Tab and every
+result read again after a swap; the copy capsule heard as a notification without taking the
+focus; Escape back to the row, then closing the popup."""
 import json
 import os
 import sys
@@ -13,6 +14,8 @@ from atspi import Session  # noqa: E402
 
 SUNSET = {"id": "6f1c1a52-0d57-4f0e-9a7e-2b1d3c4e5f60", "red": 1, "green": 107 / 255, "blue": 54 / 255,
           "alpha": 1, "timestamp": 700000000, "isPinned": True, "name": "Sunset"}
+INK = {"id": "0a1b2c3d-4e5f-4a6b-8c7d-9e0f1a2b3c4d", "red": 30 / 255, "green": 32 / 255, "blue": 36 / 255,
+       "alpha": 1, "timestamp": 699999000, "isPinned": False}  # picked just before Sunset
 ROW = "Sunset, #FF6B36, pinned"
 
 LINES = [  # Tab order from the first line; "…" ends a prefix
@@ -32,6 +35,14 @@ TREE = [
     ("heading", "Contrast Ratios"),
     ("label", "vs White, 2.8 to 1, Fail"),
     ("label", "vs Black, 7.4 to 1, AAA"),
+    ("heading", "Text and Background"),
+    ("combo box", "#1E2024"),  # named by its value, as every combo box
+    ("push button", "Swap text and background"),
+    ("label", "Contrast ratio 5.8 to 1"),
+    ("label", "Normal text: AA, 5.8 to 1"),
+    ("label", "Large text: AAA, 5.8 to 1"),
+    ("label", "Non-text: Pass, 5.8 to 1"),
+    ("label", "APCA: Lc 47.7, headlines"),
     *[("push button", line) for line in LINES],
 ]
 
@@ -42,7 +53,7 @@ def focus_line(s, line):
     return s.expect_focus(f"Tab reaches '{line}'", role="push button", name=line)
 
 
-with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": json.dumps([SUNSET])}) as s:
+with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": json.dumps([SUNSET, INK])}) as s:
     time.sleep(2)
     s.key("alt+shift+x")
     s.wait(lambda: s.find(role="push button", name="Pick Color"), 10)
@@ -55,7 +66,14 @@ with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": j
         s.key("Tab")
         focus_line(s, line)
     s.key("Tab")
-    s.expect_focus("Tab from the last line to Back", role="push button", name="Back")
+    s.expect_focus("Tab from the last line to the compared colour", role="combo box", name="#1E2024")
+    s.key("Tab")
+    s.expect_focus("Tab to the swap", role="push button", name="Swap text and background")
+    s.key("space")
+    s.check("a swap reads the results again",
+            bool(s.wait(lambda: s.find(role="label", name="APCA: Lc -46.2, headlines"), 3)), s.dump())
+    s.key("Tab")
+    s.expect_focus("Tab from the comparison to Back", role="push button", name="Back")
     s.key("Tab")
     focus_line(s, LINES[0])
 

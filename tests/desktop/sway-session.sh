@@ -22,7 +22,7 @@ if [[ -z "${VANTLE_IN_SWAY_SESSION:-}" ]]; then
     command -v wl-paste >/dev/null || skip "wl-clipboard is not installed (apt-get install wl-clipboard)"
     command -v dbus-run-session >/dev/null || skip "dbus-run-session is not installed (apt-get install dbus)"
     session_dir=$(mktemp -d "${TMPDIR:-/tmp}/vantle-sway.XXXXXX")
-    trap 'rm -rf "$session_dir"' EXIT
+    trap 'remove_tree "$session_dir"' EXIT
     run_as=()
     if [[ $(id -u) == 0 ]]; then
         command -v runuser >/dev/null || skip "sway refuses to run as root and runuser is missing"

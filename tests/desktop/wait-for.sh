@@ -8,3 +8,12 @@ wait_for() {
         sleep 0.05
     done
 }
+# remove_tree DIR: the document portal, started on the bus with the portal frontend, mounts a
+# FUSE file system at $XDG_RUNTIME_DIR/doc, which rm cannot remove: unmount what lies inside first.
+remove_tree() {
+    local mount
+    for mount in $(awk -v dir="$1/" 'index($5, dir) == 1 {print $5}' /proc/self/mountinfo | sort -r); do
+        fusermount3 -u -z "$mount" 2>/dev/null || fusermount -u -z "$mount" 2>/dev/null || umount -l "$mount" || true
+    done
+    rm -rf "$1"
+}

@@ -10,11 +10,9 @@ set -euo pipefail
 
 vantle=${VANTLE_BIN:?}
 shots=${1:-}
-for tool in xdotool xclip xwininfo xsetroot import; do
-    command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }
-done
 
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
+need_tools xdotool xclip xwininfo xsetroot import
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
 on_failure() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/failure.png" 2>/dev/null; }
 press() { xdotool key --delay 80 "$1"; } # a person's press: each key held 80 ms

@@ -9,11 +9,9 @@ set -euo pipefail
 
 vantle=${VANTLE_BIN:?}
 shots=${1:-}
-for tool in xdotool xclip xwininfo import convert; do
-    command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }
-done
 
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
+need_tools xdotool xclip xwininfo import convert
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
 # Fresh settings but for the dot in the tray, which this test looks at, and a history long
 # enough that the popup's list must scroll rather than run over the tray icon.

@@ -8,6 +8,11 @@ wait_for() {
         sleep 0.05
     done
 }
+# need_tools TOOL...: skips the test (exit 77) unless every tool is installed.
+need_tools() {
+    local tool
+    for tool; do command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }; done
+}
 # remove_tree DIR: the document portal, started on the bus with the portal frontend, mounts a
 # FUSE file system at $XDG_RUNTIME_DIR/doc, which rm cannot remove: unmount what lies inside first.
 remove_tree() {

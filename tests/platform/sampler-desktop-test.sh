@@ -5,21 +5,13 @@
 set -euo pipefail
 helper="$1"
 vantle="${VANTLE_BIN:?}"
-work=$(mktemp -d)
-pids=()
-cleanup() {
-    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
-fail() { echo "FAIL: $*" >&2; exit 1; }
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
+work=$home
 
 # Left half #3A7BD5, right half #D5603A: x 100..299 and 300..499, y 100..399.
 "$helper" target 100 100 400 300 '#3A7BD5' '#D5603A' "$work/presses" >"$work/target.out" &
 pids+=($!)
-for _ in $(seq 200); do grep -q ready "$work/target.out" 2>/dev/null && break; sleep 0.05; done
-grep -q ready "$work/target.out" || fail "the target window did not appear"
+wait_for 10 grep -q ready "$work/target.out" || fail "the target window did not appear"
 
 # start_pick FORMAT: starts the sampler and waits until it holds the pointer grab.
 start_pick() {

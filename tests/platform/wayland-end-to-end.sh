@@ -12,11 +12,9 @@ vantle=${VANTLE_BIN:?}
 backend=${1:?usage: wayland-end-to-end.sh PORTAL_TEST_BACKEND}
 frontend=/usr/libexec/xdg-desktop-portal
 [[ -x $frontend ]] || { echo "SKIP: xdg-desktop-portal is not installed" >&2; exit 77; }
-for tool in wl-paste wl-copy dbus-send; do
-    command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }
-done
 
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
+need_tools wl-paste wl-copy dbus-send
 mkdir -p "$home/portals"
 on_failure() { tail -n 20 "$home/vantle.log" >&2 2>/dev/null; }
 bus_call() { # bus_call DEST PATH INTERFACE.METHOD ARGS...

@@ -21,6 +21,11 @@ for i in $(seq 10 49); do
         "$i" "$i" "$((700000000 - i))"
 done | paste -sd, | sed 's/^/[/; s/$/]/' >"$XDG_CONFIG_HOME/Vantle/colorHistory.json"
 
+# What a failure leaves to read: Vantle's messages, the windows of the tray and of Vantle.
+on_failure() {
+    tail -n 20 "$home/vantle.log" >&2
+    xwininfo -root -tree | grep -iE '"(trayer|vantle)"' >&2
+}
 shot() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/$1.png" || true; }
 # The loupe shows once it holds the pointer and the keyboard.
 wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; }
@@ -49,7 +54,7 @@ icon_shows() { # icon_shows HEX: the tray icon has pixels of that colour
 xsetroot -solid '#FF6B36'
 echo "sentinel" | xclip -selection clipboard
 
-"$vantle" &
+"$vantle" 2>>"$home/vantle.log" &
 pid=$! && pids+=("$pid")
 wait_for 20 tray_icon || fail "no tray icon appeared"
 # The first run greets with the welcome window.
@@ -116,7 +121,7 @@ wait "$pid" || fail "Vantle ended with status $?"
 if timeout 20 "$vantle" toggle 2>/dev/null; then fail "vantle toggle still finds a Vantle"; fi
 
 # A logout (SIGTERM) ends Vantle cleanly, as Quit does.
-"$vantle" &
+"$vantle" 2>>"$home/vantle.log" &
 pid=$! && pids+=("$pid")
 wait_for 20 tray_icon || fail "no tray icon at the second start"
 kill -TERM "$pid"

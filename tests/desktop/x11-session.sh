@@ -68,8 +68,9 @@ if [[ $tray == 1 ]] && command -v trayer >/dev/null; then
     trayer --edge top --align right --widthtype request --height 24 --SetDockType true \
         --transparent false --tint 0x202020 >/dev/null 2>&1 &
     pids+=($!)
-    wait_for 10 sh -c 'xprop -root | grep -q "_NET_SYSTEM_TRAY_S0\|_NET_SYSTEM_TRAY"' || true
-    wait_for 10 sh -c "xdotool search --class trayer" || true
+    # Qt docks an icon whenever the tray appears, so trayer's window existing is enough here
+    # (an empty panel of width "request" may stay unmapped).
+    wait_for 10 xdotool search --class trayer || true
 fi
 
 "$@"

@@ -25,6 +25,8 @@ done | paste -sd, | sed 's/^/[/; s/$/]/' >"$XDG_CONFIG_HOME/Vantle/colorHistory.
 on_failure() {
     tail -n 20 "$home/vantle.log" >&2
     xwininfo -root -tree | grep -iE '"(trayer|vantle)"' >&2
+    kill -0 "${VANTLE_TRAY_PID:-0}" 2>/dev/null || echo "trayer is not running; it said:" >&2
+    tail -n 20 "${VANTLE_TRAY_LOG:-/dev/null}" >&2
 }
 shot() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/$1.png" || true; }
 # The loupe shows once it holds the pointer and the keyboard.

@@ -4,6 +4,7 @@
 #include "history/ColorListViewModel.h"
 #include "screens/CapsuleLabel.h"
 #include "screens/ColorDetailView.h"
+#include "screens/ColorListFooter.h"
 #include "screens/ColorRowView.h"
 #include "screens/Divider.h"
 #include "screens/ElidedLabel.h"
@@ -22,39 +23,16 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <QVariantAnimation>
 #include <algorithm>
-
-namespace {
-
-SymbolButton *footerButton(const QString &symbol, int symbolSize, const QString &name, QWidget *parent)
-{
-    SymbolButton::Style style;
-    style.symbol = symbol;
-    style.symbolSize = symbolSize;
-    style.foreground = &Theme::secondaryText;
-    style.radius = 4;
-    const int side = 20;
-    style.padding = QMargins((side - symbolSize) / 2, (side - symbolSize) / 2, (side - symbolSize + 1) / 2,
-        (side - symbolSize + 1) / 2);
-    auto *button = new SymbolButton(QString(), style, parent);
-    button->setAccessibleName(name);
-    button->setToolTip(name);
-    return button;
-}
-
-} // namespace
 
 ColorListView::ColorListView(ColorListViewModel &viewModel, SettingsStore &store,
     std::function<void()> onOpenSettings, std::function<void()> onQuit, QWidget *parent)
     : QWidget(parent)
     , m_viewModel(viewModel)
     , m_store(store)
-    , m_onOpenSettings(std::move(onOpenSettings))
-    , m_onQuit(std::move(onQuit))
 {
     auto *root = new QVBoxLayout(this);
     root->setContentsMargins(0, 0, 0, 0);
@@ -82,7 +60,8 @@ ColorListView::ColorListView(ColorListViewModel &viewModel, SettingsStore &store
     list->addWidget(m_scroll);
 
     list->addWidget(new Divider(m_listScreen));
-    list->addWidget(buildFooter());
+    m_footer = new ColorListFooter(m_viewModel, std::move(onOpenSettings), std::move(onQuit), m_listScreen);
+    list->addWidget(m_footer);
     root->addWidget(m_listScreen);
 
     connect(&m_viewModel, &ColorListViewModel::colorsChanged, this, &ColorListView::rebuildColors);
@@ -95,6 +74,11 @@ ColorListView::ColorListView(ColorListViewModel &viewModel, SettingsStore &store
 
     rebuildColors();
     updatePicking();
+}
+
+QMenu *ColorListView::exportMenu() const
+{
+    return m_footer->exportMenu();
 }
 
 QWidget *ColorListView::buildHeader()
@@ -140,61 +124,6 @@ QWidget *ColorListView::buildPickButton()
     connect(m_pickButton, &QAbstractButton::clicked, this, [this] { m_viewModel.pickColor(); });
     row->addWidget(m_pickButton);
     return holder;
-}
-
-QWidget *ColorListView::buildFooter()
-{
-    auto *footer = new QWidget(m_listScreen);
-    auto *row = new QHBoxLayout(footer);
-    row->setContentsMargins(10, 6, 10, 6);
-
-    auto *settings = footerButton(QStringLiteral("gearshape"), 12, tr("Settings"), footer);
-    settings->setObjectName(QStringLiteral("settingsButton"));
-    connect(settings, &QAbstractButton::clicked, this, [this] {
-        if (m_onOpenSettings)
-            m_onOpenSettings();
-    });
-    row->addWidget(settings);
-
-    auto *exportButton = footerButton(QStringLiteral("square.and.arrow.up"), 12, tr("Export colors"), footer);
-    exportButton->setObjectName(QStringLiteral("exportButton"));
-    m_exportMenu = new QMenu(exportButton);
-    m_exportMenu->setObjectName(QStringLiteral("exportMenu"));
-    m_exportMenu->setWindowTitle(tr("Export colors")); // what a screen reader calls the menu
-    const auto exportAction = [this](const QString &text, bool pinnedOnly, bool asJSON) {
-        QAction *action = m_exportMenu->addAction(text);
-        connect(action, &QAction::triggered, this,
-            [this, pinnedOnly, asJSON] { m_viewModel.exportColors(pinnedOnly, asJSON); });
-        return action;
-    };
-    m_exportPinnedText = exportAction(tr("Export Pinned as Text"), true, false);
-    m_exportPinnedJson = exportAction(tr("Export Pinned as JSON"), true, true);
-    m_exportMenu->addSeparator();
-    m_exportAllText = exportAction(tr("Export All as Text"), false, false);
-    m_exportAllJson = exportAction(tr("Export All as JSON"), false, true);
-    connect(exportButton, &QAbstractButton::clicked, this, [this, exportButton] {
-        // popup(), not exec(): the save dialog an entry opens must not run inside a nested loop.
-        m_exportMenu->popup(exportButton->mapToGlobal(QPoint(0, exportButton->height())));
-        // Opened from the keyboard, the first entry that can run is selected.
-        if (exportButton->showsFocusRing()) {
-            const QList<QAction *> actions = m_exportMenu->actions();
-            const auto first = std::find_if(actions.cbegin(), actions.cend(),
-                [](const QAction *action) { return action->isEnabled() && !action->isSeparator(); });
-            if (first != actions.cend())
-                m_exportMenu->setActiveAction(*first);
-        }
-    });
-    row->addWidget(exportButton);
-    row->addStretch(1);
-
-    auto *quit = footerButton(QStringLiteral("power"), 11, tr("Quit vantle"), footer);
-    quit->setObjectName(QStringLiteral("quitButton"));
-    connect(quit, &QAbstractButton::clicked, this, [this] {
-        if (m_onQuit)
-            m_onQuit();
-    });
-    row->addWidget(quit);
-    return footer;
 }
 
 QWidget *ColorListView::buildEmptyState()
@@ -251,10 +180,7 @@ void ColorListView::rebuildColors()
     const QList<PickedColor> recent = m_viewModel.recentColors();
 
     m_countBadge->setText(QString::number(colors.size()));
-    m_exportPinnedText->setEnabled(!pinned.isEmpty());
-    m_exportPinnedJson->setEnabled(!pinned.isEmpty());
-    m_exportAllText->setEnabled(!colors.isEmpty());
-    m_exportAllJson->setEnabled(!colors.isEmpty());
+    m_footer->setExportable(!pinned.isEmpty(), !colors.isEmpty());
 
     // Keep keyboard focus on the same colour across the rebuild.
     std::optional<QUuid> focusedId;

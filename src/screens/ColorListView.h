@@ -12,10 +12,9 @@
 #include <optional>
 
 class CapsuleLabel;
-
+class ColorListFooter;
 class ColorListViewModel;
 class ColorRowView;
-class QAction;
 class QMenu;
 class QScrollArea;
 class SettingsStore;
@@ -46,7 +45,7 @@ public:
     ColorDetailView *detailView() const { return m_detail; }
     // The rows in display order: pinned first, then recent.
     QList<ColorRowView *> rows() const { return m_rows; }
-    QMenu *exportMenu() const { return m_exportMenu; }
+    QMenu *exportMenu() const;
 
     // What a click on a row does: copy in the preferred format, then open the detail screen.
     void openColor(const PickedColor &color, Qt::FocusReason reason = Qt::OtherFocusReason);
@@ -67,7 +66,6 @@ protected:
 private:
     QWidget *buildHeader();
     QWidget *buildPickButton();
-    QWidget *buildFooter();
     QWidget *buildEmptyState();
     QWidget *buildSectionHeader(const QString &title, const QString &objectName);
     ColorRowView *buildRow(const PickedColor &color, ColorFormat format);
@@ -83,8 +81,6 @@ private:
 
     ColorListViewModel &m_viewModel;
     SettingsStore &m_store;
-    std::function<void()> m_onOpenSettings;
-    std::function<void()> m_onQuit;
     std::optional<PickedColor> m_selectedColor;
     int m_heightLimit = QWIDGETSIZE_MAX;
 
@@ -97,9 +93,5 @@ private:
     QScrollArea *m_scroll = nullptr;
     QWidget *m_emptyState = nullptr;
     QList<ColorRowView *> m_rows;
-    QMenu *m_exportMenu = nullptr;
-    QAction *m_exportPinnedText = nullptr;
-    QAction *m_exportPinnedJson = nullptr;
-    QAction *m_exportAllText = nullptr;
-    QAction *m_exportAllJson = nullptr;
+    ColorListFooter *m_footer = nullptr;
 };

@@ -3,38 +3,13 @@
 #include "screens/SettingsView.h"
 
 #include "BuildInfo.h"
-#include "history/ColorListViewModel.h"
-#include "hotkeys/HotkeyManager.h"
-#include "hotkeys/HotkeyRecorderView.h"
-#include "model/ColorFormat.h"
-#include "screens/SettingsTabButton.h"
 #include "screens/SettingsWidgets.h"
-#include "screens/Symbols.h"
-#include "screens/Theme.h"
-#include "services/LaunchAtLogin.h"
-#include "services/PreferenceKeys.h"
-#include "services/SettingsStore.h"
-#include "services/SettingsViewModel.h"
-#include "services/UpdaterController.h"
 
-#include <QButtonGroup>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDesktopServices>
-#include <QEvent>
-#include <QFormLayout>
 #include <QFrame>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScrollArea>
-#include <QStackedWidget>
-#include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
-#include <array>
 
 using namespace SettingsWidgets;
 

@@ -10,32 +10,16 @@ set -euo pipefail
 
 vantle=${VANTLE_BIN:?}
 shots=${1:-}
-for tool in xdotool xclip xwininfo xsetroot import; do
-    command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }
-done
 
-home=$(mktemp -d)
-export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_RUNTIME_DIR=$home/run
-mkdir -p "$XDG_CONFIG_HOME/Vantle" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
-pid=
-cleanup() {
-    [[ -n $pid ]] && kill "$pid" 2>/dev/null || true
-    rm -rf "$home"
-}
-trap cleanup EXIT
-fail() {
-    [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/failure.png" 2>/dev/null
-    echo "FAIL: $*" >&2
-    exit 1
-}
-source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
-
-press() { xdotool key --delay 80 "$1"; } # a person's press: each key held 80 ms
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
+need_tools xdotool xclip xwininfo xsetroot import
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
+on_failure() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/failure.png" 2>/dev/null; }
+press() { xdotool key --delay 80 "$1"; } # a person's press: each key held 80 ms
 clipboard_is() { [[ $(xclip -o -selection clipboard 2>/dev/null) == "$1" ]]; }
 
 "$vantle" &
-pid=$!
+pid=$! && pids+=("$pid")
 wait_for 20 xdotool search --onlyvisible --name '^Welcome to vantle$' || fail "no welcome window"
 
 # Twelve picks in a row, the welcome window open throughout, each ended another way; a new
@@ -48,7 +32,6 @@ for i in "${!ends[@]}"; do
     xdotool mousemove $((60 + 20 * i)) "$(scaled 700)" # clear of the welcome window
     press alt+shift+c
     wait_for 10 loupe_shown || fail "press $((i + 1)) of the pick shortcut opened no loupe"
-    sleep 0.2 # the grabs follow the map: a person's next action comes later still
     case ${ends[$i]} in
         click) xdotool click 1 ;;
         right-click) xdotool click 3 ;;

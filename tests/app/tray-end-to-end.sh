@@ -9,13 +9,10 @@ set -euo pipefail
 
 vantle=${VANTLE_BIN:?}
 shots=${1:-}
-for tool in xdotool xclip xwininfo import convert; do
-    command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }
-done
 
-home=$(mktemp -d)
-export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_RUNTIME_DIR=$home/run
-mkdir -p "$XDG_CONFIG_HOME/Vantle" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
+need_tools xdotool xclip xwininfo import convert
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
 # Fresh settings but for the dot in the tray, which this test looks at, and a history long
 # enough that the popup's list must scroll rather than run over the tray icon.
 printf '[General]\nshowColorDot=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
@@ -24,21 +21,16 @@ for i in $(seq 10 49); do
         "$i" "$i" "$((700000000 - i))"
 done | paste -sd, | sed 's/^/[/; s/$/]/' >"$XDG_CONFIG_HOME/Vantle/colorHistory.json"
 
-pid=
-cleanup() {
-    [[ -n $pid ]] && kill "$pid" 2>/dev/null || true
-    rm -rf "$home"
+# What a failure leaves to read: Vantle's messages, the windows of the tray and of Vantle.
+on_failure() {
+    tail -n 20 "$home/vantle.log" >&2
+    xwininfo -root -tree | grep -iE '"(trayer|vantle)"' >&2
+    kill -0 "${VANTLE_TRAY_PID:-0}" 2>/dev/null || echo "trayer is not running; it said:" >&2
+    tail -n 20 "${VANTLE_TRAY_LOG:-/dev/null}" >&2
 }
-trap cleanup EXIT
-
-fail() { echo "FAIL: $*" >&2; exit 1; }
-source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
 shot() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/$1.png" || true; }
-
-source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
-# The loupe's grabs follow its map at once; the short pause leaves them time on a slow
-# (sanitizer) build.
-wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; sleep 0.5; }
+# The loupe shows once it holds the pointer and the keyboard.
+wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; }
 # Vantle processes on this test's display (other tests may run their own).
 vantles_here() {
     local p n=0
@@ -64,8 +56,8 @@ icon_shows() { # icon_shows HEX: the tray icon has pixels of that colour
 xsetroot -solid '#FF6B36'
 echo "sentinel" | xclip -selection clipboard
 
-"$vantle" &
-pid=$!
+"$vantle" 2>>"$home/vantle.log" &
+pid=$! && pids+=("$pid")
 wait_for 20 tray_icon || fail "no tray icon appeared"
 # The first run greets with the welcome window.
 wait_for 20 xdotool search --onlyvisible --name '^Welcome to vantle$' || fail "no welcome window"
@@ -122,19 +114,18 @@ xdotool mousemove 200 600 click 1
 wait_for 10 clipboard_is '#FF6B36' || fail "vantle pick did not copy the colour"
 
 # Quitting from the tray's menu ends Vantle and frees its name and shortcuts.
+shown=$(windows | wc -l)
 xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 3
-sleep 1
+wait_for 10 eval '(($(windows | wc -l) > shown))' || fail "a right click on the tray icon showed no menu"
 xdotool key Up Return
 wait_for 10 sh -c "! kill -0 $pid" || fail "Vantle did not quit from its menu"
 wait "$pid" || fail "Vantle ended with status $?"
-pid=
 if timeout 20 "$vantle" toggle 2>/dev/null; then fail "vantle toggle still finds a Vantle"; fi
 
 # A logout (SIGTERM) ends Vantle cleanly, as Quit does.
-"$vantle" &
-pid=$!
+"$vantle" 2>>"$home/vantle.log" &
+pid=$! && pids+=("$pid")
 wait_for 20 tray_icon || fail "no tray icon at the second start"
 kill -TERM "$pid"
 wait "$pid" || fail "Vantle ended with status $? on SIGTERM"
-pid=
 echo "PASS"

@@ -6,7 +6,7 @@ x11-session.sh, Vantle's tree in the AT-SPI registry, the focused object after r
     with Session() as s:          # starts the accessibility bus and Vantle with a new profile
         s.key("alt+shift+x")
         s.wait(lambda: s.find(role="push button", name="Pick Color"))
-        s.check("focus starts on Pick Color", s.focused_name() == "Pick Color")
+        s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color")
     # exits 1 listing every failed check, 77 when the bus or pyatspi is missing
 """
 import os
@@ -105,10 +105,6 @@ class Session:
             subprocess.run(["xdotool", "key", "--delay", "80", k], check=True)
             time.sleep(0.15)
 
-    def type(self, text):
-        subprocess.run(["xdotool", "type", "--delay", "40", text], check=True)
-        time.sleep(0.15)
-
     # --- reading -------------------------------------------------------------------------
     def app(self):
         desktop = pyatspi.Registry.getDesktop(0)
@@ -171,29 +167,12 @@ class Session:
                 continue
         return found
 
-    def focused_name(self):
-        acc = self.focused()
-        return acc.name if acc is not None else None
-
     def actions(self, acc):
         try:
             action = acc.queryAction()
             return [action.getName(i) for i in range(action.nActions)]
         except NotImplementedError:
             return []
-
-    def value(self, acc):
-        try:
-            return acc.queryValue().currentValue
-        except NotImplementedError:
-            return None
-
-    def text(self, acc):
-        try:
-            t = acc.queryText()
-            return t.getText(0, t.characterCount)
-        except NotImplementedError:
-            return None
 
     def dump(self, root=None):
         """The tree as indented lines, for a failure message."""

@@ -9,7 +9,7 @@ private_session() {
     local marker=$1 script arg status=0
     shift
     session_dir=$(mktemp -d "${TMPDIR:-/tmp}/vantle-session.XXXXXX")
-    trap 'rm -rf "$session_dir"' EXIT
+    trap 'remove_tree "$session_dir"' EXIT
     run_as=()
     if [[ $(id -u) == 0 ]]; then
         command -v runuser >/dev/null || skip "the compositor refuses to run as root and runuser is missing"

@@ -15,3 +15,17 @@ end_started() {
     for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[$i]}" 2>/dev/null || true; done
     wait 2>/dev/null || true
 }
+# need_tools TOOL...: skips the test (exit 77) unless every tool is installed.
+need_tools() {
+    local tool
+    for tool; do command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }; done
+}
+# remove_tree DIR: the document portal, started on the bus with the portal frontend, mounts a
+# FUSE file system at $XDG_RUNTIME_DIR/doc, which rm cannot remove: unmount what lies inside first.
+remove_tree() {
+    local mount
+    for mount in $(awk -v dir="$1/" 'index($5, dir) == 1 {print $5}' /proc/self/mountinfo | sort -r); do
+        fusermount3 -u -z "$mount" 2>/dev/null || fusermount -u -z "$mount" 2>/dev/null || umount -l "$mount" || true
+    done
+    rm -rf "$1"
+}

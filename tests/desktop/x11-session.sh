@@ -6,7 +6,8 @@
 #
 #   x11-session.sh [--size WxH] [--no-tray] [--no-wm] COMMAND [ARGS...]
 #
-# Exports DISPLAY, DBUS_SESSION_BUS_ADDRESS and VANTLE_TEST_SESSION=1 to COMMAND.
+# Exports DISPLAY, DBUS_SESSION_BUS_ADDRESS and VANTLE_TEST_SESSION=1 to COMMAND, and with a
+# tray VANTLE_TRAY_PID and VANTLE_TRAY_LOG (trayer's messages).
 # Exits 77 (CTest's "skipped") when Xvfb is not installed.
 set -euo pipefail
 
@@ -59,17 +60,30 @@ unset WAYLAND_DISPLAY XDG_SESSION_TYPE
 source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 wait_for 10 xdpyinfo || { echo "X server $DISPLAY not answering" >&2; exit 1; }
 
+# start_until READY COMMAND...: starts COMMAND in the background until READY succeeds. Under
+# load a client may fail to connect to a server that has just started ("cannot open display")
+# and die; a desktop without its window manager or tray would fail the test for nothing.
+start_until() {
+    local ready=$1 attempt
+    shift
+    for attempt in 1 2 3; do
+        "$@" >>"$fifo_dir/$1.log" 2>&1 &
+        pids+=($!)
+        # Ready, or dead and to be started again.
+        wait_for 10 eval "! kill -0 $! 2>/dev/null || $ready" && eval "$ready" >/dev/null 2>&1 && return 0
+    done
+    echo "$1 did not start on $DISPLAY: $(tail -n 5 "$fifo_dir/$1.log")" >&2
+    exit 1
+}
 if [[ $wm == 1 ]] && command -v openbox >/dev/null; then
-    openbox --sm-disable >/dev/null 2>&1 &
-    pids+=($!)
-    wait_for 10 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q window' || true
+    start_until "xprop -root _NET_SUPPORTING_WM_CHECK | grep -q window" openbox --sm-disable
 fi
 if [[ $tray == 1 ]] && command -v trayer >/dev/null; then
-    trayer --edge top --align right --widthtype request --height 24 --SetDockType true \
-        --transparent false --tint 0x202020 >/dev/null 2>&1 &
-    pids+=($!)
-    wait_for 10 sh -c 'xprop -root | grep -q "_NET_SYSTEM_TRAY_S0\|_NET_SYSTEM_TRAY"' || true
-    wait_for 10 sh -c "xdotool search --class trayer" || true
+    # Qt docks an icon whenever the tray appears, so trayer's window existing is enough here
+    # (an empty panel of width "request" may stay unmapped).
+    start_until "xdotool search --class trayer" trayer --edge top --align right --widthtype request \
+        --height 24 --SetDockType true --transparent false --tint 0x202020
+    export VANTLE_TRAY_PID=${pids[-1]} VANTLE_TRAY_LOG=$fifo_dir/trayer.log
 fi
 
 "$@"

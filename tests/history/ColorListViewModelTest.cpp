@@ -112,6 +112,7 @@ TEST_F(ColorListViewModelTest, PickTrimsOnlyTheOldestUnpinnedColours)
     const struct {
         std::optional<qint64> storedLimit;
         int pinned, unpinned, expectedUnpinned;
+        bool isPinnedNewest = false; // else the pinned colours are the oldest of all
     } cases[] = {
         { 20, 5, 20, 20 }, // one over: the oldest unpinned colour goes
         { 20, 5, 10, 11 }, // under the limit: nothing goes
@@ -119,25 +120,33 @@ TEST_F(ColorListViewModelTest, PickTrimsOnlyTheOldestUnpinnedColours)
         { -3, 2, 50, 50 }, // so does a negative value
         { std::nullopt, 0, 50, 50 }, // and a missing one
         { 1, 3, 4, 1 },
+        // Pinned colours among the newest count towards nothing either.
+        { 4, 3, 3, 4, true },
+        { 2, 2, 3, 2, true },
     };
     for (const auto &c : cases) {
-        SCOPED_TRACE(testing::Message() << "limit " << c.storedLimit.value_or(-999) << ", " << c.pinned
-                                        << " pinned, " << c.unpinned << " unpinned");
+        SCOPED_TRACE(testing::Message()
+            << "limit " << c.storedLimit.value_or(-999) << ", " << c.pinned << " pinned, " << c.unpinned
+            << " unpinned, pinned newest " << c.isPinnedNewest);
         TempSettings fresh;
         if (c.storedLimit)
             fresh.store->setInteger(PreferenceKeys::historyLimit, *c.storedLimit);
-        // Newest first; the oldest colours of all are pinned and must survive.
-        QList<PickedColor> history;
-        for (int i = 0; i < c.unpinned + c.pinned; ++i)
-            history.append(makeColor(i / 100.0, i >= c.unpinned));
+        // Newest first; pinned colours every other place from the newest on, or all the oldest.
+        QList<PickedColor> history, unpinned, pinned;
+        for (int i = 0; i < c.unpinned + c.pinned; ++i) {
+            const bool isPinned = c.isPinnedNewest ? (i % 2 == 0 && i / 2 < c.pinned) || i >= 2 * c.unpinned
+                                                   : i >= c.unpinned;
+            history.append(makeColor(i / 100.0, isPinned));
+            (isPinned ? pinned : unpinned).append(history.last());
+        }
         fresh.store->setData(PreferenceKeys::colorHistory, *encodeColorHistory(history));
         ColorListViewModel m(*fresh.store, sampler, clipboard, confirmation, dialogs);
         m.pickColor();
         sampler.finish(1, 1, 1);
 
         EXPECT_EQ(m.colors().first().red, 1.0);
-        EXPECT_EQ(m.recentColors().mid(1), history.mid(0, c.expectedUnpinned - 1)); // the newest, in order
-        EXPECT_EQ(m.pinnedColors(), history.mid(c.unpinned));
+        EXPECT_EQ(m.recentColors().mid(1), unpinned.mid(0, c.expectedUnpinned - 1)); // the newest, in order
+        EXPECT_EQ(m.pinnedColors(), pinned);
     }
 }
 

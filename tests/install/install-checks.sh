@@ -53,17 +53,21 @@ check_layout() {
     for f in vantle-desktop.so vantle-network.so; do
         [[ -s $prefix/lib/vantle/modules/$f ]] || fail "the module lib/vantle/modules/$f is not installed"
     done
-    # The installed program finds its desktop part (which then refuses the unknown format)...
-    local answer status=0
-    answer=$(QT_QPA_PLATFORM=minimal timeout 20 "$prefix/bin/vantle" pick --print --format nonsense 2>&1) || status=$?
-    [[ $status == 2 && $answer == *'unknown format "nonsense"'* ]] ||
-        fail "the installed program did not run its desktop part (exit $status): $answer"
-    # ...and says what is wrong, calmly, when the part is missing.
+    # The command line's exit statuses: 0 done, 1 could not do it, 2 not understood (every
+    # command alike). The installed program finds its desktop part (`pick --print` refuses the
+    # format there), and says what is wrong, calmly, when the part is missing.
     mkdir -p "$work/alone" && cp "$prefix/bin/vantle" "$work/alone/"
-    status=0
-    answer=$("$work/alone/vantle" pick --print 2>&1) || status=$?
-    [[ $status == 1 && $answer == *"desktop part of Vantle cannot be loaded"* ]] ||
-        fail "a missing desktop part gave exit $status: $answer"
+    local run expected program words answer status
+    for run in "0 bin --version" "0 bin format 1,0,0" "2 bin frobnicate" "2 bin format --format nonsense 1,0,0" \
+        "2 bin format" "2 bin export --pdf" "2 bin pick --print --format nonsense" "1 alone pick --print"; do
+        read -r expected program words <<<"$run"
+        [[ $program == bin ]] && program=$prefix/bin/vantle || program=$work/alone/vantle
+        status=0
+        # shellcheck disable=SC2086 # the words are split on purpose
+        answer=$(QT_QPA_PLATFORM=minimal timeout 20 "$program" $words 2>&1) || status=$?
+        [[ $status == "$expected" ]] || fail "\"vantle $words\" ($program) exited $status, not $expected: $answer"
+    done
+    [[ $answer == *"desktop part of Vantle cannot be loaded"* ]] || fail "a missing desktop part said: $answer"
     local size png
     for size in 16 24 32 48 64 128 256 512; do
         png=$prefix/share/icons/hicolor/${size}x${size}/apps/vantle.png

@@ -5,21 +5,13 @@
 set -euo pipefail
 helper="$1"
 vantle="${VANTLE_BIN:?}"
-work=$(mktemp -d)
-pids=()
-cleanup() {
-    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
-fail() { echo "FAIL: $*" >&2; exit 1; }
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
+work=$home
 
 # Left half #3A7BD5, right half #D5603A: x 100..299 and 300..499, y 100..399.
 "$helper" target 100 100 400 300 '#3A7BD5' '#D5603A' "$work/presses" >"$work/target.out" &
 pids+=($!)
-for _ in $(seq 200); do grep -q ready "$work/target.out" 2>/dev/null && break; sleep 0.05; done
-grep -q ready "$work/target.out" || fail "the target window did not appear"
+wait_for 10 grep -q ready "$work/target.out" || fail "the target window did not appear"
 
 # start_pick FORMAT: starts the sampler and waits until it holds the pointer grab.
 start_pick() {
@@ -98,14 +90,15 @@ expect_loupe 1277 797
 xdotool key Escape
 finish_pick 1
 
-# At every scale factor a click picks the very device pixel under the pointer (odd ones too,
-# which a logical position rounds away) and a nudge moves exactly one device pixel.
-for scale in 1.25 1.5 2; do
-    for at in "501 301" "777 333" "1001 599"; do
+# At every scale factor a click picks the very device pixel under it (odd ones too, which a
+# logical position rounds away), also when the pointer flicks there and clicks in one go, the
+# loupe still showing where it started; and a nudge moves exactly one device pixel.
+for scale in 1 1.25 1.5 2; do
+    for at in "501 301" "777 333" "1001 499"; do
         read -r x y <<<"$at"
-        xdotool mousemove "$x" "$y"
+        xdotool mousemove $((x - 168)) $((y + 216)) # at scale 2 the loupe's lens is then over x, y
         QT_SCALE_FACTOR=$scale start_pick hex
-        xdotool click 1
+        xdotool mousemove "$x" "$y" click 1
         finish_pick 0
         expected=$("$helper" pattern-hex "$x" "$y")
         [[ "$(cat "$work/out")" == "$expected" ]] \

@@ -12,22 +12,11 @@ vantle=${VANTLE_BIN:?}
 backend=${1:?usage: wayland-end-to-end.sh PORTAL_TEST_BACKEND}
 frontend=/usr/libexec/xdg-desktop-portal
 [[ -x $frontend ]] || { echo "SKIP: xdg-desktop-portal is not installed" >&2; exit 77; }
-for tool in wl-paste wl-copy dbus-send; do
-    command -v "$tool" >/dev/null || { echo "SKIP: $tool is missing" >&2; exit 77; }
-done
 
-source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
-home=$(mktemp -d -p "$XDG_RUNTIME_DIR")
-export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
-mkdir -p "$XDG_CONFIG_HOME" "$XDG_DATA_HOME" "$home/portals"
-
-pids=()
-trap end_started EXIT
-fail() {
-    echo "FAIL: $*" >&2
-    tail -n 20 "$home/vantle.log" >&2 || true
-    exit 1
-}
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
+need_tools wl-paste wl-copy dbus-send
+mkdir -p "$home/portals"
+on_failure() { tail -n 20 "$home/vantle.log" >&2 2>/dev/null; }
 bus_call() { # bus_call DEST PATH INTERFACE.METHOD ARGS...
     dbus-send --session --print-reply=literal --dest="$1" "$2" "$3" "${@:4}"
 }

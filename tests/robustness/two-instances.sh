@@ -10,23 +10,12 @@ vantle=${VANTLE_BIN:?}
 rounds=${VANTLE_INSTANCE_ROUNDS:-20}
 command -v pgrep >/dev/null || { echo "SKIP: pgrep is missing" >&2; exit 77; }
 
-home=$(mktemp -d)
-pids=()
-cleanup() {
-    for p in "${pids[@]}"; do kill -9 "$p" 2>/dev/null || true; done
-    # The document portal, started on the bus for Vantle, mounts itself in each runtime folder.
-    for mount in "$home"/run-*/doc; do fusermount -u "$mount" 2>/dev/null || umount -l "$mount" 2>/dev/null || true; done
-    rm -rf "$home" 2>/dev/null || true
-}
-trap cleanup EXIT
-fail() {
-    echo "FAIL: $*" >&2
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
+on_failure() {
     for log in "$home"/first.log "$home"/second.log; do
-        [[ -s $log ]] && { echo "--- ${log##*/}:" >&2; tail -20 "$log" >&2; }
+        [[ ! -s $log ]] || { echo "--- ${log##*/}:" >&2; tail -20 "$log" >&2; }
     done
-    exit 1
 }
-source "$(dirname "${BASH_SOURCE[0]}")/../desktop/wait-for.sh"
 running() { kill -0 "$1" 2>/dev/null && [[ $(ps -o stat= -p "$1") != Z* ]]; }
 exited() { ! running "$1"; }
 config_has() { grep -q "^$1\$" "$XDG_CONFIG_HOME/Vantle/Vantle.conf" 2>/dev/null; }
@@ -34,7 +23,7 @@ config_has() { grep -q "^$1\$" "$XDG_CONFIG_HOME/Vantle/Vantle.conf" 2>/dev/null
 bus=$DBUS_SESSION_BUS_ADDRESS
 for ((round = 1; round <= rounds; round++)); do
     rm -rf "${home:?}"/config "${home:?}"/data "${home:?}"/go
-    export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_RUNTIME_DIR=$home/run-$round
+    export XDG_RUNTIME_DIR=$home/run-$round
     mkdir -p "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
     if ((round % 2 == 0)); then
         # An address that leads nowhere: unset, libdbus would launch a bus of its own.

@@ -1,8 +1,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The popup as a screen reader reads it: the pick button, the section headings and the colour
 rows named by name, value and pin; Tab and the arrows through them; a row's menu from the Menu
-key and Shift+F10; the rename sheet; the export menu; Escape going back one level at a time and
-closing the popup last."""
+key and Shift+F10; the rename sheet; the export menu; a colour's detail screen, each format line a
+button named by its format and text in Tab order, the contrast lines said as ratios, the comparison
+with another colour and its swap read again, a copy heard
+without taking the focus; Escape going back one level at a time and closing the popup last; the
+loupe's value heard as the pointer moves."""
 import json
 import os
 import subprocess
@@ -46,6 +49,40 @@ TAB_ORDER = [  # from Pick Color on, what each Tab press reaches
 ]
 ROW_MENU = ["Copy", "Unpin", "Rename…", "Delete"]  # Sunset's menu
 MENU_KEYS = ["Menu", "shift+F10"]  # both open a row's menu on its first entry
+LINES = [  # Sunset's detail, in Tab order from the first line; "…" ends a prefix
+    "Hex, #FF6B36",
+    "Hex (lowercase), #ff6b36",
+    "RGB, rgb(255, 107, 54)",
+    "RGB (decimal), …",
+    "HSL, hsl(…",
+    "HSB/HSV, …",
+    "SwiftUI Color, Color(red: 1.00…",
+    "UIColor, UIColor(red: 1.00…",
+    "CSS rgba, rgba(…",
+]
+DETAIL = [
+    ("push button", "Back"),
+    ("label", "Sunset"),
+    ("heading", "Contrast Ratios"),
+    ("label", "vs White, 2.8 to 1, Fail"),
+    ("label", "vs Black, 7.4 to 1, AAA"),
+    # Compared with the newest other colour (Sunset is the oldest), as text on Sunset.
+    ("heading", "Text and Background"),
+    ("combo box", "#3366CC"),  # named by its value, as every combo box
+    ("push button", "Swap text and background"),
+    ("label", "Contrast ratio 1.9 to 1"),
+    ("label", "Normal text: Fail, 1.9 to 1"),
+    ("label", "Large text: Fail, 1.9 to 1"),
+    ("label", "Non-text: Fail, 1.9 to 1"),
+    ("label", "APCA: Lc 20.7, dividers and disabled parts only"),
+    *[("push button", line) for line in LINES],
+]
+
+
+def focus_line(s, line):
+    if line.endswith("…"):
+        return s.expect_focus(f"Tab reaches '{line}'", role="push button", prefix=line[:-1])
+    return s.expect_focus(f"Tab reaches '{line}'", role="push button", name=line)
 
 
 with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": json.dumps(HISTORY)}) as s:
@@ -106,9 +143,38 @@ with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": j
     s.check("Escape closes the popup last",
             bool(s.wait(lambda: s.find(role="push button", name="Pick Color") is None, 3)), s.dump())
 
-    # A pick from the keyboard: the loupe's value is heard as the pointer moves; Escape ends it.
+    # The detail screen from the keyboard; a copy there keeps the focus on its line.
     s.key("alt+shift+x")
     s.expect_focus("the popup opens again on Pick Color", role="push button", name="Pick Color")
+    s.key("Tab", "Return")
+    focus_line(s, LINES[0])
+    s.expect_tree("detail", DETAIL)
+    for line in LINES[1:]:
+        s.key("Tab")
+        focus_line(s, line)
+    s.key("Tab")
+    s.expect_focus("Tab from the last line to the compared colour", role="combo box", name="#3366CC")
+    s.key("Tab")
+    s.expect_focus("Tab to the swap", role="push button", name="Swap text and background")
+    s.key("space")
+    s.check("a swap reads the results again",
+            bool(s.wait(lambda: s.find(role="label", name="APCA: Lc -22.1, dividers and disabled parts only"), 3)),
+            s.dump())
+    s.key("Tab")
+    s.expect_focus("Tab from the comparison to Back", role="push button", name="Back")
+    s.key("Tab", "Return")
+    note = s.wait(lambda: s.find(role="notification", name="Copied #FF6B36"), 3)
+    s.check("the copy capsule is heard", note is not None, s.dump())
+    focus_line(s, LINES[0])
+    s.key("Escape")
+    s.expect_focus("Escape from the detail back to the row", role="list item", name=SUNSET)
+    s.key("Escape")
+    s.check("Escape closes the popup from the row",
+            bool(s.wait(lambda: s.find(role="push button", name="Pick Color") is None, 3)), s.dump())
+
+    # A pick from the keyboard: the loupe's value is heard as the pointer moves; Escape ends it.
+    s.key("alt+shift+x")
+    s.expect_focus("the popup opens once more on Pick Color", role="push button", name="Pick Color")
     s.key("Return")
     time.sleep(0.5)
     for x, y in [(200, 300), (400, 500)]:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "services/SettingsStore.h"
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/SettingsViewModel.h"
 #include "support/TempSettings.h"
 
@@ -53,10 +54,27 @@ TEST(SettingsStore, DefaultsAreAnsweredButNeverWritten)
 TEST(SettingsStore, ValuesSurviveTheNextLaunchWithTheirTypes)
 {
     TempSettings t;
-    t.store.reset(); // as earlier versions wrote the history: in the settings file
-    put(t.filePath(), "[General]\ncolorHistory=\"@ByteArray([{\\\"a\\\":1}])\"\n");
+    // A person's file as earlier versions wrote it, the history inside, as text: a key spelt
+    // otherwise in code would lose what they chose.
+    t.store.reset();
+    put(t.filePath(),
+        "[General]\ncolorHistory=\"@ByteArray([{\\\"a\\\":1}])\"\ncolorFormat=CSS rgba\nlaunchAtLogin=false\n"
+        "showColorDot=true\nhistoryLimit=20\npickKeyCode=2\npickModifiers=1179648\npickKeyChar=D\n"
+        "popoverKeyCode=16\npopoverModifiers=262144\npopoverKeyChar=Y\nonboardingShown=true\n"
+        "SUAutomaticallyUpdate=false\nSUSkippedVersion=1.2.0\n");
     t.store = std::make_unique<SettingsStore>(t.filePath());
-    EXPECT_EQ(t.store->dataForKey(colorHistory), QByteArray(R"([{"a":1}])"));
+    SettingsViewModel::registerDefaults(*t.store); // so that a value not found reads otherwise
+    const SettingsStore &s = *t.store;
+    EXPECT_EQ(s.dataForKey(colorHistory), QByteArray(R"([{"a":1}])"));
+    EXPECT_EQ(SettingsViewModel::currentFormat(s), ColorFormat::css);
+    EXPECT_EQ(
+        std::tuple(s.boolForKey(launchAtLogin), s.boolForKey(showColorDot), s.integerForKey(historyLimit)),
+        std::tuple(false, true, 20));
+    EXPECT_EQ(Preferences::pickShortcut.read(s), (StoredShortcut { 2, 1179648, QStringLiteral("D") }));
+    EXPECT_EQ(Preferences::popoverShortcut.read(s), (StoredShortcut { 16, 262144, QStringLiteral("Y") }));
+    EXPECT_EQ(std::tuple(s.boolForKey(onboardingShown), s.boolForKey(automaticallyUpdate)),
+        std::tuple(true, false));
+    EXPECT_EQ(s.stringForKey(skippedUpdateVersion), QStringLiteral("1.2.0"));
     const QByteArray blob = "[{\"name\":\"a/b \\\"q\\\" = ; # [x]\"}]\n\xc3\xa9\x00\xff";
     t.store->setData(colorHistory, blob);
     t.store->setInteger(pickModifiers, 655360);

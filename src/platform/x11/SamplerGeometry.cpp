@@ -9,10 +9,6 @@ namespace SamplerGeometry {
 
 namespace {
 
-// 1/1000 of a device pixel: far below what a scale factor can round to, far above the error
-// of dividing and multiplying back a whole number by it.
-constexpr double tolerance = 1e-3;
-
 constexpr std::array<int, 10> zoomSteps = { 4, 6, 8, 10, 12, 16, 20, 24, 28, 32 };
 static_assert(zoomSteps.front() == minimumZoom && zoomSteps.back() == maximumZoom);
 
@@ -23,20 +19,6 @@ ScreenArea screenArea(const QRect &logicalGeometry, double scale)
     const QSize deviceSize(int(std::lround(logicalGeometry.width() * scale)),
         int(std::lround(logicalGeometry.height() * scale)));
     return { logicalGeometry, QRect(logicalGeometry.topLeft(), deviceSize), scale };
-}
-
-QPoint deviceFromLocalLogical(const ScreenArea &screen, const QPointF &local)
-{
-    const int x = int(std::floor(local.x() * screen.scale + tolerance));
-    const int y = int(std::floor(local.y() * screen.scale + tolerance));
-    const QRect &d = screen.device;
-    return { std::clamp(d.left() + x, d.left(), d.right()), std::clamp(d.top() + y, d.top(), d.bottom()) };
-}
-
-QPointF logicalFromDevice(const ScreenArea &screen, const QPoint &device)
-{
-    const QPointF offset = QPointF(device - screen.device.topLeft()) + QPointF(0.5, 0.5);
-    return QPointF(screen.logical.topLeft()) + offset / screen.scale;
 }
 
 std::optional<qsizetype> screenIndexAt(const QList<ScreenArea> &screens, const QPoint &device)

@@ -5,16 +5,15 @@
 #include <QImage>
 #include <QList>
 #include <QPoint>
-#include <QPointF>
 #include <QRect>
 #include <QSize>
 #include <optional>
 
 // The arithmetic of the freeze-frame sampler, free of windows and X so that tests can pin it.
 //
-// Everything the user aims at lives in device pixels: the X root window, the frozen image and
+// Everything the user aims at lives in device pixels: the X root window, the pixels read and
 // the hotspot all share one coordinate space. Qt's logical coordinates only appear at the edge,
-// where a mouse event arrives on a screen with its own scale factor.
+// in the screens' geometry.
 namespace SamplerGeometry {
 
 // One screen as both coordinate spaces see it. Qt keeps a screen's top-left corner at its
@@ -26,14 +25,6 @@ struct ScreenArea {
 };
 
 ScreenArea screenArea(const QRect &logicalGeometry, double scale);
-
-// The device pixel under a point given in the screen's logical coordinates (local to the
-// screen's top-left corner). Mouse positions come from whole device pixels divided by the
-// scale, so a small tolerance recovers the exact pixel despite floating-point error.
-QPoint deviceFromLocalLogical(const ScreenArea &screen, const QPointF &local);
-
-// The logical position (global) of a device pixel's centre, for handing back to Qt.
-QPointF logicalFromDevice(const ScreenArea &screen, const QPoint &device);
 
 // The screen whose device area holds the point, if any.
 std::optional<qsizetype> screenIndexAt(const QList<ScreenArea> &screens, const QPoint &device);

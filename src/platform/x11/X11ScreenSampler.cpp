@@ -5,14 +5,13 @@
 #include "platform/x11/SamplerLoupe.h"
 #include "platform/x11/X11LoupeWindow.h"
 
-#include <QAccessible>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
 #include <xcb/xcb_keysyms.h>
 
 #include <cstdlib>
-#include <cstring>
+#include <utility>
 
 namespace {
 
@@ -21,33 +20,7 @@ constexpr int grabRetryMilliseconds = 25;
 // While the pointer rests the loupe still follows what the screen shows, 20 times a second:
 // one GetImage of a few KiB each time, and a redraw only when a pixel changed.
 constexpr int liveRefreshMilliseconds = 50;
-// A screen reader hears the value under the pointer at most this often: each value it starts
-// saying cuts off the one before, so faster would say nothing whole while the pointer moves.
-constexpr int spokenValueMilliseconds = 350;
 constexpr uint16_t crosshairGlyph = 34; // XC_crosshair in the standard cursor font
-
-// Pixels X gives us for a ZPixmap of the root: 32 bits a pixel with the channels in the
-// visual's masks. The common case, 0xRRGGBB in native order, is exactly QImage::Format_RGB32.
-bool isRgb32(xcb_connection_t *connection, const xcb_screen_t *screen)
-{
-    if (screen->root_depth != 24 && screen->root_depth != 32)
-        return false;
-    const xcb_setup_t *setup = xcb_get_setup(connection);
-    bool bpp32 = false;
-    for (auto it = xcb_setup_pixmap_formats_iterator(setup); it.rem; xcb_format_next(&it))
-        if (it.data->depth == screen->root_depth)
-            bpp32 = it.data->bits_per_pixel == 32;
-    const bool nativeOrder = (setup->image_byte_order == XCB_IMAGE_ORDER_LSB_FIRST)
-        == (QSysInfo::ByteOrder == QSysInfo::LittleEndian);
-    for (auto d = xcb_screen_allowed_depths_iterator(screen); d.rem; xcb_depth_next(&d)) {
-        for (auto v = xcb_depth_visuals_iterator(d.data); v.rem; xcb_visualtype_next(&v)) {
-            if (v.data->visual_id == screen->root_visual)
-                return bpp32 && nativeOrder && v.data->red_mask == 0xff0000 && v.data->green_mask == 0xff00
-                    && v.data->blue_mask == 0xff;
-        }
-    }
-    return false;
-}
 
 std::optional<SampledColor> sampled(const std::optional<SamplerGeometry::Rgb> &rgb)
 {
@@ -61,13 +34,13 @@ std::optional<SampledColor> sampled(const std::optional<SamplerGeometry::Rgb> &r
 X11ScreenSampler::X11ScreenSampler(xcb_connection_t *connection)
     : m_connection(connection)
     , m_screen(xcb_setup_roots_iterator(xcb_get_setup(connection)).data)
-    , m_isReadable(m_screen && isRgb32(connection, m_screen))
+    , m_root(connection, m_screen)
 {
     m_grabRetry.setInterval(grabRetryMilliseconds);
     m_grabRetry.setSingleShot(true);
     connect(&m_grabRetry, &QTimer::timeout, this, [this] {
         if (tryGrab())
-            return;
+            return redrawLoupe();
         if (++m_grabAttempts < grabAttemptLimit)
             m_grabRetry.start();
         else
@@ -75,14 +48,11 @@ X11ScreenSampler::X11ScreenSampler(xcb_connection_t *connection)
     });
     m_liveRefresh.setInterval(liveRefreshMilliseconds);
     connect(&m_liveRefresh, &QTimer::timeout, this, &X11ScreenSampler::refreshLive);
-    m_spokenRefresh.setInterval(spokenValueMilliseconds);
-    m_spokenRefresh.setSingleShot(true);
-    connect(&m_spokenRefresh, &QTimer::timeout, this, &X11ScreenSampler::publishSpokenValue);
 }
 
 X11ScreenSampler::~X11ScreenSampler()
 {
-    if (m_isPicking)
+    if (m_phase != Phase::idle)
         finish(std::nullopt);
     m_loupeWindow.reset();
     if (m_inputWindow != XCB_NONE) {
@@ -92,12 +62,11 @@ X11ScreenSampler::~X11ScreenSampler()
     }
     if (m_symbols)
         xcb_key_symbols_free(m_symbols);
-    delete m_spokenValue.data();
 }
 
 xcb_window_t X11ScreenSampler::loupeWindow() const
 {
-    return m_isPicking && m_loupeWindow ? m_loupeWindow->id() : XCB_NONE;
+    return m_phase != Phase::idle && m_loupeWindow ? m_loupeWindow->id() : XCB_NONE;
 }
 
 void X11ScreenSampler::ensureWindows()
@@ -133,13 +102,13 @@ void X11ScreenSampler::ensureWindows()
 
 void X11ScreenSampler::pick(ColorFormat labelFormat, Completion completion)
 {
-    if (m_isPicking || !m_isReadable) {
+    if (m_phase != Phase::idle || !m_root.isReadable()) {
         QMetaObject::invokeMethod(
             this, [c = std::move(completion)] { c(std::nullopt); }, Qt::QueuedConnection);
         return;
     }
     m_completion = std::move(completion);
-    m_isPicking = true;
+    m_phase = Phase::grabbing;
     m_format = labelFormat;
     m_zoom = SamplerGeometry::defaultZoom;
     m_pressedResult.reset();
@@ -160,13 +129,13 @@ void X11ScreenSampler::pick(ColorFormat labelFormat, Completion completion)
     m_hotspot = pointer ? QPoint(pointer->root_x, pointer->root_y)
                         : (m_areas.isEmpty() ? QPoint() : m_areas.first().device.center());
     std::free(pointer);
-    redrawLoupe();
 
     QCoreApplication::instance()->installNativeEventFilter(this);
-    m_hasGrab = false;
     m_hasFocusFromGrab = false;
     m_grabAttempts = 0;
-    if (!tryGrab())
+    if (tryGrab())
+        redrawLoupe();
+    else
         m_grabRetry.start();
     m_liveRefresh.start();
 }
@@ -196,16 +165,17 @@ bool X11ScreenSampler::tryGrab()
         xcb_flush(m_connection);
         return false;
     }
-    m_hasGrab = true;
+    m_phase = Phase::aiming;
     return true;
 }
 
 void X11ScreenSampler::moveHotspot(const QPoint &device)
 {
-    if (!m_isPicking || device == m_hotspot)
+    if (m_phase == Phase::idle || m_pressedButton != 0 || device == m_hotspot)
         return;
     m_hotspot = device;
-    scheduleRedraw();
+    if (isAiming())
+        scheduleRedraw();
 }
 
 void X11ScreenSampler::nudge(int dx, int dy)
@@ -235,47 +205,17 @@ void X11ScreenSampler::scheduleRedraw()
         this,
         [this] {
             m_isRedrawPending = false;
-            if (m_isPicking)
+            if (isAiming())
                 redrawLoupe();
         },
         Qt::QueuedConnection);
-}
-
-QImage X11ScreenSampler::readScreen(const QRect &device) const
-{
-    QImage image(device.size(), QImage::Format_RGB32);
-    image.fill(Qt::black); // beyond the desktop
-    const QRect part = device.intersected(QRect(0, 0, m_screen->width_in_pixels, m_screen->height_in_pixels));
-    if (part.isEmpty())
-        return image;
-    xcb_get_image_reply_t *reply = xcb_get_image_reply(m_connection,
-        xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_screen->root, int16_t(part.x()),
-            int16_t(part.y()), uint16_t(part.width()), uint16_t(part.height()), ~0u),
-        nullptr);
-    if (!reply)
-        return image;
-    const auto *data = xcb_get_image_data(reply);
-    const int rowBytes = part.width() * 4;
-    if (xcb_get_image_data_length(reply) >= rowBytes * part.height()) {
-        const QPoint at = part.topLeft() - device.topLeft();
-        for (int y = 0; y < part.height(); ++y) {
-            auto *to = reinterpret_cast<quint32 *>(image.scanLine(at.y() + y)) + at.x();
-            const auto *from = reinterpret_cast<const quint32 *>(data + y * rowBytes);
-            // X leaves the top byte of a depth-24 pixel undefined (usually zero) where
-            // Format_RGB32 promises 0xff; painting trusts that promise.
-            for (int x = 0; x < part.width(); ++x)
-                to[x] = from[x] | 0xff000000u;
-        }
-    }
-    std::free(reply);
-    return image;
 }
 
 std::optional<SampledColor> X11ScreenSampler::colorAt(const QPoint &device) const
 {
     if (!SamplerGeometry::screenIndexAt(m_areas, device) && !m_areas.isEmpty())
         return std::nullopt;
-    return sampled(SamplerGeometry::sampleAt(readScreen(QRect(device, QSize(1, 1))), device, device));
+    return sampled(SamplerGeometry::sampleAt(m_root.read(QRect(device, QSize(1, 1))), device, device));
 }
 
 void X11ScreenSampler::redrawLoupe()
@@ -289,10 +229,10 @@ void X11ScreenSampler::redrawLoupe()
     const SamplerLoupe &loupe = *m_loupes[size_t(*index)];
     const int across = SamplerGeometry::loupePixelsAcross(loupe.lensDiameter(), m_zoom);
     const QRect square(m_hotspot - QPoint(across / 2, across / 2), QSize(across, across));
-    const QImage patch = readScreen(square);
+    const QImage patch = m_root.read(square);
     const auto rgb = SamplerGeometry::sampleAt(patch, square.topLeft(), m_hotspot);
     if (rgb)
-        speak(formatColor(rgb->red, rgb->green, rgb->blue, 1, m_format));
+        m_spokenValue.speak(formatColor(rgb->red, rgb->green, rgb->blue, 1, m_format));
     QString text;
     if (m_isLabelReady) {
         text = rgb ? formatColor(rgb->red, rgb->green, rgb->blue, 1, m_format) : QString();
@@ -306,7 +246,7 @@ void X11ScreenSampler::redrawLoupe()
             this,
             [this] {
                 m_isLabelReady = true;
-                if (m_isPicking)
+                if (isAiming())
                     redrawLoupe();
             },
             Qt::QueuedConnection);
@@ -319,53 +259,12 @@ void X11ScreenSampler::redrawLoupe()
     m_loupeWindow->show(image, place);
 }
 
-void X11ScreenSampler::speak(const QString &value)
-{
-    if (!QAccessible::isActive() && !m_spokenValue)
-        return;
-    m_unspokenValue = value;
-    // The first value and the last one at once, those between at most every interval: the
-    // value where the pointer comes to rest is always heard.
-    if (!m_spokenRefresh.isActive() || value.isEmpty())
-        publishSpokenValue();
-}
-
-void X11ScreenSampler::publishSpokenValue()
-{
-    if (!m_spokenValue) {
-        // The loupe draws on a window of its own, not a Qt one: what a screen reader reads of
-        // it is this object of the application, a notification named by the loupe's value.
-        m_spokenValue = new QObject(QCoreApplication::instance());
-        m_spokenValue->setObjectName(QStringLiteral("loupeValue"));
-    }
-    if (!m_unspokenValue)
-        return; // nothing new since the last one
-    const QString value = *std::exchange(m_unspokenValue, std::nullopt);
-    if (value.isEmpty()) {
-        m_spokenRefresh.stop();
-        if (m_spokenValue->property("text").toString().isEmpty())
-            return;
-        QAccessibleEvent hidden(m_spokenValue, QAccessible::ObjectHide);
-        QAccessible::updateAccessibility(&hidden);
-        m_spokenValue->setProperty("text", QString());
-        return;
-    }
-    if (value == m_spokenValue->property("text").toString())
-        return;
-    m_spokenValue->setProperty("text", value);
-    QAccessibleEvent named(m_spokenValue, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&named);
-    QAccessibleEvent shown(m_spokenValue, QAccessible::ObjectShow);
-    QAccessible::updateAccessibility(&shown);
-    m_spokenRefresh.start();
-}
-
 void X11ScreenSampler::refreshLive()
 {
-    if (!m_isPicking || m_patch.isNull() || m_isRedrawPending)
+    if (!isAiming() || m_patch.isNull() || m_isRedrawPending)
         return;
     // Only the square itself is read; a redraw follows only when something in it changed.
-    if (readScreen(m_patchRect) != m_patch)
+    if (m_root.read(m_patchRect) != m_patch)
         redrawLoupe();
 }
 
@@ -382,7 +281,11 @@ void X11ScreenSampler::handleButton(const xcb_button_press_event_t *event, bool 
         return;
     switch (event->detail) {
     case XCB_BUTTON_INDEX_1:
+        // The press's own position decides. The loupe may still stand where the pointer was
+        // before a quick move (its redraw waits for the end of a burst of moves) and cover
+        // this very pixel, and the root reads what is shown: the loupe goes first.
         m_hotspot = device;
+        m_loupeWindow->hide();
         m_pressedResult = colorAt(device);
         m_pressedButton = event->detail;
         break;
@@ -450,17 +353,16 @@ bool X11ScreenSampler::handleKey(const xcb_key_press_event_t *event)
 
 void X11ScreenSampler::finish(std::optional<SampledColor> result)
 {
-    if (!m_isPicking)
+    if (m_phase == Phase::idle)
         return;
-    m_isPicking = false;
+    const bool hasGrab = std::exchange(m_phase, Phase::idle) == Phase::aiming;
     m_grabRetry.stop();
     m_liveRefresh.stop();
-    speak(QString()); // the loupe is gone: its value leaves the screen reader's tree
+    m_spokenValue.speak(QString()); // the loupe is gone: its value leaves the screen reader's tree
     QCoreApplication::instance()->removeNativeEventFilter(this);
-    if (m_hasGrab) {
+    if (hasGrab) {
         xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
         xcb_ungrab_pointer(m_connection, XCB_CURRENT_TIME);
-        m_hasGrab = false;
     }
     m_loupeWindow->hide();
     m_loupeWindow->release();
@@ -476,7 +378,7 @@ void X11ScreenSampler::finish(std::optional<SampledColor> result)
 
 bool X11ScreenSampler::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
 {
-    if (eventType != "xcb_generic_event_t" || !m_isPicking)
+    if (eventType != "xcb_generic_event_t" || m_phase == Phase::idle)
         return false;
     const auto *event = static_cast<const xcb_generic_event_t *>(message);
     switch (event->response_type & ~0x80) {

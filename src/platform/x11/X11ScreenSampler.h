@@ -2,13 +2,14 @@
 #pragma once
 
 #include "history/ScreenColorSampler.h"
+#include "platform/x11/LoupeSpokenValue.h"
 #include "platform/x11/SamplerGeometry.h"
+#include "platform/x11/X11RootReader.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QImage>
 #include <QObject>
 #include <QPoint>
-#include <QPointer>
 #include <QTimer>
 #include <memory>
 #include <optional>
@@ -53,10 +54,6 @@ private:
     void scheduleRedraw();
     void redrawLoupe();
     void refreshLive();
-    // What a screen reader hears of the loupe: its value text, an empty one once it closes.
-    void speak(const QString &value);
-    void publishSpokenValue();
-    QImage readScreen(const QRect &device) const;
     std::optional<SampledColor> colorAt(const QPoint &device) const;
     void handleButton(const xcb_button_press_event_t *event, bool isPress);
     bool handleKey(const xcb_key_press_event_t *event);
@@ -65,14 +62,19 @@ private:
 
     xcb_connection_t *m_connection;
     const xcb_screen_t *m_screen;
-    bool m_isReadable = false; // the root's pixels are 32-bit 0xRRGGBB
+    X11RootReader m_root;
     xcb_window_t m_inputWindow = XCB_NONE;
     xcb_cursor_t m_cursor = XCB_NONE;
     std::unique_ptr<X11LoupeWindow> m_loupeWindow;
     _XCBKeySymbols *m_symbols = nullptr;
 
     Completion m_completion;
-    bool m_isPicking = false;
+    // A pick shows the loupe and takes input only once it holds both grabs: what the person
+    // sees is what their click does.
+    enum class Phase { idle, grabbing, aiming };
+    Phase m_phase = Phase::idle;
+    // The loupe follows the pointer until a button press decides the pick.
+    bool isAiming() const { return m_phase == Phase::aiming && m_pressedButton == 0; }
     QList<SamplerGeometry::ScreenArea> m_areas;
     std::vector<std::unique_ptr<SamplerLoupe>> m_loupes; // one per screen, for its scale
     QPoint m_hotspot;
@@ -84,9 +86,7 @@ private:
     bool m_isLabelReady = false; // the label's fonts are loaded
     bool m_isLabelPending = false;
     QTimer m_liveRefresh;
-    QPointer<QObject> m_spokenValue; // made on the first pick a screen reader follows
-    std::optional<QString> m_unspokenValue; // not yet published
-    QTimer m_spokenRefresh;
+    LoupeSpokenValue m_spokenValue;
     // A pick decided on a button press ends on its release, so the release stays ours too.
     std::optional<SampledColor> m_pressedResult;
     quint8 m_pressedButton = 0;
@@ -94,6 +94,5 @@ private:
     // whoever bound it; a few retries while the pick runs, never afterwards.
     QTimer m_grabRetry;
     int m_grabAttempts = 0;
-    bool m_hasGrab = false;
     bool m_hasFocusFromGrab = false;
 };

@@ -1,0 +1,31 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Sourced by the scripts that run Vantle on a test desktop: a throwaway home for its settings,
+# history and runtime files, and one clean-up for everything the script started.
+#   pids+=(PID)     ended (in reverse order) when the script exits; then the home goes
+#   fail MESSAGE    prints FAIL: MESSAGE, runs the script's on_failure if it has one, exits 1
+# A command that fails outside `fail` (under set -e) says which one it was, at which line.
+source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
+
+pids=()
+test_home_cleanup() {
+    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[$i]}" 2>/dev/null || true; done
+    wait 2>/dev/null || true
+    remove_tree "$home"
+}
+fail() {
+    echo "FAIL: $*" >&2
+    [[ $(type -t on_failure) != function ]] || on_failure || true
+    exit 1
+}
+trap 'status=$?; echo "FAIL: line $LINENO: \"$BASH_COMMAND\" ended with status $status" >&2' ERR
+trap test_home_cleanup EXIT
+
+# Under Wayland the session's runtime folder holds the compositor's socket, so it stays.
+if [[ -n ${WAYLAND_DISPLAY:-} ]]; then
+    home=$(mktemp -d -p "$XDG_RUNTIME_DIR")
+else
+    home=$(mktemp -d)
+    export XDG_RUNTIME_DIR=$home/run
+fi
+export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
+mkdir -p "$XDG_CONFIG_HOME/Vantle" "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"

@@ -92,7 +92,10 @@ HotkeyRecorderView::HotkeyRecorderView(const QString &label, SettingsStore &stor
     m_clearButton->setToolTip(m_clearButton->accessibleName());
     m_clearButton->setCursor(Qt::PointingHandCursor);
     m_clearButton->setIconSize(QSize(14, 14));
-    m_clearButton->setStyleSheet(QStringLiteral("QToolButton { border: none; padding: 0; }"));
+    // Borderless, but reached by Tab it shows where the focus is, as every other control does.
+    m_clearButton->setStyleSheet(QStringLiteral("QToolButton { border: 1px solid transparent; padding: 0; "
+                                                "border-radius: 8px; } "
+                                                "QToolButton:focus { border-color: palette(highlight); }"));
     connect(m_clearButton, &QToolButton::clicked, this, &HotkeyRecorderView::clear);
 
     auto *row = new QHBoxLayout(this);

@@ -182,11 +182,20 @@ void ColorListView::rebuildColors()
     m_countBadge->setText(QString::number(colors.size()));
     m_footer->setExportable(!pinned.isEmpty(), !colors.isEmpty());
 
-    // Keep keyboard focus on the same colour across the rebuild.
+    // Keep keyboard focus on the same colour across the rebuild; when that colour is gone
+    // (deleted), on the row that takes its place, so the next key acts on the list, not on
+    // whatever control comes after it.
     std::optional<QUuid> focusedId;
-    for (ColorRowView *row : std::as_const(m_rows)) {
-        if (row->hasFocus())
+    qsizetype focusedIndex = -1;
+    std::optional<QUuid> tabStopId;
+    for (qsizetype index = 0; index < m_rows.size(); ++index) {
+        ColorRowView *row = m_rows[index];
+        if (row->hasFocus()) {
             focusedId = row->color().id;
+            focusedIndex = index;
+        }
+        if (row->focusPolicy() & Qt::TabFocus)
+            tabStopId = row->color().id;
     }
 
     // The old rows may be in the middle of handling the event that caused this rebuild (a
@@ -199,8 +208,11 @@ void ColorListView::rebuildColors()
 
     m_emptyState->setVisible(colors.isEmpty());
     m_scroll->setVisible(!colors.isEmpty());
-    if (colors.isEmpty())
+    if (colors.isEmpty()) {
+        if (focusedId)
+            m_pickButton->setFocus(Qt::OtherFocusReason);
         return;
+    }
 
     const ColorFormat format = SettingsViewModel::currentFormat(m_store);
     auto *content = new QWidget;
@@ -230,12 +242,29 @@ void ColorListView::rebuildColors()
     // Tab goes from "Pick Color" through the colours to the footer, in the order shown; the
     // rows, made after the footer, would come last otherwise.
     QWidget *previous = m_pickButton;
+    ColorRowView *focused = nullptr;
+    ColorRowView *tabStop = m_rows.constFirst();
     for (ColorRowView *row : std::as_const(m_rows)) {
         setTabOrder(previous, row);
         previous = row;
         if (focusedId && row->color().id == *focusedId)
-            row->setFocus(Qt::OtherFocusReason);
+            focused = row;
+        if (tabStopId && row->color().id == *tabStopId)
+            tabStop = row;
     }
+    if (!focused && focusedIndex >= 0)
+        focused = m_rows.at(qMin(focusedIndex, m_rows.size() - 1));
+    makeTabStop(focused ? focused : tabStop);
+    if (focused) {
+        focused->setFocus(Qt::OtherFocusReason);
+        m_scroll->ensureWidgetVisible(focused, 0, 4);
+    }
+}
+
+void ColorListView::makeTabStop(ColorRowView *tabStop)
+{
+    for (ColorRowView *row : std::as_const(m_rows))
+        row->setFocusPolicy(row == tabStop ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void ColorListView::setHeightLimit(int heightLimit)
@@ -382,10 +411,35 @@ void ColorListView::fadeIn(QWidget *screen)
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
-void ColorListView::moveRowFocus(ColorRowView *from, int step)
+void ColorListView::moveRowFocus(ColorRowView *from, int key)
 {
-    const qsizetype index = m_rows.indexOf(from) + step;
-    if (index < 0 || index >= m_rows.size())
+    // The arrows go one row, Page Up and Down as many as the list shows, Home and End to the
+    // ends; the row reached scrolls into view.
+    const qsizetype at = m_rows.indexOf(from);
+    const qsizetype page = qMax(1, m_scroll->viewport()->height() / qMax(1, from->height()));
+    const qsizetype last = m_rows.size() - 1;
+    qsizetype index = at;
+    switch (key) {
+    case Qt::Key_Up:
+        index = at - 1;
+        break;
+    case Qt::Key_Down:
+        index = at + 1;
+        break;
+    case Qt::Key_PageUp:
+        index = qMax<qsizetype>(0, at - page);
+        break;
+    case Qt::Key_PageDown:
+        index = qMin(last, at + page);
+        break;
+    case Qt::Key_Home:
+        index = 0;
+        break;
+    case Qt::Key_End:
+        index = last;
+        break;
+    }
+    if (index < 0 || index > last || index == at)
         return;
     ColorRowView *to = m_rows[index];
     to->setFocus(Qt::TabFocusReason);
@@ -403,11 +457,16 @@ void ColorListView::focusInEvent(QFocusEvent *event)
 
 bool ColorListView::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress) {
-        auto *row = qobject_cast<ColorRowView *>(watched);
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (row && (key == Qt::Key_Up || key == Qt::Key_Down)) {
-            moveRowFocus(row, key == Qt::Key_Down ? 1 : -1);
+    auto *row = qobject_cast<ColorRowView *>(watched);
+    if (row && event->type() == QEvent::FocusIn)
+        makeTabStop(row);
+    if (row && event->type() == QEvent::KeyPress) {
+        const auto *press = static_cast<QKeyEvent *>(event);
+        static constexpr int walkingKeys[]
+            = { Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End };
+        const bool isPlain = (press->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+        if (isPlain && std::ranges::find(walkingKeys, press->key()) != std::end(walkingKeys)) {
+            moveRowFocus(row, press->key());
             return true;
         }
     }

@@ -77,7 +77,9 @@ private:
     // Where the keyboard focus goes back to after a screen closes: the row it was opened
     // from, else the pick button.
     void refocusRow(const QUuid &id, Qt::FocusReason reason);
-    void moveRowFocus(ColorRowView *from, int step);
+    void moveRowFocus(ColorRowView *from, int key);
+    // The list is one Tab stop: the row that had the focus last (the first at the start).
+    void makeTabStop(ColorRowView *row);
 
     ColorListViewModel &m_viewModel;
     SettingsStore &m_store;

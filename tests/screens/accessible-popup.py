@@ -41,8 +41,8 @@ TREE = [  # what the open popup shows
     ("push button", "Export colors"),
     ("push button", "Quit vantle"),
 ]
-TAB_ORDER = [  # from Pick Color on, what each Tab press reaches
-    *[("list item", row) for row in ROWS],
+TAB_ORDER = [  # from Pick Color on, what each Tab press reaches: the list is one stop
+    ("list item", ROWS[0]),
     ("push button", "Settings"),
     ("push button", "Export colors"),
     ("push button", "Quit vantle"),
@@ -104,9 +104,10 @@ with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": j
         s.key("Tab")
         s.expect_focus(f"Tab reaches {role} '{name}'", role=role, name=name)
     s.key("shift+Tab", "shift+Tab", "shift+Tab")
-    s.expect_focus("Shift+Tab back to the last row", role="list item", name=ROWS[-1])
-    s.key("Up", "Up")
-    s.expect_focus("Up to the first row", role="list item", name=ROWS[0])
+    s.expect_focus("Shift+Tab back to the list's row", role="list item", name=ROWS[0])
+    for keys, row in [(["End"], -1), (["Home"], 0), (["Down", "Down"], -1), (["Up", "Up"], 0)]:
+        s.key(*keys)
+        s.expect_focus(f"{'+'.join(keys)} walks to row {row}", role="list item", name=ROWS[row])
     s.check("one highlight: only one thing reads as focused",
             len([a for a in s.walk() if a.getState().contains(pyatspi.STATE_FOCUSED)]) == 1)
 
@@ -126,6 +127,11 @@ with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": j
     s.expect_tree("rename sheet", [("dialog", "Rename Color"), ("push button", "Cancel"), ("push button", "Save")])
     s.key("Escape")
     s.expect_focus("Escape from the sheet back to the row", role="list item", name=SUNSET)
+
+    # Deleting a row leaves the focus on the row that takes its place.
+    s.key("Down", "Menu", "Down", "Down", "Down", "Return")
+    s.expect_focus("after Delete the focus is on the next row", role="list item", name=ROWS[2])
+    s.key("Up")
 
     # Export: a named menu on the first entry that can run; Escape back to the button.
     s.key("shift+Tab")

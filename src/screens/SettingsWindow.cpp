@@ -45,13 +45,15 @@ void SettingsWindow::open()
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     QRect room = screen ? screen->availableGeometry() : QRect(QPoint(0, 0), contentSize);
-    // The window manager adds a title bar and borders around the content: room for them, so
-    // the title bar is never placed above the screen's top edge.
+    room.adjust(4, 4, -4, -4);
+    // The window manager adds a title bar above the content: the window with its frame fits the
+    // room, placed by the frame's corner (move()), so the title bar is never above the screen's
+    // top edge nor the window's foot below its bottom.
     const int titleBar = m_view->style()->pixelMetric(QStyle::PM_TitleBarHeight) + 8;
-    room.adjust(4, titleBar, -4, -4);
-    const QSize size = contentSize.boundedTo(room.size());
+    const QSize size = contentSize.boundedTo(room.size() - QSize(0, titleBar));
     m_view->setFixedSize(size);
-    m_view->setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, room));
+    m_view->move(
+        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size + QSize(0, titleBar), room).topLeft());
 
     m_view->show();
     m_view->raise();

@@ -84,9 +84,12 @@ if ! wait_for 10 icon_shows FF6B36; then
 fi
 
 # A click on the tray icon opens the popup; a second one closes it.
-read -r icon_w icon_h icon_x icon_y < <(xwininfo -id "$(tray_icon)" | awk '
-    /Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4} /Width:/ {w=$2} /Height:/ {h=$2}
-    END {print w, h, x, y}')
+icon_place() { # icon_place: "width height x y" of the tray icon
+    xwininfo -id "$(tray_icon)" | awk '
+        /Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4} /Width:/ {w=$2} /Height:/ {h=$2}
+        END {print w, h, x, y}'
+}
+read -r icon_w icon_h icon_x icon_y < <(icon_place)
 xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
 wait_for 10 popup_shown || fail "a click on the tray icon did not open the popup"
 shot popup
@@ -128,4 +131,32 @@ pid=$! && pids+=("$pid")
 wait_for 20 tray_icon || fail "no tray icon at the second start"
 kill -TERM "$pid"
 wait "$pid" || fail "Vantle ended with status $? on SIGTERM"
+
+# At login the panel may come up after Vantle gave up waiting for it: the icon docks when it
+# does, and the no-tray window goes. At scale 2 on this small screen the popup opens below the
+# panel, and the settings window fits the screen with its title bar on it.
+kill "$VANTLE_TRAY_PID"
+wait_for 10 eval '! tray_icon' || fail "the test's tray did not go"
+export QT_SCALE_FACTOR=2
+"$vantle" 2>>"$home/vantle.log" &
+pid=$! && pids+=("$pid")
+wait_for 20 popup_shown || fail "without a tray Vantle showed no window of its own"
+trayer --edge top --align right --widthtype request --height 24 --SetDockType true --SetPartialStrut true \
+    >/dev/null 2>&1 &
+pids+=($!)
+wait_for 10 tray_icon || fail "the icon did not dock in a tray that came after Vantle"
+wait_for 10 popup_hidden || fail "the no-tray window stayed after the icon docked"
+xdotool key --delay 80 alt+shift+x
+read -r icon_w icon_h icon_x icon_y < <(icon_place)
+wait_for 10 popup_below_icon || fail "at scale 2 the popup ($(popup_geometry)) is not below the tray icon (y $icon_y)"
+read -r popup_x popup_y _ popup_h < <(popup_geometry)
+xdotool mousemove $((popup_x + $(scaled 20))) $((popup_y + popup_h - $(scaled 18))) click 1
+wait_for 10 xdotool search --onlyvisible --name '^Vantle Settings$' || fail "the popup's gear opened no settings"
+settings_fit() {
+    eval "$(xdotool getwindowgeometry --shell "$(xdotool search --onlyvisible --name '^Vantle Settings$' | head -n1)")"
+    ((Y >= 20 && Y + HEIGHT <= screen_h))
+}
+wait_for 5 settings_fit || fail "the settings window runs off the screen: $(xdotool search --onlyvisible \
+    --name '^Vantle Settings$' | head -n1 | xargs xdotool getwindowgeometry | tr "\n" " ")"
+shot small-screen
 echo "PASS"

@@ -31,6 +31,9 @@ fi
 if [[ -z "${VANTLE_IN_DBUS:-}" ]]; then
     # Re-run under a private session bus that ends with us.
     export VANTLE_IN_DBUS=1
+    # A plain X11 desktop: the portal frontend that reading the appearance activates finds no
+    # backend, rather than starting GNOME's or KDE's (installed for their own tests) to fail here.
+    export XDG_DESKTOP_PORTAL_DIR=/nonexistent/vantle-x11-test
     args=(--size "${size%x24}")
     [[ $tray == 0 ]] && args+=(--no-tray)
     [[ $wm == 0 ]] && args+=(--no-wm)

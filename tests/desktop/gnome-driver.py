@@ -2,14 +2,15 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # A person at the GNOME desktop, for tests/desktop/gnome-session.sh: keys and the pointer through
 # mutter's RemoteDesktop API (absolute motion through a linked ScreenCast stream), the screen and
-# the windows through the shell (--unsafe-mode). `serve SOCKET` holds the one input session the
-# seat's virtual devices belong to; every other verb is a client of it (verbs: see the script).
+# the windows through the shell (--unsafe-mode), a terminal to paste into (foot). `serve SOCKET`
+# holds the one input session the seat's virtual devices belong to; every other verb is a client
+# of it (verbs: the top of tests/platform/desktop-checks.sh).
 import json, os, socket, subprocess, sys, time
 
 KEYSYMS = {"alt": 0xFFE9, "shift": 0xFFE1, "ctrl": 0xFFE3, "super": 0xFFEB, "escape": 0xFF1B, "return": 0xFF0D}
 # X key codes of the US layout's letters and the X modifier masks, to ask the shell for a binding.
 ROWS, MASKS = {"qwertyuiop": 24, "asdfghjkl": 38, "zxcvbnm": 52}, {"shift": 1, "ctrl": 4, "alt": 8, "super": 64}
-WINDOW = "(w => { const r = w.get_frame_rect(); return [r.x, r.y, r.width, r.height, w.get_wm_class(), w.get_title()].join(' '); })"
+WINDOW = "(w => { const r = w.get_frame_rect(); return [r.x, r.y, r.width, r.height, w.skip_taskbar, w.get_wm_class(), w.get_title()].join(' '); })"
 SCRIPTS = {  # verb: the shell's answer, in JavaScript; a verb whose answer is "false" fails
     "focused": "(w => w ? %s(w) : '')(global.display.focus_window)" % WINDOW,
     "windows": "global.get_window_actors().map(a => a.meta_window).filter(w => w.showing_on_its_workspace())"
@@ -59,7 +60,8 @@ def serve(path):
         "key": lambda combo: press(lambda k, down: remote.NotifyKeyboardKeysym(dbus.UInt32(k), down),
                                    [KEYSYMS.get(k.lower()) or ord(k.lower()) for k in combo.split("+")]),
         "move": lambda x, y: remote.NotifyPointerMotionAbsolute(stream, float(x), float(y)),
-        "click": lambda: press(remote.NotifyPointerButton, [272]),
+        # The shell's picker answers for where the pointer is some 50 ms after it moved.
+        "click": lambda: time.sleep(0.05) or press(remote.NotifyPointerButton, [272]),
         "screenshot": lambda file: shot.Screenshot(False, False, os.path.abspath(file))[0] or 1 / 0,
         "shortcut-bound": bound,
         "background": lambda color: subprocess.run(
@@ -94,6 +96,8 @@ def serve(path):
 
 if sys.argv[1] == "serve":
     serve(sys.argv[2])
+if sys.argv[1] == "paste-target":  # a terminal whose pastes (Ctrl+Shift+V, Return) append to the file
+    os.execvp("foot", ["foot", "-a", "paste-target", "sh", "-c", 'cat >> "$0"', sys.argv[2]])
 with socket.socket(socket.AF_UNIX) as client:
     client.connect(os.environ["GNOME_DRIVER_SOCKET"])
     client.sendall((json.dumps(sys.argv[1:]) + "\n").encode())

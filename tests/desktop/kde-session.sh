@@ -9,7 +9,7 @@
 #
 # Exports WAYLAND_DISPLAY, DISPLAY, XDG_RUNTIME_DIR, DBUS_SESSION_BUS_ADDRESS,
 # QT_QPA_PLATFORM=wayland, XDG_CURRENT_DESKTOP=KDE, VANTLE_TEST_SESSION=1, and DESKTOP_DRIVER, a
-# person at the desktop (tests/desktop/kde-driver.sh; verbs: tests/platform/desktop-checks.sh).
+# person at the desktop (tests/desktop/kde-driver.py; verbs: tests/platform/desktop-checks.sh).
 # Exits 77 (CTest's "skipped") when KWin, the KDE portal or the driver are missing, or when KWin
 # cannot start on this machine.
 set -euo pipefail
@@ -59,7 +59,7 @@ dbus-update-activation-environment WAYLAND_DISPLAY XDG_CURRENT_DESKTOP XDG_SESSI
 # Plasma's tray watcher, then the KDE portal behind the frontend, as Plasma starts them; the
 # frontend reads only kde.portal, so no other desktop's portal stands in. The driver tells
 # KWin's picker on screen from the calls logged here.
-export DESKTOP_DRIVER=$here/kde-driver.sh
+export DESKTOP_DRIVER=$here/kde-driver.py
 dbus-monitor --session "interface='org.kde.kwin.ColorPicker'" "type='method_return'" "type='error'" \
     >"$log/pickers.log" 2>&1 &
 pids+=($!)

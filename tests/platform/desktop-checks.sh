@@ -61,9 +61,7 @@ import sys, dbus
 bus = dbus.SessionBus()
 prop = lambda obj, iface, key: obj.Get(iface, key, dbus_interface="org.freedesktop.DBus.Properties")
 daemon = dbus.Interface(bus.get_object("org.freedesktop.DBus", "/"), "org.freedesktop.DBus")
-def place(entry):  # bus name and object path: "name@/path", "name/path" or the bus name alone
-    name, _, path = (entry if "@" in entry else entry.replace("/", "@/", 1)).partition("@")
-    return name, path or "/StatusNotifierItem"
+place = lambda entry: (entry.partition("@")[0], entry.partition("@")[2] or "/StatusNotifierItem")
 def owner(name):
     try:
         return daemon.GetConnectionUnixProcessID(name)
@@ -164,17 +162,18 @@ popup() {
     drive key alt+shift+x
     wait_for 10 popup_closed && focused_on paste-target || fail "popup: Alt+Shift+X left it open"
     read -r x y w h _ <<<"$(drive tray-icons | head -n 1) 1260 780 20 20"
-    drive move $((x + w / 2)) $((y + h / 2))
-    tray activate $((x + w / 2)) $((y + h / 2))
+    x=$((x + w / 2)) y=$((y + h / 2))
+    drive move $x $y
+    tray activate $x $y
     wait_for 10 popup_open || fail "popup: a click on the tray icon showed no popup"
     read -r px py pw ph skips _ <<<"$(popup_open)"
-    awk -v x=$((x + w / 2)) -v y=$((y + h / 2)) -v px="$px" -v py="$py" -v pw="$pw" -v ph="$ph" 'BEGIN {
+    awk -v x=$x -v y=$y -v px="$px" -v py="$py" -v pw="$pw" -v ph="$ph" 'BEGIN {
         dx = x < px ? px - x : x > px + pw ? x - px - pw : 0; dy = y < py ? py - y : y > py + ph ? y - py - ph : 0
         exit !(dx < 80 && dy < 80 && px >= 0 && py >= 0 && px + pw <= 1280 && py + ph <= 800) }' ||
-        fail "popup: at $px,$py ${pw}x$ph, not by the tray icon at $((x + w / 2)),$((y + h / 2))"
+        fail "popup: at $px,$py ${pw}x$ph, not by the tray icon at $x,$y"
     [[ $skips == true ]] || fail "popup: it shows in the task bar"
     drive screenshot "$shots/popup-tray.png"
-    tray activate $((x + w / 2)) $((y + h / 2))
+    tray activate $x $y
     wait_for 10 popup_closed || fail "popup: a second click on the tray icon left it open"
     echo "ok: the popup by its shortcut and by the tray"
 }

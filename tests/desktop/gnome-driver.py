@@ -2,10 +2,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # A person at the GNOME desktop, for tests/desktop/gnome-session.sh: keys and the pointer through
 # mutter's RemoteDesktop API (absolute motion through a linked ScreenCast stream), the screen and
-# the windows through the shell (--unsafe-mode), a terminal to paste into (foot). `serve SOCKET`
+# the windows through the shell (--unsafe-mode). `serve SOCKET`
 # holds the one input session the seat's virtual devices belong to; every other verb is a client
 # of it (verbs: the top of tests/platform/desktop-checks.sh).
-import json, os, socket, subprocess, sys, time
+import json, os, socket, sys, time
 
 KEYSYMS = {"alt": 0xFFE9, "shift": 0xFFE1, "ctrl": 0xFFE3, "super": 0xFFEB, "escape": 0xFF1B, "return": 0xFF0D}
 # X key codes of the US layout's letters and the X modifier masks, to ask the shell for a binding.
@@ -64,8 +64,7 @@ def serve(path):
         "click": lambda: time.sleep(0.05) or press(remote.NotifyPointerButton, [272]),
         "screenshot": lambda file: shot.Screenshot(False, False, os.path.abspath(file))[0] or 1 / 0,
         "shortcut-bound": bound,
-        "background": lambda color: subprocess.run(
-            ["gsettings", "set", "org.gnome.desktop.background", "primary-color", color], check=True),
+        "background": lambda color: obj("org.vantle.PasteTarget", "/").SetColor(color),  # it fills the screen
         "eval": evaluate,
         **{verb: lambda script=script: evaluate(script) for verb, script in SCRIPTS.items()},
     }
@@ -96,8 +95,8 @@ def serve(path):
 
 if sys.argv[1] == "serve":
     serve(sys.argv[2])
-if sys.argv[1] == "paste-target":  # a terminal whose pastes (Ctrl+Shift+V, Return) append to the file
-    os.execvp("foot", ["foot", "-a", "paste-target", "sh", "-c", 'cat >> "$0"', sys.argv[2]])
+if sys.argv[1] == "paste-target":
+    os.execv(os.path.join(os.path.dirname(os.path.abspath(__file__)), "paste-target.py"), sys.argv[1:])
 with socket.socket(socket.AF_UNIX) as client:
     client.connect(os.environ["GNOME_DRIVER_SOCKET"])
     client.sendall((json.dumps(sys.argv[1:]) + "\n").encode())

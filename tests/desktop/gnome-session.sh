@@ -47,15 +47,13 @@ export DBUS_SYSTEM_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/system_bus"
 dbus-daemon --session --nofork --address="$DBUS_SYSTEM_BUS_ADDRESS" >/dev/null 2>&1 &
 pids+=($!)
 
-# The desktop as the checks need it: the tray extension on, no hot corner, no banners, a plain
-# background; only GNOME's own portals, even where another desktop's are installed.
+# The desktop as the checks need it: the tray extension on, no hot corner, no banners; only
+# GNOME's own portals, even where another desktop's are installed.
 while read -r schema key value; do gsettings set "$schema" "$key" "$value"; done <<'EOF'
 org.gnome.shell enabled-extensions ['ubuntu-appindicators@ubuntu.com']
 org.gnome.shell welcome-dialog-last-shown-version '999'
 org.gnome.desktop.interface enable-hot-corners false
 org.gnome.desktop.notifications show-banners false
-org.gnome.desktop.background picture-options none
-org.gnome.desktop.background primary-color '#202020'
 EOF
 cp /usr/share/xdg-desktop-portal/portals/{gnome,gtk,gnome-shell}.portal "$XDG_RUNTIME_DIR/portals/" || true
 export XDG_DESKTOP_PORTAL_DIR=$XDG_RUNTIME_DIR/portals

@@ -1,10 +1,10 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 # A person at the KDE Plasma desktop of tests/desktop/kde-session.sh (verbs: the top of
-# tests/platform/desktop-checks.sh): keys, the pointer and the paste target through
-# $KDE_DESKTOP_DRIVER (KWin's fake-input protocol needs a Wayland client), the screen and the
-# windows through KWin's D-Bus API and scripts; `tray-watcher` stands in for the tray watcher of
-# the Plasma shell this session does not run.
+# tests/platform/desktop-checks.sh): keys and the pointer through $KDE_DESKTOP_DRIVER (KWin's
+# fake-input protocol needs a Wayland client), the screen and the windows through KWin's D-Bus
+# API and scripts; `tray-watcher` stands in for the tray watcher of the Plasma shell this
+# session does not run.
 import os, re, subprocess, sys, tempfile
 import dbus, dbus.service
 from dbus.mainloop.glib import DBusGMainLoop
@@ -16,6 +16,9 @@ call = lambda name, path, iface, method, *args, **kw: bus.get_object(name, path)
 kwin = lambda path, iface, method, *args, **kw: call("org.kde.KWin", path, iface, method, *args, **kw)
 WINDOW = "w => [w.x, w.y, w.width, w.height, w.skipTaskbar, w.resourceClass, w.caption].join(' ')"
 WATCHER = "org.kde.StatusNotifierWatcher"
+# Evdev codes of the keys the checks press, on KWin's default US layout (X key codes less 8).
+KEYS = {"alt": 56, "shift": 42, "ctrl": 29, "escape": 1, "return": 28,
+        **{key: start + row.index(key) for row, start in {"qwertyuiop": 16, "asdfghjkl": 30, "zxcvbnm": 44}.items() for key in row}}
 
 
 def windows(which):  # a KWin script calls back with one line per window
@@ -50,8 +53,8 @@ def screenshot(file):  # KWin writes the pixels to a pipe: 32-bit BGRA rows
     os.close(write)
     with os.fdopen(read, "rb") as pixels:
         size = "%dx%d" % (shot["stride"] // 4, shot["height"])
-        subprocess.run(["convert", "-size", size, "-depth", "8", "bgra:-", "-crop", "%dx%d+0+0" % (shot["width"], shot["height"]),
-                        file], stdin=pixels, check=True)
+        crop = "%dx%d+0+0" % (shot["width"], shot["height"])
+        subprocess.run(["convert", "-size", size, "-depth", "8", "bgra:-", "-crop", crop, file], stdin=pixels, check=True)
 
 
 def picker_shown():  # KWin's picker is up from the portal's call to org.kde.kwin.ColorPicker until its answer
@@ -112,6 +115,10 @@ VERBS = {
     "background": lambda color: call("org.vantle.PasteTarget", "/", "org.vantle.PasteTarget", "SetColor", color),
     "tray-watcher": watch_tray,
 }
-if sys.argv[1] not in VERBS:
+if sys.argv[1] == "paste-target":
+    os.execv(os.path.join(os.path.dirname(os.path.abspath(__file__)), "paste-target.py"), sys.argv[1:])
+if sys.argv[1] == "key":
+    sys.argv[2:] = [str(KEYS[key.lower()]) for key in sys.argv[2].split("+")]
+if sys.argv[1] not in VERBS:  # key, move, click
     os.execv(os.environ["KDE_DESKTOP_DRIVER"], sys.argv)
 sys.exit(0 if VERBS[sys.argv[1]](*sys.argv[2:]) is not False else 1)

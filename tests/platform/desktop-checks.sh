@@ -21,9 +21,9 @@
 #   tray-icons              "X Y W H" of each tray icon drawn on the desktop's panel, if it has one
 #   picker-shown            the desktop's colour picker is on screen
 #   shortcut-bound COMBO    the desktop has taken the combination
-#   background COLOR        "#RRGGBB" under the pointer wherever the checks pick
-#   paste-target FILE       runs a Wayland program that takes the keyboard and appends what
-#                           Ctrl+Shift+V pastes, and a newline at Return, to FILE
+#   paste-target FILE       runs tests/desktop/paste-target.py: a Wayland program that fills the
+#                           screen, takes the keyboard and appends each paste to FILE
+#   background COLOR        paints the paste target "#RRGGBB", the colour the checks pick
 set -euo pipefail
 vantle=${VANTLE_BIN:?}
 drive() { "${DESKTOP_DRIVER:?}" "$@"; }
@@ -43,7 +43,6 @@ has_picked() { [[ $(history) == *"$1"* ]]; }
 paste() { # what the paste target receives at Ctrl+Shift+V
     : >"$work/pasted"
     drive key ctrl+shift+v
-    drive key Return
     wait_for 5 test -s "$work/pasted"
     cat "$work/pasted"
 }
@@ -62,11 +61,7 @@ bus = dbus.SessionBus()
 prop = lambda obj, iface, key: obj.Get(iface, key, dbus_interface="org.freedesktop.DBus.Properties")
 daemon = dbus.Interface(bus.get_object("org.freedesktop.DBus", "/"), "org.freedesktop.DBus")
 place = lambda entry: (entry.partition("@")[0], entry.partition("@")[2] or "/StatusNotifierItem")
-def owner(name):
-    try:
-        return daemon.GetConnectionUnixProcessID(name)
-    except dbus.DBusException:  # a previous run's item
-        return None
+owner = lambda name: daemon.NameHasOwner(name) and daemon.GetConnectionUnixProcessID(name)  # or a past run's
 watcher = bus.get_object("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher")
 entries = prop(watcher, "org.kde.StatusNotifierWatcher", "RegisteredStatusNotifierItems")
 name, path = next(place(e) for e in entries if owner(place(e)[0]) == int(sys.argv[1]))
@@ -107,15 +102,18 @@ failures=()
 check() { ("$@") || failures+=("$1 ${2:-}"); }
 
 # Where the desktop draws its panel, a good share of the icon's pixels are far from the
-# panel's colour (the icon's own corner).
-tray_visible() {
+# panel's colour (the icon's own corner), once the panel has faded it in.
+contrast() {
     drive screenshot "$shots/panel.png"
+    convert "$shots/panel.png" -crop "${w}x${h}+${x}+${y}" +repage -colorspace Gray \
+        -fx 'abs(u-p{0,0}) > 0.3' -format '%[fx:mean]' info:
+}
+stands_out() { awk -v c="$(contrast)" 'BEGIN {exit !(c > 0.03)}'; }
+tray_visible() {
     read -r x y w h <<<"$(drive tray-icons | head -n 1)"
     [[ -n ${h:-} ]] || { echo "ok: the tray icon has a picture (no panel drawn here)"; return 0; }
-    contrast=$(convert "$shots/panel.png" -crop "${w}x${h}+${x}+${y}" +repage -colorspace Gray \
-        -fx 'abs(u-p{0,0}) > 0.3' -format '%[fx:mean]' info:)
-    awk -v c="$contrast" 'BEGIN {exit !(c > 0.03)}' || fail "the tray icon is near-invisible ($contrast of it stands out)"
-    echo "ok: the tray icon stands out from the panel ($contrast of its pixels)"
+    wait_for 10 stands_out || fail "the tray icon is near-invisible ($(contrast) of it stands out)"
+    echo "ok: the tray icon stands out from the panel ($(contrast) of its pixels)"
 }
 # shortcut COMBO: pressed once the desktop has taken it, as a person presses it once it works.
 shortcut() { wait_for 30 drive shortcut-bound "$1" && drive key "$1" || fail "the desktop never took $1"; }

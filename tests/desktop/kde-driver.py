@@ -12,13 +12,20 @@ from gi.repository import GLib
 
 DBusGMainLoop(set_as_default=True)
 bus = dbus.SessionBus()
-call = lambda name, path, iface, method, *args, **kw: bus.get_object(name, path).get_dbus_method(method, iface)(*args, **kw)
-kwin = lambda path, iface, method, *args, **kw: call("org.kde.KWin", path, iface, method, *args, **kw)
 WINDOW = "w => [w.x, w.y, w.width, w.height, w.skipTaskbar, w.resourceClass, w.caption].join(' ')"
 WATCHER = "org.kde.StatusNotifierWatcher"
 # Evdev codes of the keys the checks press, on KWin's default US layout (X key codes less 8).
 KEYS = {"alt": 56, "shift": 42, "ctrl": 29, "escape": 1, "return": 28,
-        **{key: start + row.index(key) for row, start in {"qwertyuiop": 16, "asdfghjkl": 30, "zxcvbnm": 44}.items() for key in row}}
+        **{key: start + row.index(key)
+           for row, start in {"qwertyuiop": 16, "asdfghjkl": 30, "zxcvbnm": 44}.items() for key in row}}
+
+
+def call(name, path, iface, method, *args, **kw):
+    return bus.get_object(name, path).get_dbus_method(method, iface)(*args, **kw)
+
+
+def kwin(path, iface, method, *args, **kw):
+    return call("org.kde.KWin", path, iface, method, *args, **kw)
 
 
 def windows(which):  # a KWin script calls back with one line per window
@@ -32,8 +39,8 @@ def windows(which):  # a KWin script calls back with one line per window
 
     Probe(bus, "/")
     with tempfile.NamedTemporaryFile("w", suffix=".js") as script:
-        script.write("callDBus('%s', '/', 'org.vantle.DesktopDriver', 'windows', %s.filter(w => w).map(%s).join('\\n'));"
-                     % (bus.get_unique_name(), which, WINDOW))
+        script.write("callDBus('%s', '/', 'org.vantle.DesktopDriver', 'windows', %s.filter(w => w)"
+                     ".map(%s).join('\\n'));" % (bus.get_unique_name(), which, WINDOW))
         script.flush()
         scripting, plugin = ("/Scripting", "org.kde.kwin.Scripting"), "vantle_windows_%d" % os.getpid()
         kwin(*scripting, "loadScript", script.name, plugin, signature="ss")
@@ -54,7 +61,8 @@ def screenshot(file):  # KWin writes the pixels to a pipe: 32-bit BGRA rows
     with os.fdopen(read, "rb") as pixels:
         size = "%dx%d" % (shot["stride"] // 4, shot["height"])
         crop = "%dx%d+0+0" % (shot["width"], shot["height"])
-        subprocess.run(["convert", "-size", size, "-depth", "8", "bgra:-", "-crop", crop, file], stdin=pixels, check=True)
+        subprocess.run(["convert", "-size", size, "-depth", "8", "bgra:-", "-crop", crop, file],
+                       stdin=pixels, check=True)
 
 
 def picker_shown():  # KWin's picker is up from the portal's call to org.kde.kwin.ColorPicker until its answer
@@ -63,7 +71,7 @@ def picker_shown():  # KWin's picker is up from the portal's call to org.kde.kwi
         fields = dict(re.findall(r"(\w+)=([^\s;]*)", line))
         if line.startswith("method call") and line.rstrip().endswith("member=pick"):
             waiting = (fields["sender"], fields["serial"])
-        elif line.startswith(("method return", "error")) and (fields.get("destination"), fields.get("reply_serial")) == waiting:
+        elif (fields.get("destination"), fields.get("reply_serial")) == waiting:  # its return or error
             waiting = None
     return waiting is not None
 

@@ -182,7 +182,7 @@ restarted() {
     (($1 == 0)) || fail "restart: Vantle ended with status $1 on SIGTERM"
     wait_for 30 tray registered || fail "restart: the tray icon never came back"
     pick restart '#30C0C0' wait_for 30 press_shows_picker alt+shift+c
-    (($(binds) == binds_before)) || fail "restart: bound the shortcuts again ($binds_before binds before, $(binds) after)"
+    (($(binds) == binds_before)) || fail "restart: bound the shortcuts again ($binds_before binds, now $(binds))"
 }
 
 check tray_visible

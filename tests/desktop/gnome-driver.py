@@ -2,14 +2,15 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # A person at the GNOME desktop, for tests/desktop/gnome-session.sh: keys and the pointer through
 # mutter's RemoteDesktop API (absolute motion through a linked ScreenCast stream), the screen and
-# the windows through the shell (--unsafe-mode). `serve SOCKET` holds the one input session the
-# seat's virtual devices belong to; every other verb is a client of it (verbs: see the script).
-import json, os, socket, subprocess, sys, time
+# the windows through the shell (--unsafe-mode). `serve SOCKET`
+# holds the one input session the seat's virtual devices belong to; every other verb is a client
+# of it (verbs: the top of tests/platform/desktop-checks.sh).
+import json, os, socket, sys, time
 
 KEYSYMS = {"alt": 0xFFE9, "shift": 0xFFE1, "ctrl": 0xFFE3, "super": 0xFFEB, "escape": 0xFF1B, "return": 0xFF0D}
 # X key codes of the US layout's letters and the X modifier masks, to ask the shell for a binding.
 ROWS, MASKS = {"qwertyuiop": 24, "asdfghjkl": 38, "zxcvbnm": 52}, {"shift": 1, "ctrl": 4, "alt": 8, "super": 64}
-WINDOW = "(w => { const r = w.get_frame_rect(); return [r.x, r.y, r.width, r.height, w.get_wm_class(), w.get_title()].join(' '); })"
+WINDOW = "(w => { const r = w.get_frame_rect(); return [r.x, r.y, r.width, r.height, w.skip_taskbar, w.get_wm_class(), w.get_title()].join(' '); })"
 SCRIPTS = {  # verb: the shell's answer, in JavaScript; a verb whose answer is "false" fails
     "focused": "(w => w ? %s(w) : '')(global.display.focus_window)" % WINDOW,
     "windows": "global.get_window_actors().map(a => a.meta_window).filter(w => w.showing_on_its_workspace())"
@@ -59,11 +60,11 @@ def serve(path):
         "key": lambda combo: press(lambda k, down: remote.NotifyKeyboardKeysym(dbus.UInt32(k), down),
                                    [KEYSYMS.get(k.lower()) or ord(k.lower()) for k in combo.split("+")]),
         "move": lambda x, y: remote.NotifyPointerMotionAbsolute(stream, float(x), float(y)),
-        "click": lambda: press(remote.NotifyPointerButton, [272]),
+        # The shell's picker answers for where the pointer is some 50 ms after it moved.
+        "click": lambda: time.sleep(0.05) or press(remote.NotifyPointerButton, [272]),
         "screenshot": lambda file: shot.Screenshot(False, False, os.path.abspath(file))[0] or 1 / 0,
         "shortcut-bound": bound,
-        "background": lambda color: subprocess.run(
-            ["gsettings", "set", "org.gnome.desktop.background", "primary-color", color], check=True),
+        "background": lambda color: obj("org.vantle.PasteTarget", "/").SetColor(color),  # it fills the screen
         "eval": evaluate,
         **{verb: lambda script=script: evaluate(script) for verb, script in SCRIPTS.items()},
     }
@@ -94,6 +95,8 @@ def serve(path):
 
 if sys.argv[1] == "serve":
     serve(sys.argv[2])
+if sys.argv[1] == "paste-target":
+    os.execv(os.path.join(os.path.dirname(os.path.abspath(__file__)), "paste-target.py"), sys.argv[1:])
 with socket.socket(socket.AF_UNIX) as client:
     client.connect(os.environ["GNOME_DRIVER_SOCKET"])
     client.sendall((json.dumps(sys.argv[1:]) + "\n").encode())

@@ -7,19 +7,9 @@
 #   gnome-session.sh COMMAND [ARGS...]
 #
 # Exports WAYLAND_DISPLAY, DISPLAY, XAUTHORITY, XDG_RUNTIME_DIR, HOME, DBUS_SESSION_BUS_ADDRESS,
-# XDG_SESSION_TYPE=wayland, XDG_CURRENT_DESKTOP=GNOME, VANTLE_TEST_SESSION=1, DESKTOP_NAME=gnome
-# and DESKTOP_DRIVER, a program that acts as a person at the desktop (every desktop's session
-# script offers the same verbs; each exits non-zero when it could not act):
-#   $DESKTOP_DRIVER key COMBO         press and release, xdotool style: alt+shift+c, ctrl+shift+v, Escape
-#   $DESKTOP_DRIVER move X Y          the pointer to X,Y in desktop pixels
-#   $DESKTOP_DRIVER click             the left button
-#   $DESKTOP_DRIVER screenshot FILE   the whole desktop as a PNG
-#   $DESKTOP_DRIVER focused           "X Y W H APP TITLE" of the window with the keyboard, or nothing
-#   $DESKTOP_DRIVER windows           "X Y W H APP TITLE" of each window on screen, one a line
-#   $DESKTOP_DRIVER tray-icons        "X Y W H" of each tray icon on the desktop's panel
-#   $DESKTOP_DRIVER picker-shown      succeeds while the desktop's colour picker is on screen
-#   $DESKTOP_DRIVER shortcut-bound COMBO   succeeds once the desktop has taken the combination
-#   $DESKTOP_DRIVER background COLOR  paints the desktop's background "#RRGGBB"
+# XDG_SESSION_TYPE=wayland, XDG_CURRENT_DESKTOP=GNOME, VANTLE_TEST_SESSION=1
+# and DESKTOP_DRIVER, a person at the desktop (tests/desktop/gnome-driver.py; verbs:
+# tests/platform/desktop-checks.sh).
 # Exits 77 (CTest's "skipped") only when gnome-shell is not installed.
 set -euo pipefail
 
@@ -57,15 +47,13 @@ export DBUS_SYSTEM_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/system_bus"
 dbus-daemon --session --nofork --address="$DBUS_SYSTEM_BUS_ADDRESS" >/dev/null 2>&1 &
 pids+=($!)
 
-# The desktop as the checks need it: the tray extension on, no hot corner, no banners, a plain
-# background; only GNOME's own portals, even where another desktop's are installed.
+# The desktop as the checks need it: the tray extension on, no hot corner, no banners; only
+# GNOME's own portals, even where another desktop's are installed.
 while read -r schema key value; do gsettings set "$schema" "$key" "$value"; done <<'EOF'
 org.gnome.shell enabled-extensions ['ubuntu-appindicators@ubuntu.com']
 org.gnome.shell welcome-dialog-last-shown-version '999'
 org.gnome.desktop.interface enable-hot-corners false
 org.gnome.desktop.notifications show-banners false
-org.gnome.desktop.background picture-options none
-org.gnome.desktop.background primary-color '#202020'
 EOF
 cp /usr/share/xdg-desktop-portal/portals/{gnome,gtk,gnome-shell}.portal "$XDG_RUNTIME_DIR/portals/" || true
 export XDG_DESKTOP_PORTAL_DIR=$XDG_RUNTIME_DIR/portals
@@ -91,7 +79,7 @@ owned() { bus NameHasOwner "string:$1" | grep -q true; }
 for name in org.gnome.Shell org.gnome.Mutter.RemoteDesktop org.gnome.Mutter.ScreenCast; do
     wait_for 60 owned "$name" || fail "$name never came on the bus"
 done
-export DESKTOP_NAME=gnome DESKTOP_DRIVER=$here/gnome-driver.py GNOME_DRIVER_SOCKET=$XDG_RUNTIME_DIR/driver.sock
+export DESKTOP_DRIVER=$here/gnome-driver.py GNOME_DRIVER_SOCKET=$XDG_RUNTIME_DIR/driver.sock
 "$DESKTOP_DRIVER" serve "$GNOME_DRIVER_SOCKET" >"$XDG_RUNTIME_DIR/driver.log" 2>&1 &
 pids+=($!)
 wait_for 30 "$DESKTOP_DRIVER" focused || fail "the input driver did not start: $(cat "$XDG_RUNTIME_DIR/driver.log")"

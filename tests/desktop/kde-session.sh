@@ -8,17 +8,17 @@
 #   KDE_DESKTOP_DRIVER=path/to/kde_desktop_driver kde-session.sh COMMAND [ARGS...]
 #
 # Exports WAYLAND_DISPLAY, DISPLAY, XDG_RUNTIME_DIR, DBUS_SESSION_BUS_ADDRESS,
-# QT_QPA_PLATFORM=wayland, XDG_CURRENT_DESKTOP=KDE, VANTLE_TEST_SESSION=1, and DESKTOP_DRIVER:
-# a command with the verbs `key COMBO` (alt+shift+c, ctrl+shift+v, Escape), `move X Y`, `click`,
-# `screenshot FILE` and `focused` (the resource class of the window with the keyboard).
+# QT_QPA_PLATFORM=wayland, XDG_CURRENT_DESKTOP=KDE, VANTLE_TEST_SESSION=1, and DESKTOP_DRIVER, a
+# person at the desktop (tests/desktop/kde-driver.py; verbs: tests/platform/desktop-checks.sh).
 # Exits 77 (CTest's "skipped") when KWin, the KDE portal or the driver are missing, or when KWin
 # cannot start on this machine.
 set -euo pipefail
 
 skip() { echo "SKIP: $*" >&2; exit 77; }
 
-source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
-source "$(dirname "${BASH_SOURCE[0]}")/private-session.sh"
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+source "$here/wait-for.sh"
+source "$here/private-session.sh"
 portal_kde=/usr/lib/x86_64-linux-gnu/libexec/xdg-desktop-portal-kde
 frontend=/usr/libexec/xdg-desktop-portal
 
@@ -57,8 +57,12 @@ dbus-update-activation-environment WAYLAND_DISPLAY XDG_CURRENT_DESKTOP XDG_SESSI
     KDE_FULL_SESSION KDE_SESSION_VERSION
 
 # Plasma's tray watcher, then the KDE portal behind the frontend, as Plasma starts them; the
-# frontend reads only kde.portal, so no other desktop's portal stands in.
-export DESKTOP_DRIVER=$KDE_DESKTOP_DRIVER
+# frontend reads only kde.portal, so no other desktop's portal stands in. The driver tells
+# KWin's picker on screen from the calls logged here.
+export DESKTOP_DRIVER=$here/kde-driver.py
+dbus-monitor --session "interface='org.kde.kwin.ColorPicker'" "type='method_return'" "type='error'" \
+    >"$log/pickers.log" 2>&1 &
+pids+=($!)
 "$DESKTOP_DRIVER" tray-watcher >"$log/tray-watcher.log" 2>&1 &
 pids+=($!)
 wait_for 20 bus_owned org.kde.StatusNotifierWatcher || skip "the tray watcher did not start"

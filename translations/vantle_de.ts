@@ -201,11 +201,11 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>unknown option "%1"</source>
+        <source>unknown option &quot;%1&quot;</source>
         <translation>unbekannte Option „%1“</translation>
     </message>
     <message>
-        <source>cannot read the colour "%1"; accepted: %2</source>
+        <source>cannot read the colour &quot;%1&quot;; accepted: %2</source>
         <translation>die Farbe „%1“ kann nicht gelesen werden; akzeptiert: %2</translation>
     </message>
     <message>
@@ -225,21 +225,21 @@ Commands:
       between 0 and 1. Without --format the preferred format is used.
       --all prints all nine formats as LABEL&lt;TAB&gt;TEXT; --contrast adds the
       WCAG contrast against white and black.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Print the WCAG 2 contrast ratio of a text colour on its background, its
       grades for normal text, large text and non-text parts, and the APCA
       lightness contrast Lc; --json prints one object. A colour is any text
       Vantle writes, #RGB, or the forms `format` reads.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Print the stored history (or only the pinned colours) as text in the
       preferred format, or as JSON; with -o, write it atomically to FILE.
         vantle export --pinned --json -o palette.json
   pick [--print [--format NAME]]
       Ask the running Vantle to start a pick (bind this to a key in your
-      desktop's keyboard settings). With --print, pick in this process and
+      desktop&apos;s keyboard settings). With --print, pick in this process and
       print the colour instead; exit status 1 when cancelled.
         vantle pick
         vantle pick --print --format hexLower
@@ -253,7 +253,7 @@ Options:
 
 Settings: %1
 </source>
-        <extracomment>The names of commands and options, the example lines (starting with "vantle") and %1 stay as they are; keep each line within 80 columns.</extracomment>
+        <extracomment>The names of commands and options, the example lines (starting with &quot;vantle&quot;) and %1 stay as they are; keep each line within 80 columns.</extracomment>
         <translation>Aufruf: vantle [BEFEHL] [OPTIONEN]
 
 Ohne Befehl startet Vantle im Systembereich der Kontrollleiste (oder zeigt bzw.
@@ -266,14 +266,14 @@ Befehle:
       oder r,g,b,a zwischen 0 und 1. Ohne --format gilt das bevorzugte Format.
       --all gibt alle neun Formate als LABEL&lt;TAB&gt;TEXT aus; --contrast fügt den
       WCAG-Kontrast zu Weiß und Schwarz hinzu.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Das WCAG-2-Kontrastverhältnis einer Textfarbe auf ihrem Hintergrund
       ausgeben, die Stufen für normalen Text, großen Text und Nicht-Text-Teile
       sowie den APCA-Helligkeitskontrast Lc; --json gibt ein Objekt aus. Eine
       Farbe ist jeder Text, den Vantle schreibt, #RGB oder was `format` liest.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Den gespeicherten Verlauf (oder nur die angehefteten Farben) als Text im
       bevorzugten Format oder als JSON ausgeben; mit -o atomar in FILE
@@ -317,7 +317,10 @@ auf den Hintergrund gezeichnet; der Hintergrund muss deckend sein.</translation>
     </message>
     <message numerus="yes">
         <source>needs a foreground and a background colour, %n given</source>
-        <translation><numerusform>braucht eine Vorder- und eine Hintergrundfarbe, %n angegeben</numerusform><numerusform>braucht eine Vorder- und eine Hintergrundfarbe, %n angegeben</numerusform></translation>
+        <translation>
+            <numerusform>braucht eine Vorder- und eine Hintergrundfarbe, %n angegeben</numerusform>
+            <numerusform>braucht eine Vorder- und eine Hintergrundfarbe, %n angegeben</numerusform>
+        </translation>
     </message>
     <message>
         <source>the background must be opaque (its alpha is %1)</source>
@@ -337,7 +340,7 @@ neueste zuerst, als Text im bevorzugten Format oder als JSON aus; -o schreibt
 ihn in FILE.</translation>
     </message>
     <message>
-        <source>unknown argument "%1"</source>
+        <source>unknown argument &quot;%1&quot;</source>
         <translation>unbekanntes Argument „%1“</translation>
     </message>
     <message>
@@ -345,7 +348,7 @@ ihn in FILE.</translation>
         <translation>der gespeicherte Farbverlauf kann nicht gelesen werden (%1)</translation>
     </message>
     <message>
-        <source>cannot write "%1": %2</source>
+        <source>cannot write &quot;%1&quot;: %2</source>
         <translation>„%1“ kann nicht geschrieben werden: %2</translation>
     </message>
     <message>
@@ -353,7 +356,7 @@ ihn in FILE.</translation>
         <translation>--format braucht einen Formatnamen; akzeptiert: %1</translation>
     </message>
     <message>
-        <source>unknown format "%1"; accepted: %2</source>
+        <source>unknown format &quot;%1&quot;; accepted: %2</source>
         <translation>unbekanntes Format „%1“; akzeptiert: %2</translation>
     </message>
     <message>
@@ -385,7 +388,7 @@ ihn in FILE.</translation>
         <translation>das laufende Vantle hat nicht geantwortet (%1).</translation>
     </message>
     <message>
-        <source>the command "%1" is not available in this build</source>
+        <source>the command &quot;%1&quot; is not available in this build</source>
         <translation>der Befehl „%1“ ist in dieser Ausgabe nicht verfügbar</translation>
     </message>
     <message>
@@ -393,11 +396,11 @@ ihn in FILE.</translation>
         <translation>der Desktop-Teil von Vantle kann nicht geladen werden (%1). Eine Neuinstallation von Vantle stellt ihn wieder her.</translation>
     </message>
     <message>
-        <source>unknown command "%1"</source>
+        <source>unknown command &quot;%1&quot;</source>
         <translation>unbekannter Befehl „%1“</translation>
     </message>
     <message>
-        <source>unexpected argument "%1"</source>
+        <source>unexpected argument &quot;%1&quot;</source>
         <translation>unerwartetes Argument „%1“</translation>
     </message>
     <message>
@@ -570,7 +573,7 @@ ihn in FILE.</translation>
     <name>KeyCodes</name>
     <message>
         <source>Ctrl</source>
-        <extracomment>The Control key in a keyboard shortcut, as the desktop names it ("Strg" in German)</extracomment>
+        <extracomment>The Control key in a keyboard shortcut, as the desktop names it (&quot;Strg&quot; in German)</extracomment>
         <translation>Strg</translation>
     </message>
     <message>
@@ -580,7 +583,7 @@ ihn in FILE.</translation>
     </message>
     <message>
         <source>Shift</source>
-        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it ("Umschalt" in German)</extracomment>
+        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it (&quot;Umschalt&quot; in German)</extracomment>
         <translation>Umschalt</translation>
     </message>
     <message>
@@ -604,7 +607,7 @@ ihn in FILE.</translation>
         <translation>vantle verwenden</translation>
     </message>
     <message>
-        <source>You're all set.</source>
+        <source>You&apos;re all set.</source>
         <translation>Alles bereit.</translation>
     </message>
     <message>
@@ -647,7 +650,7 @@ ihn in FILE.</translation>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
-        <comment>Translate this string to the string 'LTR' in left-to-right languages or to 'RTL' in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
         <translation>LTR</translation>
     </message>
 </context>
@@ -658,7 +661,7 @@ ihn in FILE.</translation>
         <translation>Softwareaktualisierung</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>Alles ist aktuell!</translation>
     </message>
     <message>
@@ -857,7 +860,10 @@ ihn in FILE.</translation>
     </message>
     <message numerus="yes">
         <source>This will remove the oldest %n colors.</source>
-        <translation><numerusform>Dies entfernt die älteste Farbe.</numerusform><numerusform>Dies entfernt die ältesten %n Farben.</numerusform></translation>
+        <translation>
+            <numerusform>Dies entfernt die älteste Farbe.</numerusform>
+            <numerusform>Dies entfernt die ältesten %n Farben.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Continue</source>
@@ -885,7 +891,7 @@ ihn in FILE.</translation>
     </message>
     <message>
         <source>More %1</source>
-        <extracomment>The tab of the maker's other applications; %1 is the maker's name</extracomment>
+        <extracomment>The tab of the maker&apos;s other applications; %1 is the maker&apos;s name</extracomment>
         <translation>Mehr von %1</translation>
     </message>
 </context>

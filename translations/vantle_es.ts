@@ -201,11 +201,11 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>unknown option "%1"</source>
+        <source>unknown option &quot;%1&quot;</source>
         <translation>opción desconocida «%1»</translation>
     </message>
     <message>
-        <source>cannot read the colour "%1"; accepted: %2</source>
+        <source>cannot read the colour &quot;%1&quot;; accepted: %2</source>
         <translation>no se puede leer el color «%1»; se acepta: %2</translation>
     </message>
     <message>
@@ -225,21 +225,21 @@ Commands:
       between 0 and 1. Without --format the preferred format is used.
       --all prints all nine formats as LABEL&lt;TAB&gt;TEXT; --contrast adds the
       WCAG contrast against white and black.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Print the WCAG 2 contrast ratio of a text colour on its background, its
       grades for normal text, large text and non-text parts, and the APCA
       lightness contrast Lc; --json prints one object. A colour is any text
       Vantle writes, #RGB, or the forms `format` reads.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Print the stored history (or only the pinned colours) as text in the
       preferred format, or as JSON; with -o, write it atomically to FILE.
         vantle export --pinned --json -o palette.json
   pick [--print [--format NAME]]
       Ask the running Vantle to start a pick (bind this to a key in your
-      desktop's keyboard settings). With --print, pick in this process and
+      desktop&apos;s keyboard settings). With --print, pick in this process and
       print the colour instead; exit status 1 when cancelled.
         vantle pick
         vantle pick --print --format hexLower
@@ -253,7 +253,7 @@ Options:
 
 Settings: %1
 </source>
-        <extracomment>The names of commands and options, the example lines (starting with "vantle") and %1 stay as they are; keep each line within 80 columns.</extracomment>
+        <extracomment>The names of commands and options, the example lines (starting with &quot;vantle&quot;) and %1 stay as they are; keep each line within 80 columns.</extracomment>
         <translation>Uso: vantle [ORDEN] [OPCIONES]
 
 Sin una orden, Vantle se inicia en la bandeja del sistema (o, si ya está en
@@ -266,7 +266,7 @@ marcha, muestra u oculta su ventana).
       r,g,b o r,g,b,a entre 0 y 1. Sin --format se usa el formato preferido.
       --all muestra los nueve formatos como LABEL&lt;TAB&gt;TEXT; --contrast añade
       el contraste WCAG frente al blanco y al negro.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Mostrar la relación de contraste WCAG 2 de un color de texto sobre su
@@ -274,7 +274,7 @@ marcha, muestra u oculta su ventana).
       son texto, y el contraste de luminosidad APCA Lc; --json muestra un
       objeto. Un color es cualquier texto que escriba Vantle, #RGB, o las
       formas que lee `format`.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Mostrar el historial guardado (o solo los colores anclados) como texto
       en el formato preferido, o como JSON; con -o, escribirlo de forma
@@ -317,7 +317,10 @@ translúcido se dibuja antes sobre el fondo; el fondo debe ser opaco.</translati
     </message>
     <message numerus="yes">
         <source>needs a foreground and a background colour, %n given</source>
-        <translation><numerusform>se necesita un color de primer plano y uno de fondo; se dio %n</numerusform><numerusform>se necesita un color de primer plano y uno de fondo; se dieron %n</numerusform></translation>
+        <translation>
+            <numerusform>se necesita un color de primer plano y uno de fondo; se dio %n</numerusform>
+            <numerusform>se necesita un color de primer plano y uno de fondo; se dieron %n</numerusform>
+        </translation>
     </message>
     <message>
         <source>the background must be opaque (its alpha is %1)</source>
@@ -337,7 +340,7 @@ anclados), del más reciente al más antiguo, como texto en el formato preferido
 o como JSON; -o lo escribe en FILE.</translation>
     </message>
     <message>
-        <source>unknown argument "%1"</source>
+        <source>unknown argument &quot;%1&quot;</source>
         <translation>argumento desconocido «%1»</translation>
     </message>
     <message>
@@ -345,7 +348,7 @@ o como JSON; -o lo escribe en FILE.</translation>
         <translation>no se puede leer el historial de colores guardado (%1)</translation>
     </message>
     <message>
-        <source>cannot write "%1": %2</source>
+        <source>cannot write &quot;%1&quot;: %2</source>
         <translation>no se puede escribir «%1»: %2</translation>
     </message>
     <message>
@@ -353,7 +356,7 @@ o como JSON; -o lo escribe en FILE.</translation>
         <translation>--format necesita un nombre de formato; se acepta: %1</translation>
     </message>
     <message>
-        <source>unknown format "%1"; accepted: %2</source>
+        <source>unknown format &quot;%1&quot;; accepted: %2</source>
         <translation>formato desconocido «%1»; se acepta: %2</translation>
     </message>
     <message>
@@ -385,7 +388,7 @@ o como JSON; -o lo escribe en FILE.</translation>
         <translation>el Vantle en marcha no respondió (%1).</translation>
     </message>
     <message>
-        <source>the command "%1" is not available in this build</source>
+        <source>the command &quot;%1&quot; is not available in this build</source>
         <translation>la orden «%1» no está disponible en esta compilación</translation>
     </message>
     <message>
@@ -393,11 +396,11 @@ o como JSON; -o lo escribe en FILE.</translation>
         <translation>no se puede cargar la parte de escritorio de Vantle (%1). Reinstalar Vantle la restablece.</translation>
     </message>
     <message>
-        <source>unknown command "%1"</source>
+        <source>unknown command &quot;%1&quot;</source>
         <translation>orden desconocida «%1»</translation>
     </message>
     <message>
-        <source>unexpected argument "%1"</source>
+        <source>unexpected argument &quot;%1&quot;</source>
         <translation>argumento inesperado «%1»</translation>
     </message>
     <message>
@@ -570,7 +573,7 @@ o como JSON; -o lo escribe en FILE.</translation>
     <name>KeyCodes</name>
     <message>
         <source>Ctrl</source>
-        <extracomment>The Control key in a keyboard shortcut, as the desktop names it ("Strg" in German)</extracomment>
+        <extracomment>The Control key in a keyboard shortcut, as the desktop names it (&quot;Strg&quot; in German)</extracomment>
         <translation>Ctrl</translation>
     </message>
     <message>
@@ -580,7 +583,7 @@ o como JSON; -o lo escribe en FILE.</translation>
     </message>
     <message>
         <source>Shift</source>
-        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it ("Umschalt" in German)</extracomment>
+        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it (&quot;Umschalt&quot; in German)</extracomment>
         <translation>Mayús</translation>
     </message>
     <message>
@@ -604,7 +607,7 @@ o como JSON; -o lo escribe en FILE.</translation>
         <translation>Empezar a usar vantle</translation>
     </message>
     <message>
-        <source>You're all set.</source>
+        <source>You&apos;re all set.</source>
         <translation>Todo listo.</translation>
     </message>
     <message>
@@ -647,7 +650,7 @@ o como JSON; -o lo escribe en FILE.</translation>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
-        <comment>Translate this string to the string 'LTR' in left-to-right languages or to 'RTL' in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
         <translation>LTR</translation>
     </message>
 </context>
@@ -658,7 +661,7 @@ o como JSON; -o lo escribe en FILE.</translation>
         <translation>Actualización de software</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>¡Está al día!</translation>
     </message>
     <message>
@@ -857,7 +860,10 @@ o como JSON; -o lo escribe en FILE.</translation>
     </message>
     <message numerus="yes">
         <source>This will remove the oldest %n colors.</source>
-        <translation><numerusform>Se eliminará el color más antiguo.</numerusform><numerusform>Se eliminarán los %n colores más antiguos.</numerusform></translation>
+        <translation>
+            <numerusform>Se eliminará el color más antiguo.</numerusform>
+            <numerusform>Se eliminarán los %n colores más antiguos.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Continue</source>
@@ -885,7 +891,7 @@ o como JSON; -o lo escribe en FILE.</translation>
     </message>
     <message>
         <source>More %1</source>
-        <extracomment>The tab of the maker's other applications; %1 is the maker's name</extracomment>
+        <extracomment>The tab of the maker&apos;s other applications; %1 is the maker&apos;s name</extracomment>
         <translation>Más de %1</translation>
     </message>
 </context>

@@ -201,11 +201,11 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>unknown option "%1"</source>
+        <source>unknown option &quot;%1&quot;</source>
         <translation>option inconnue « %1 »</translation>
     </message>
     <message>
-        <source>cannot read the colour "%1"; accepted: %2</source>
+        <source>cannot read the colour &quot;%1&quot;; accepted: %2</source>
         <translation>impossible de lire la couleur « %1 » ; acceptés : %2</translation>
     </message>
     <message>
@@ -225,21 +225,21 @@ Commands:
       between 0 and 1. Without --format the preferred format is used.
       --all prints all nine formats as LABEL&lt;TAB&gt;TEXT; --contrast adds the
       WCAG contrast against white and black.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Print the WCAG 2 contrast ratio of a text colour on its background, its
       grades for normal text, large text and non-text parts, and the APCA
       lightness contrast Lc; --json prints one object. A colour is any text
       Vantle writes, #RGB, or the forms `format` reads.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Print the stored history (or only the pinned colours) as text in the
       preferred format, or as JSON; with -o, write it atomically to FILE.
         vantle export --pinned --json -o palette.json
   pick [--print [--format NAME]]
       Ask the running Vantle to start a pick (bind this to a key in your
-      desktop's keyboard settings). With --print, pick in this process and
+      desktop&apos;s keyboard settings). With --print, pick in this process and
       print the colour instead; exit status 1 when cancelled.
         vantle pick
         vantle pick --print --format hexLower
@@ -253,7 +253,7 @@ Options:
 
 Settings: %1
 </source>
-        <extracomment>The names of commands and options, the example lines (starting with "vantle") and %1 stay as they are; keep each line within 80 columns.</extracomment>
+        <extracomment>The names of commands and options, the example lines (starting with &quot;vantle&quot;) and %1 stay as they are; keep each line within 80 columns.</extracomment>
         <translation>Utilisation : vantle [COMMANDE] [OPTIONS]
 
 Sans commande, Vantle démarre dans la zone de notification (ou, s’il est déjà
@@ -266,7 +266,7 @@ Commandes :
       r,g,b ou r,g,b,a entre 0 et 1. Sans --format, le format préféré est
       utilisé. --all affiche les neuf formats en LABEL&lt;TAB&gt;TEXT ; --contrast
       ajoute le contraste WCAG par rapport au blanc et au noir.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Afficher le rapport de contraste WCAG 2 d’une couleur de texte sur son
@@ -274,7 +274,7 @@ Commandes :
       non textuels, et le contraste de luminosité APCA Lc ; --json affiche un
       objet. Une couleur est tout texte écrit par Vantle, #RGB, ou les formes
       que lit `format`.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Afficher l’historique enregistré (ou seulement les couleurs épinglées)
       en texte dans le format préféré, ou en JSON ; avec -o, l’écrire de façon
@@ -318,7 +318,10 @@ translucide est d’abord dessiné sur le fond ; le fond doit être opaque.</tra
     </message>
     <message numerus="yes">
         <source>needs a foreground and a background colour, %n given</source>
-        <translation><numerusform>il faut une couleur de premier plan et une de fond, %n donnée</numerusform><numerusform>il faut une couleur de premier plan et une de fond, %n données</numerusform></translation>
+        <translation>
+            <numerusform>il faut une couleur de premier plan et une de fond, %n donnée</numerusform>
+            <numerusform>il faut une couleur de premier plan et une de fond, %n données</numerusform>
+        </translation>
     </message>
     <message>
         <source>the background must be opaque (its alpha is %1)</source>
@@ -338,7 +341,7 @@ couleurs épinglées), du plus récent au plus ancien, en texte dans le format
 préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     </message>
     <message>
-        <source>unknown argument "%1"</source>
+        <source>unknown argument &quot;%1&quot;</source>
         <translation>argument inconnu « %1 »</translation>
     </message>
     <message>
@@ -346,7 +349,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
         <translation>l’historique des couleurs enregistré est illisible (%1)</translation>
     </message>
     <message>
-        <source>cannot write "%1": %2</source>
+        <source>cannot write &quot;%1&quot;: %2</source>
         <translation>impossible d’écrire « %1 » : %2</translation>
     </message>
     <message>
@@ -354,7 +357,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
         <translation>--format demande un nom de format ; acceptés : %1</translation>
     </message>
     <message>
-        <source>unknown format "%1"; accepted: %2</source>
+        <source>unknown format &quot;%1&quot;; accepted: %2</source>
         <translation>format inconnu « %1 » ; acceptés : %2</translation>
     </message>
     <message>
@@ -386,7 +389,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
         <translation>le Vantle en cours n’a pas répondu (%1).</translation>
     </message>
     <message>
-        <source>the command "%1" is not available in this build</source>
+        <source>the command &quot;%1&quot; is not available in this build</source>
         <translation>la commande « %1 » n’est pas disponible dans cette version</translation>
     </message>
     <message>
@@ -394,11 +397,11 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
         <translation>la partie graphique de Vantle ne peut pas être chargée (%1). Réinstaller Vantle la rétablit.</translation>
     </message>
     <message>
-        <source>unknown command "%1"</source>
+        <source>unknown command &quot;%1&quot;</source>
         <translation>commande inconnue « %1 »</translation>
     </message>
     <message>
-        <source>unexpected argument "%1"</source>
+        <source>unexpected argument &quot;%1&quot;</source>
         <translation>argument inattendu « %1 »</translation>
     </message>
     <message>
@@ -571,7 +574,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     <name>KeyCodes</name>
     <message>
         <source>Ctrl</source>
-        <extracomment>The Control key in a keyboard shortcut, as the desktop names it ("Strg" in German)</extracomment>
+        <extracomment>The Control key in a keyboard shortcut, as the desktop names it (&quot;Strg&quot; in German)</extracomment>
         <translation>Ctrl</translation>
     </message>
     <message>
@@ -581,7 +584,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     </message>
     <message>
         <source>Shift</source>
-        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it ("Umschalt" in German)</extracomment>
+        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it (&quot;Umschalt&quot; in German)</extracomment>
         <translation>Maj</translation>
     </message>
     <message>
@@ -605,7 +608,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
         <translation>Commencer avec vantle</translation>
     </message>
     <message>
-        <source>You're all set.</source>
+        <source>You&apos;re all set.</source>
         <translation>Tout est prêt.</translation>
     </message>
     <message>
@@ -648,7 +651,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
-        <comment>Translate this string to the string 'LTR' in left-to-right languages or to 'RTL' in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
         <translation>LTR</translation>
     </message>
 </context>
@@ -659,7 +662,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
         <translation>Mise à jour du logiciel</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>Vous êtes à jour !</translation>
     </message>
     <message>
@@ -858,7 +861,10 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     </message>
     <message numerus="yes">
         <source>This will remove the oldest %n colors.</source>
-        <translation><numerusform>La couleur la plus ancienne sera supprimée.</numerusform><numerusform>Les %n couleurs les plus anciennes seront supprimées.</numerusform></translation>
+        <translation>
+            <numerusform>La couleur la plus ancienne sera supprimée.</numerusform>
+            <numerusform>Les %n couleurs les plus anciennes seront supprimées.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Continue</source>
@@ -886,7 +892,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     </message>
     <message>
         <source>More %1</source>
-        <extracomment>The tab of the maker's other applications; %1 is the maker's name</extracomment>
+        <extracomment>The tab of the maker&apos;s other applications; %1 is the maker&apos;s name</extracomment>
         <translation>Plus de %1</translation>
     </message>
 </context>

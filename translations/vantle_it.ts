@@ -201,11 +201,11 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>unknown option "%1"</source>
+        <source>unknown option &quot;%1&quot;</source>
         <translation>opzione sconosciuta «%1»</translation>
     </message>
     <message>
-        <source>cannot read the colour "%1"; accepted: %2</source>
+        <source>cannot read the colour &quot;%1&quot;; accepted: %2</source>
         <translation>impossibile leggere il colore «%1»; accettati: %2</translation>
     </message>
     <message>
@@ -225,21 +225,21 @@ Commands:
       between 0 and 1. Without --format the preferred format is used.
       --all prints all nine formats as LABEL&lt;TAB&gt;TEXT; --contrast adds the
       WCAG contrast against white and black.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Print the WCAG 2 contrast ratio of a text colour on its background, its
       grades for normal text, large text and non-text parts, and the APCA
       lightness contrast Lc; --json prints one object. A colour is any text
       Vantle writes, #RGB, or the forms `format` reads.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Print the stored history (or only the pinned colours) as text in the
       preferred format, or as JSON; with -o, write it atomically to FILE.
         vantle export --pinned --json -o palette.json
   pick [--print [--format NAME]]
       Ask the running Vantle to start a pick (bind this to a key in your
-      desktop's keyboard settings). With --print, pick in this process and
+      desktop&apos;s keyboard settings). With --print, pick in this process and
       print the colour instead; exit status 1 when cancelled.
         vantle pick
         vantle pick --print --format hexLower
@@ -253,7 +253,7 @@ Options:
 
 Settings: %1
 </source>
-        <extracomment>The names of commands and options, the example lines (starting with "vantle") and %1 stay as they are; keep each line within 80 columns.</extracomment>
+        <extracomment>The names of commands and options, the example lines (starting with &quot;vantle&quot;) and %1 stay as they are; keep each line within 80 columns.</extracomment>
         <translation>Uso: vantle [COMANDO] [OPZIONI]
 
 Senza comando, Vantle si avvia nell’area di notifica (o, se è già in
@@ -266,7 +266,7 @@ Comandi:
       o r,g,b,a tra 0 e 1. Senza --format si usa il formato preferito.
       --all stampa tutti i nove formati come LABEL&lt;TAB&gt;TEXT; --contrast
       aggiunge il contrasto WCAG rispetto a bianco e nero.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Stampa il rapporto di contrasto WCAG 2 di un colore del testo sul suo
@@ -274,7 +274,7 @@ Comandi:
       testuali, e il contrasto di luminosità APCA Lc; --json stampa un
       oggetto. Un colore è qualsiasi testo scritto da Vantle, #RGB, o le
       forme lette da `format`.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Stampa la cronologia salvata (o solo i colori fissati) come testo nel
       formato preferito, o come JSON; con -o la scrive in modo atomico in FILE.
@@ -317,7 +317,10 @@ disegnato sullo sfondo; lo sfondo deve essere opaco.</translation>
     </message>
     <message numerus="yes">
         <source>needs a foreground and a background colour, %n given</source>
-        <translation><numerusform>servono un colore di primo piano e uno di sfondo, %n fornito</numerusform><numerusform>servono un colore di primo piano e uno di sfondo, %n forniti</numerusform></translation>
+        <translation>
+            <numerusform>servono un colore di primo piano e uno di sfondo, %n fornito</numerusform>
+            <numerusform>servono un colore di primo piano e uno di sfondo, %n forniti</numerusform>
+        </translation>
     </message>
     <message>
         <source>the background must be opaque (its alpha is %1)</source>
@@ -337,7 +340,7 @@ dal più recente, come testo nel formato preferito o come JSON; -o la scrive
 in FILE.</translation>
     </message>
     <message>
-        <source>unknown argument "%1"</source>
+        <source>unknown argument &quot;%1&quot;</source>
         <translation>argomento sconosciuto «%1»</translation>
     </message>
     <message>
@@ -345,7 +348,7 @@ in FILE.</translation>
         <translation>impossibile leggere la cronologia dei colori salvata (%1)</translation>
     </message>
     <message>
-        <source>cannot write "%1": %2</source>
+        <source>cannot write &quot;%1&quot;: %2</source>
         <translation>impossibile scrivere «%1»: %2</translation>
     </message>
     <message>
@@ -353,7 +356,7 @@ in FILE.</translation>
         <translation>--format richiede il nome di un formato; accettati: %1</translation>
     </message>
     <message>
-        <source>unknown format "%1"; accepted: %2</source>
+        <source>unknown format &quot;%1&quot;; accepted: %2</source>
         <translation>formato sconosciuto «%1»; accettati: %2</translation>
     </message>
     <message>
@@ -385,7 +388,7 @@ in FILE.</translation>
         <translation>il Vantle in esecuzione non ha risposto (%1).</translation>
     </message>
     <message>
-        <source>the command "%1" is not available in this build</source>
+        <source>the command &quot;%1&quot; is not available in this build</source>
         <translation>il comando «%1» non è disponibile in questa build</translation>
     </message>
     <message>
@@ -393,11 +396,11 @@ in FILE.</translation>
         <translation>impossibile caricare la parte desktop di Vantle (%1). Reinstallare Vantle la ripristina.</translation>
     </message>
     <message>
-        <source>unknown command "%1"</source>
+        <source>unknown command &quot;%1&quot;</source>
         <translation>comando sconosciuto «%1»</translation>
     </message>
     <message>
-        <source>unexpected argument "%1"</source>
+        <source>unexpected argument &quot;%1&quot;</source>
         <translation>argomento inatteso «%1»</translation>
     </message>
     <message>
@@ -570,7 +573,7 @@ in FILE.</translation>
     <name>KeyCodes</name>
     <message>
         <source>Ctrl</source>
-        <extracomment>The Control key in a keyboard shortcut, as the desktop names it ("Strg" in German)</extracomment>
+        <extracomment>The Control key in a keyboard shortcut, as the desktop names it (&quot;Strg&quot; in German)</extracomment>
         <translation>Ctrl</translation>
     </message>
     <message>
@@ -580,7 +583,7 @@ in FILE.</translation>
     </message>
     <message>
         <source>Shift</source>
-        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it ("Umschalt" in German)</extracomment>
+        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it (&quot;Umschalt&quot; in German)</extracomment>
         <translation>Maiusc</translation>
     </message>
     <message>
@@ -604,7 +607,7 @@ in FILE.</translation>
         <translation>Inizia a usare vantle</translation>
     </message>
     <message>
-        <source>You're all set.</source>
+        <source>You&apos;re all set.</source>
         <translation>È tutto pronto.</translation>
     </message>
     <message>
@@ -647,7 +650,7 @@ in FILE.</translation>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
-        <comment>Translate this string to the string 'LTR' in left-to-right languages or to 'RTL' in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
         <translation>LTR</translation>
     </message>
 </context>
@@ -658,7 +661,7 @@ in FILE.</translation>
         <translation>Aggiornamento software</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>È tutto aggiornato!</translation>
     </message>
     <message>
@@ -857,7 +860,10 @@ in FILE.</translation>
     </message>
     <message numerus="yes">
         <source>This will remove the oldest %n colors.</source>
-        <translation><numerusform>Verrà rimosso il colore più vecchio.</numerusform><numerusform>Verranno rimossi i %n colori più vecchi.</numerusform></translation>
+        <translation>
+            <numerusform>Verrà rimosso il colore più vecchio.</numerusform>
+            <numerusform>Verranno rimossi i %n colori più vecchi.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Continue</source>
@@ -885,7 +891,7 @@ in FILE.</translation>
     </message>
     <message>
         <source>More %1</source>
-        <extracomment>The tab of the maker's other applications; %1 is the maker's name</extracomment>
+        <extracomment>The tab of the maker&apos;s other applications; %1 is the maker&apos;s name</extracomment>
         <translation>Altro da %1</translation>
     </message>
 </context>

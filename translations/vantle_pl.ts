@@ -201,11 +201,11 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>unknown option "%1"</source>
+        <source>unknown option &quot;%1&quot;</source>
         <translation>nieznana opcja „%1”</translation>
     </message>
     <message>
-        <source>cannot read the colour "%1"; accepted: %2</source>
+        <source>cannot read the colour &quot;%1&quot;; accepted: %2</source>
         <translation>nie można odczytać koloru „%1”; dozwolone: %2</translation>
     </message>
     <message>
@@ -225,21 +225,21 @@ Commands:
       between 0 and 1. Without --format the preferred format is used.
       --all prints all nine formats as LABEL&lt;TAB&gt;TEXT; --contrast adds the
       WCAG contrast against white and black.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Print the WCAG 2 contrast ratio of a text colour on its background, its
       grades for normal text, large text and non-text parts, and the APCA
       lightness contrast Lc; --json prints one object. A colour is any text
       Vantle writes, #RGB, or the forms `format` reads.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Print the stored history (or only the pinned colours) as text in the
       preferred format, or as JSON; with -o, write it atomically to FILE.
         vantle export --pinned --json -o palette.json
   pick [--print [--format NAME]]
       Ask the running Vantle to start a pick (bind this to a key in your
-      desktop's keyboard settings). With --print, pick in this process and
+      desktop&apos;s keyboard settings). With --print, pick in this process and
       print the colour instead; exit status 1 when cancelled.
         vantle pick
         vantle pick --print --format hexLower
@@ -253,7 +253,7 @@ Options:
 
 Settings: %1
 </source>
-        <extracomment>The names of commands and options, the example lines (starting with "vantle") and %1 stay as they are; keep each line within 80 columns.</extracomment>
+        <extracomment>The names of commands and options, the example lines (starting with &quot;vantle&quot;) and %1 stay as they are; keep each line within 80 columns.</extracomment>
         <translation>Użycie: vantle [POLECENIE] [OPCJE]
 
 Bez polecenia Vantle uruchamia się w zasobniku systemowym (a jeśli już działa,
@@ -266,7 +266,7 @@ Polecenia:
       r,g,b albo r,g,b,a od 0 do 1. Bez --format używany jest preferowany
       format. --all wypisuje wszystkie dziewięć formatów jako LABEL&lt;TAB&gt;TEXT;
       --contrast dodaje kontrast WCAG względem bieli i czerni.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Wypisuje współczynnik kontrastu WCAG 2 koloru tekstu na jego tle, oceny
@@ -274,7 +274,7 @@ Polecenia:
       kontrast jasności APCA Lc; --json wypisuje jeden obiekt. Kolor to
       dowolny tekst zapisywany przez Vantle, #RGB lub formy czytane przez
       `format`.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Wypisuje zapisaną historię (lub tylko przypięte kolory) jako tekst w
       preferowanym formacie albo jako JSON; z -o zapisuje ją atomowo do FILE.
@@ -316,7 +316,11 @@ rysowany na tle; tło musi być nieprzezroczyste.</translation>
     </message>
     <message numerus="yes">
         <source>needs a foreground and a background colour, %n given</source>
-        <translation><numerusform>wymaga koloru pierwszego planu i tła, podano %n</numerusform><numerusform>wymaga koloru pierwszego planu i tła, podano %n</numerusform><numerusform>wymaga koloru pierwszego planu i tła, podano %n</numerusform></translation>
+        <translation>
+            <numerusform>wymaga koloru pierwszego planu i tła, podano %n</numerusform>
+            <numerusform>wymaga koloru pierwszego planu i tła, podano %n</numerusform>
+            <numerusform>wymaga koloru pierwszego planu i tła, podano %n</numerusform>
+        </translation>
     </message>
     <message>
         <source>the background must be opaque (its alpha is %1)</source>
@@ -336,7 +340,7 @@ najnowszych, jako tekst w preferowanym formacie lub jako JSON; -o zapisuje ją
 do FILE.</translation>
     </message>
     <message>
-        <source>unknown argument "%1"</source>
+        <source>unknown argument &quot;%1&quot;</source>
         <translation>nieznany argument „%1”</translation>
     </message>
     <message>
@@ -344,7 +348,7 @@ do FILE.</translation>
         <translation>nie można odczytać zapisanej historii kolorów (%1)</translation>
     </message>
     <message>
-        <source>cannot write "%1": %2</source>
+        <source>cannot write &quot;%1&quot;: %2</source>
         <translation>nie można zapisać „%1”: %2</translation>
     </message>
     <message>
@@ -352,7 +356,7 @@ do FILE.</translation>
         <translation>--format wymaga nazwy formatu; dozwolone: %1</translation>
     </message>
     <message>
-        <source>unknown format "%1"; accepted: %2</source>
+        <source>unknown format &quot;%1&quot;; accepted: %2</source>
         <translation>nieznany format „%1”; dozwolone: %2</translation>
     </message>
     <message>
@@ -384,7 +388,7 @@ do FILE.</translation>
         <translation>działający Vantle nie odpowiedział (%1).</translation>
     </message>
     <message>
-        <source>the command "%1" is not available in this build</source>
+        <source>the command &quot;%1&quot; is not available in this build</source>
         <translation>polecenie „%1” nie jest dostępne w tej kompilacji</translation>
     </message>
     <message>
@@ -392,11 +396,11 @@ do FILE.</translation>
         <translation>nie można wczytać części graficznej Vantle (%1). Ponowna instalacja Vantle ją przywróci.</translation>
     </message>
     <message>
-        <source>unknown command "%1"</source>
+        <source>unknown command &quot;%1&quot;</source>
         <translation>nieznane polecenie „%1”</translation>
     </message>
     <message>
-        <source>unexpected argument "%1"</source>
+        <source>unexpected argument &quot;%1&quot;</source>
         <translation>nieoczekiwany argument „%1”</translation>
     </message>
     <message>
@@ -569,7 +573,7 @@ do FILE.</translation>
     <name>KeyCodes</name>
     <message>
         <source>Ctrl</source>
-        <extracomment>The Control key in a keyboard shortcut, as the desktop names it ("Strg" in German)</extracomment>
+        <extracomment>The Control key in a keyboard shortcut, as the desktop names it (&quot;Strg&quot; in German)</extracomment>
         <translation>Ctrl</translation>
     </message>
     <message>
@@ -579,7 +583,7 @@ do FILE.</translation>
     </message>
     <message>
         <source>Shift</source>
-        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it ("Umschalt" in German)</extracomment>
+        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it (&quot;Umschalt&quot; in German)</extracomment>
         <translation>Shift</translation>
     </message>
     <message>
@@ -603,7 +607,7 @@ do FILE.</translation>
         <translation>Zacznij używać vantle</translation>
     </message>
     <message>
-        <source>You're all set.</source>
+        <source>You&apos;re all set.</source>
         <translation>Wszystko gotowe.</translation>
     </message>
     <message>
@@ -646,7 +650,7 @@ do FILE.</translation>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
-        <comment>Translate this string to the string 'LTR' in left-to-right languages or to 'RTL' in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
         <translation>LTR</translation>
     </message>
 </context>
@@ -657,7 +661,7 @@ do FILE.</translation>
         <translation>Aktualizacja oprogramowania</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>Wszystko jest aktualne!</translation>
     </message>
     <message>
@@ -856,7 +860,11 @@ do FILE.</translation>
     </message>
     <message numerus="yes">
         <source>This will remove the oldest %n colors.</source>
-        <translation><numerusform>Zostanie usunięty %n najstarszy kolor.</numerusform><numerusform>Zostaną usunięte %n najstarsze kolory.</numerusform><numerusform>Zostanie usuniętych %n najstarszych kolorów.</numerusform></translation>
+        <translation>
+            <numerusform>Zostanie usunięty %n najstarszy kolor.</numerusform>
+            <numerusform>Zostaną usunięte %n najstarsze kolory.</numerusform>
+            <numerusform>Zostanie usuniętych %n najstarszych kolorów.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Continue</source>
@@ -884,7 +892,7 @@ do FILE.</translation>
     </message>
     <message>
         <source>More %1</source>
-        <extracomment>The tab of the maker's other applications; %1 is the maker's name</extracomment>
+        <extracomment>The tab of the maker&apos;s other applications; %1 is the maker&apos;s name</extracomment>
         <translation>Więcej od %1</translation>
     </message>
 </context>

@@ -201,11 +201,11 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>unknown option "%1"</source>
+        <source>unknown option &quot;%1&quot;</source>
         <translation>opção desconhecida “%1”</translation>
     </message>
     <message>
-        <source>cannot read the colour "%1"; accepted: %2</source>
+        <source>cannot read the colour &quot;%1&quot;; accepted: %2</source>
         <translation>não é possível ler a cor “%1”; aceito: %2</translation>
     </message>
     <message>
@@ -225,21 +225,21 @@ Commands:
       between 0 and 1. Without --format the preferred format is used.
       --all prints all nine formats as LABEL&lt;TAB&gt;TEXT; --contrast adds the
       WCAG contrast against white and black.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Print the WCAG 2 contrast ratio of a text colour on its background, its
       grades for normal text, large text and non-text parts, and the APCA
       lightness contrast Lc; --json prints one object. A colour is any text
       Vantle writes, #RGB, or the forms `format` reads.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Print the stored history (or only the pinned colours) as text in the
       preferred format, or as JSON; with -o, write it atomically to FILE.
         vantle export --pinned --json -o palette.json
   pick [--print [--format NAME]]
       Ask the running Vantle to start a pick (bind this to a key in your
-      desktop's keyboard settings). With --print, pick in this process and
+      desktop&apos;s keyboard settings). With --print, pick in this process and
       print the colour instead; exit status 1 when cancelled.
         vantle pick
         vantle pick --print --format hexLower
@@ -253,7 +253,7 @@ Options:
 
 Settings: %1
 </source>
-        <extracomment>The names of commands and options, the example lines (starting with "vantle") and %1 stay as they are; keep each line within 80 columns.</extracomment>
+        <extracomment>The names of commands and options, the example lines (starting with &quot;vantle&quot;) and %1 stay as they are; keep each line within 80 columns.</extracomment>
         <translation>Uso: vantle [COMANDO] [OPÇÕES]
 
 Sem comando, o Vantle inicia na bandeja do sistema (ou, se já estiver em
@@ -266,14 +266,14 @@ Comandos:
       r,g,b ou r,g,b,a entre 0 e 1. Sem --format, usa o formato preferido.
       --all exibe os nove formatos como LABEL&lt;TAB&gt;TEXT; --contrast adiciona o
       contraste WCAG em relação ao branco e ao preto.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Exibe a taxa de contraste WCAG 2 de uma cor de texto sobre seu fundo,
       seus níveis para texto normal, texto grande e elementos não textuais, e
       o contraste de luminosidade APCA Lc; --json exibe um objeto. Uma cor é
       qualquer texto que o Vantle escreve, #RGB, ou as formas que `format` lê.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Exibe o histórico salvo (ou só as cores fixadas) como texto no formato
       preferido, ou como JSON; com -o, grava-o de forma atômica em FILE.
@@ -315,7 +315,10 @@ desenhado antes sobre o fundo; o fundo deve ser opaco.</translation>
     </message>
     <message numerus="yes">
         <source>needs a foreground and a background colour, %n given</source>
-        <translation><numerusform>são necessárias uma cor de primeiro plano e uma de fundo; %n informada</numerusform><numerusform>são necessárias uma cor de primeiro plano e uma de fundo; %n informadas</numerusform></translation>
+        <translation>
+            <numerusform>são necessárias uma cor de primeiro plano e uma de fundo; %n informada</numerusform>
+            <numerusform>são necessárias uma cor de primeiro plano e uma de fundo; %n informadas</numerusform>
+        </translation>
     </message>
     <message>
         <source>the background must be opaque (its alpha is %1)</source>
@@ -335,7 +338,7 @@ recente para a mais antiga, como texto no formato preferido ou como JSON; -o
 o grava em FILE.</translation>
     </message>
     <message>
-        <source>unknown argument "%1"</source>
+        <source>unknown argument &quot;%1&quot;</source>
         <translation>argumento desconhecido “%1”</translation>
     </message>
     <message>
@@ -343,7 +346,7 @@ o grava em FILE.</translation>
         <translation>não é possível ler o histórico de cores salvo (%1)</translation>
     </message>
     <message>
-        <source>cannot write "%1": %2</source>
+        <source>cannot write &quot;%1&quot;: %2</source>
         <translation>não é possível gravar “%1”: %2</translation>
     </message>
     <message>
@@ -351,7 +354,7 @@ o grava em FILE.</translation>
         <translation>--format precisa de um nome de formato; aceito: %1</translation>
     </message>
     <message>
-        <source>unknown format "%1"; accepted: %2</source>
+        <source>unknown format &quot;%1&quot;; accepted: %2</source>
         <translation>formato desconhecido “%1”; aceito: %2</translation>
     </message>
     <message>
@@ -383,7 +386,7 @@ o grava em FILE.</translation>
         <translation>o Vantle em execução não respondeu (%1).</translation>
     </message>
     <message>
-        <source>the command "%1" is not available in this build</source>
+        <source>the command &quot;%1&quot; is not available in this build</source>
         <translation>o comando “%1” não está disponível nesta compilação</translation>
     </message>
     <message>
@@ -391,11 +394,11 @@ o grava em FILE.</translation>
         <translation>não é possível carregar a parte gráfica do Vantle (%1). Reinstalar o Vantle a restaura.</translation>
     </message>
     <message>
-        <source>unknown command "%1"</source>
+        <source>unknown command &quot;%1&quot;</source>
         <translation>comando desconhecido “%1”</translation>
     </message>
     <message>
-        <source>unexpected argument "%1"</source>
+        <source>unexpected argument &quot;%1&quot;</source>
         <translation>argumento inesperado “%1”</translation>
     </message>
     <message>
@@ -568,7 +571,7 @@ o grava em FILE.</translation>
     <name>KeyCodes</name>
     <message>
         <source>Ctrl</source>
-        <extracomment>The Control key in a keyboard shortcut, as the desktop names it ("Strg" in German)</extracomment>
+        <extracomment>The Control key in a keyboard shortcut, as the desktop names it (&quot;Strg&quot; in German)</extracomment>
         <translation>Ctrl</translation>
     </message>
     <message>
@@ -578,7 +581,7 @@ o grava em FILE.</translation>
     </message>
     <message>
         <source>Shift</source>
-        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it ("Umschalt" in German)</extracomment>
+        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it (&quot;Umschalt&quot; in German)</extracomment>
         <translation>Shift</translation>
     </message>
     <message>
@@ -602,7 +605,7 @@ o grava em FILE.</translation>
         <translation>Começar a usar o vantle</translation>
     </message>
     <message>
-        <source>You're all set.</source>
+        <source>You&apos;re all set.</source>
         <translation>Tudo pronto.</translation>
     </message>
     <message>
@@ -645,7 +648,7 @@ o grava em FILE.</translation>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
-        <comment>Translate this string to the string 'LTR' in left-to-right languages or to 'RTL' in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
         <translation>LTR</translation>
     </message>
 </context>
@@ -656,7 +659,7 @@ o grava em FILE.</translation>
         <translation>Atualização de software</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>Tudo atualizado!</translation>
     </message>
     <message>
@@ -855,7 +858,10 @@ o grava em FILE.</translation>
     </message>
     <message numerus="yes">
         <source>This will remove the oldest %n colors.</source>
-        <translation><numerusform>Isto removerá a cor mais antiga.</numerusform><numerusform>Isto removerá as %n cores mais antigas.</numerusform></translation>
+        <translation>
+            <numerusform>Isto removerá a cor mais antiga.</numerusform>
+            <numerusform>Isto removerá as %n cores mais antigas.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Continue</source>
@@ -883,7 +889,7 @@ o grava em FILE.</translation>
     </message>
     <message>
         <source>More %1</source>
-        <extracomment>The tab of the maker's other applications; %1 is the maker's name</extracomment>
+        <extracomment>The tab of the maker&apos;s other applications; %1 is the maker&apos;s name</extracomment>
         <translation>Mais da %1</translation>
     </message>
 </context>

@@ -201,11 +201,11 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>unknown option "%1"</source>
+        <source>unknown option &quot;%1&quot;</source>
         <translation>неизвестный параметр «%1»</translation>
     </message>
     <message>
-        <source>cannot read the colour "%1"; accepted: %2</source>
+        <source>cannot read the colour &quot;%1&quot;; accepted: %2</source>
         <translation>не удаётся прочитать цвет «%1»; допустимо: %2</translation>
     </message>
     <message>
@@ -225,21 +225,21 @@ Commands:
       between 0 and 1. Without --format the preferred format is used.
       --all prints all nine formats as LABEL&lt;TAB&gt;TEXT; --contrast adds the
       WCAG contrast against white and black.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Print the WCAG 2 contrast ratio of a text colour on its background, its
       grades for normal text, large text and non-text parts, and the APCA
       lightness contrast Lc; --json prints one object. A colour is any text
       Vantle writes, #RGB, or the forms `format` reads.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Print the stored history (or only the pinned colours) as text in the
       preferred format, or as JSON; with -o, write it atomically to FILE.
         vantle export --pinned --json -o palette.json
   pick [--print [--format NAME]]
       Ask the running Vantle to start a pick (bind this to a key in your
-      desktop's keyboard settings). With --print, pick in this process and
+      desktop&apos;s keyboard settings). With --print, pick in this process and
       print the colour instead; exit status 1 when cancelled.
         vantle pick
         vantle pick --print --format hexLower
@@ -253,7 +253,7 @@ Options:
 
 Settings: %1
 </source>
-        <extracomment>The names of commands and options, the example lines (starting with "vantle") and %1 stay as they are; keep each line within 80 columns.</extracomment>
+        <extracomment>The names of commands and options, the example lines (starting with &quot;vantle&quot;) and %1 stay as they are; keep each line within 80 columns.</extracomment>
         <translation>Использование: vantle [КОМАНДА] [ПАРАМЕТРЫ]
 
 Без команды Vantle запускается в системном лотке (а если уже запущен,
@@ -266,14 +266,14 @@ Settings: %1
       r,g,b или r,g,b,a от 0 до 1. Без --format используется основной формат.
       --all выводит все девять форматов как LABEL&lt;TAB&gt;TEXT; --contrast
       добавляет контраст WCAG с белым и чёрным.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Вывести коэффициент контраста WCAG 2 цвета текста на его фоне, оценки
       для обычного текста, крупного текста и нетекстовых элементов, а также
       контраст яркости APCA Lc; --json выводит один объект. Цвет — любой
       текст, который пишет Vantle, #RGB или формы, которые читает `format`.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Вывести сохранённую историю (или только закреплённые цвета) текстом в
       основном формате или в JSON; с -o атомарно записать её в FILE.
@@ -315,7 +315,11 @@ BACKGROUND, оценки для обычного текста (AA 4.5, AAA 7), �
     </message>
     <message numerus="yes">
         <source>needs a foreground and a background colour, %n given</source>
-        <translation><numerusform>нужны цвет переднего плана и цвет фона, указан %n</numerusform><numerusform>нужны цвет переднего плана и цвет фона, указано %n</numerusform><numerusform>нужны цвет переднего плана и цвет фона, указано %n</numerusform></translation>
+        <translation>
+            <numerusform>нужны цвет переднего плана и цвет фона, указан %n</numerusform>
+            <numerusform>нужны цвет переднего плана и цвет фона, указано %n</numerusform>
+            <numerusform>нужны цвет переднего плана и цвет фона, указано %n</numerusform>
+        </translation>
     </message>
     <message>
         <source>the background must be opaque (its alpha is %1)</source>
@@ -335,7 +339,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
 FILE.</translation>
     </message>
     <message>
-        <source>unknown argument "%1"</source>
+        <source>unknown argument &quot;%1&quot;</source>
         <translation>неизвестный аргумент «%1»</translation>
     </message>
     <message>
@@ -343,7 +347,7 @@ FILE.</translation>
         <translation>не удаётся прочитать сохранённую историю цветов (%1)</translation>
     </message>
     <message>
-        <source>cannot write "%1": %2</source>
+        <source>cannot write &quot;%1&quot;: %2</source>
         <translation>не удаётся записать «%1»: %2</translation>
     </message>
     <message>
@@ -351,7 +355,7 @@ FILE.</translation>
         <translation>для --format нужно имя формата; допустимо: %1</translation>
     </message>
     <message>
-        <source>unknown format "%1"; accepted: %2</source>
+        <source>unknown format &quot;%1&quot;; accepted: %2</source>
         <translation>неизвестный формат «%1»; допустимо: %2</translation>
     </message>
     <message>
@@ -383,7 +387,7 @@ FILE.</translation>
         <translation>запущенный Vantle не ответил (%1).</translation>
     </message>
     <message>
-        <source>the command "%1" is not available in this build</source>
+        <source>the command &quot;%1&quot; is not available in this build</source>
         <translation>команда «%1» недоступна в этой сборке</translation>
     </message>
     <message>
@@ -391,11 +395,11 @@ FILE.</translation>
         <translation>не удаётся загрузить графическую часть Vantle (%1). Переустановка Vantle её восстановит.</translation>
     </message>
     <message>
-        <source>unknown command "%1"</source>
+        <source>unknown command &quot;%1&quot;</source>
         <translation>неизвестная команда «%1»</translation>
     </message>
     <message>
-        <source>unexpected argument "%1"</source>
+        <source>unexpected argument &quot;%1&quot;</source>
         <translation>лишний аргумент «%1»</translation>
     </message>
     <message>
@@ -568,7 +572,7 @@ FILE.</translation>
     <name>KeyCodes</name>
     <message>
         <source>Ctrl</source>
-        <extracomment>The Control key in a keyboard shortcut, as the desktop names it ("Strg" in German)</extracomment>
+        <extracomment>The Control key in a keyboard shortcut, as the desktop names it (&quot;Strg&quot; in German)</extracomment>
         <translation>Ctrl</translation>
     </message>
     <message>
@@ -578,7 +582,7 @@ FILE.</translation>
     </message>
     <message>
         <source>Shift</source>
-        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it ("Umschalt" in German)</extracomment>
+        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it (&quot;Umschalt&quot; in German)</extracomment>
         <translation>Shift</translation>
     </message>
     <message>
@@ -602,7 +606,7 @@ FILE.</translation>
         <translation>Начать работу с vantle</translation>
     </message>
     <message>
-        <source>You're all set.</source>
+        <source>You&apos;re all set.</source>
         <translation>Всё готово.</translation>
     </message>
     <message>
@@ -645,7 +649,7 @@ FILE.</translation>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
-        <comment>Translate this string to the string 'LTR' in left-to-right languages or to 'RTL' in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
         <translation>LTR</translation>
     </message>
 </context>
@@ -656,7 +660,7 @@ FILE.</translation>
         <translation>Обновление программы</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>Установлена последняя версия!</translation>
     </message>
     <message>
@@ -855,7 +859,11 @@ FILE.</translation>
     </message>
     <message numerus="yes">
         <source>This will remove the oldest %n colors.</source>
-        <translation><numerusform>Будет удалён %n самый старый цвет.</numerusform><numerusform>Будут удалены %n самых старых цвета.</numerusform><numerusform>Будут удалены %n самых старых цветов.</numerusform></translation>
+        <translation>
+            <numerusform>Будет удалён %n самый старый цвет.</numerusform>
+            <numerusform>Будут удалены %n самых старых цвета.</numerusform>
+            <numerusform>Будут удалены %n самых старых цветов.</numerusform>
+        </translation>
     </message>
     <message>
         <source>Continue</source>
@@ -883,7 +891,7 @@ FILE.</translation>
     </message>
     <message>
         <source>More %1</source>
-        <extracomment>The tab of the maker's other applications; %1 is the maker's name</extracomment>
+        <extracomment>The tab of the maker&apos;s other applications; %1 is the maker&apos;s name</extracomment>
         <translation>Ещё от %1</translation>
     </message>
 </context>

@@ -201,11 +201,11 @@
 <context>
     <name>CommandLine</name>
     <message>
-        <source>unknown option "%1"</source>
+        <source>unknown option &quot;%1&quot;</source>
         <translation>未知选项“%1”</translation>
     </message>
     <message>
-        <source>cannot read the colour "%1"; accepted: %2</source>
+        <source>cannot read the colour &quot;%1&quot;; accepted: %2</source>
         <translation>无法读取颜色“%1”；可接受：%2</translation>
     </message>
     <message>
@@ -225,21 +225,21 @@ Commands:
       between 0 and 1. Without --format the preferred format is used.
       --all prints all nine formats as LABEL&lt;TAB&gt;TEXT; --contrast adds the
       WCAG contrast against white and black.
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       Print the WCAG 2 contrast ratio of a text colour on its background, its
       grades for normal text, large text and non-text parts, and the APCA
       lightness contrast Lc; --json prints one object. A colour is any text
       Vantle writes, #RGB, or the forms `format` reads.
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       Print the stored history (or only the pinned colours) as text in the
       preferred format, or as JSON; with -o, write it atomically to FILE.
         vantle export --pinned --json -o palette.json
   pick [--print [--format NAME]]
       Ask the running Vantle to start a pick (bind this to a key in your
-      desktop's keyboard settings). With --print, pick in this process and
+      desktop&apos;s keyboard settings). With --print, pick in this process and
       print the colour instead; exit status 1 when cancelled.
         vantle pick
         vantle pick --print --format hexLower
@@ -253,7 +253,7 @@ Options:
 
 Settings: %1
 </source>
-        <extracomment>The names of commands and options, the example lines (starting with "vantle") and %1 stay as they are; keep each line within 80 columns.</extracomment>
+        <extracomment>The names of commands and options, the example lines (starting with &quot;vantle&quot;) and %1 stay as they are; keep each line within 80 columns.</extracomment>
         <translation>用法：vantle [命令] [选项]
 
 不带命令时，Vantle 在系统托盘中启动（如果已在运行，则显示或隐藏其弹出窗口）。
@@ -265,13 +265,13 @@ Settings: %1
       r,g,b 或 r,g,b,a。不带 --format 时使用首选格式。--all 以
       LABEL&lt;TAB&gt;TEXT 输出全部九种格式；--contrast 附加对白色和黑色的
       WCAG 对比度。
-        vantle format '#FF6B36' --format hsl
+        vantle format &apos;#FF6B36&apos; --format hsl
         vantle format --all --contrast 1.0,0.42,0.21
   contrast [--json] FOREGROUND BACKGROUND
       输出文本颜色在其背景上的 WCAG 2 对比度、普通文本、大号文本和非文本
       元素的等级，以及 APCA 亮度对比度 Lc；--json 输出一个对象。颜色可以是
       Vantle 写出的任何文本、#RGB，或 `format` 能读取的形式。
-        vantle contrast '#888' '#FFF'
+        vantle contrast &apos;#888&apos; &apos;#FFF&apos;
   export [--pinned] [--json] [-o FILE]
       以首选格式的文本或 JSON 输出保存的历史记录（或仅固定的颜色）；
       使用 -o 时以原子方式写入 FILE。
@@ -311,7 +311,9 @@ APCA 亮度对比度 Lc（浅色在深色上时为负）。半透明的前景先
     </message>
     <message numerus="yes">
         <source>needs a foreground and a background colour, %n given</source>
-        <translation><numerusform>需要一个前景色和一个背景色，给出了 %n 个</numerusform></translation>
+        <translation>
+            <numerusform>需要一个前景色和一个背景色，给出了 %n 个</numerusform>
+        </translation>
     </message>
     <message>
         <source>the background must be opaque (its alpha is %1)</source>
@@ -330,7 +332,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
 --pinned 时仅输出固定的颜色）；-o 将其写入 FILE。</translation>
     </message>
     <message>
-        <source>unknown argument "%1"</source>
+        <source>unknown argument &quot;%1&quot;</source>
         <translation>未知参数“%1”</translation>
     </message>
     <message>
@@ -338,7 +340,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
         <translation>无法读取保存的颜色历史记录（%1）</translation>
     </message>
     <message>
-        <source>cannot write "%1": %2</source>
+        <source>cannot write &quot;%1&quot;: %2</source>
         <translation>无法写入“%1”：%2</translation>
     </message>
     <message>
@@ -346,7 +348,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
         <translation>--format 需要格式名称；可接受：%1</translation>
     </message>
     <message>
-        <source>unknown format "%1"; accepted: %2</source>
+        <source>unknown format &quot;%1&quot;; accepted: %2</source>
         <translation>未知格式“%1”；可接受：%2</translation>
     </message>
     <message>
@@ -378,7 +380,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
         <translation>正在运行的 Vantle 没有响应（%1）。</translation>
     </message>
     <message>
-        <source>the command "%1" is not available in this build</source>
+        <source>the command &quot;%1&quot; is not available in this build</source>
         <translation>此构建中没有命令“%1”</translation>
     </message>
     <message>
@@ -386,11 +388,11 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
         <translation>无法加载 Vantle 的桌面部分（%1）。重新安装 Vantle 即可恢复。</translation>
     </message>
     <message>
-        <source>unknown command "%1"</source>
+        <source>unknown command &quot;%1&quot;</source>
         <translation>未知命令“%1”</translation>
     </message>
     <message>
-        <source>unexpected argument "%1"</source>
+        <source>unexpected argument &quot;%1&quot;</source>
         <translation>多余的参数“%1”</translation>
     </message>
     <message>
@@ -563,7 +565,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     <name>KeyCodes</name>
     <message>
         <source>Ctrl</source>
-        <extracomment>The Control key in a keyboard shortcut, as the desktop names it ("Strg" in German)</extracomment>
+        <extracomment>The Control key in a keyboard shortcut, as the desktop names it (&quot;Strg&quot; in German)</extracomment>
         <translation>Ctrl</translation>
     </message>
     <message>
@@ -573,7 +575,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     </message>
     <message>
         <source>Shift</source>
-        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it ("Umschalt" in German)</extracomment>
+        <extracomment>The Shift key in a keyboard shortcut, as the desktop names it (&quot;Umschalt&quot; in German)</extracomment>
         <translation>Shift</translation>
     </message>
     <message>
@@ -597,7 +599,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
         <translation>开始使用 vantle</translation>
     </message>
     <message>
-        <source>You're all set.</source>
+        <source>You&apos;re all set.</source>
         <translation>一切就绪。</translation>
     </message>
     <message>
@@ -640,7 +642,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
-        <comment>Translate this string to the string 'LTR' in left-to-right languages or to 'RTL' in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
+        <comment>Translate this string to the string &apos;LTR&apos; in left-to-right languages or to &apos;RTL&apos; in right-to-left languages (such as Hebrew and Arabic) to get proper widget layout.</comment>
         <translation>LTR</translation>
     </message>
 </context>
@@ -651,7 +653,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
         <translation>软件更新</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>已是最新版本！</translation>
     </message>
     <message>
@@ -850,7 +852,9 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     </message>
     <message numerus="yes">
         <source>This will remove the oldest %n colors.</source>
-        <translation><numerusform>这将移除最旧的 %n 种颜色。</numerusform></translation>
+        <translation>
+            <numerusform>这将移除最旧的 %n 种颜色。</numerusform>
+        </translation>
     </message>
     <message>
         <source>Continue</source>
@@ -878,7 +882,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     </message>
     <message>
         <source>More %1</source>
-        <extracomment>The tab of the maker's other applications; %1 is the maker's name</extracomment>
+        <extracomment>The tab of the maker&apos;s other applications; %1 is the maker&apos;s name</extracomment>
         <translation>%1 的更多应用</translation>
     </message>
 </context>

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ColorArgument.h"
+#include "app/CommandLine.h"
 
 #include "model/NumberText.h"
 
@@ -140,8 +141,8 @@ std::optional<QString> appendColorWord(const QString &word, QList<ColorComponent
         return std::nullopt;
     }
     if (word.startsWith(u'-') && word.size() > 1 && !word[1].isDigit() && word[1] != u'.')
-        return QStringLiteral("unknown option \"%1\"").arg(word);
-    return QStringLiteral("cannot read the colour \"%1\"; accepted: %2").arg(word, acceptedColorsText());
+        return CommandLine::tr("unknown option \"%1\"").arg(word);
+    return CommandLine::tr("cannot read the colour \"%1\"; accepted: %2").arg(word, acceptedColorsText());
 }
 
 std::optional<ColorFormat> parseFormatArgument(const QString &text)
@@ -157,8 +158,8 @@ std::optional<ColorFormat> parseFormatArgument(const QString &text)
 
 QString acceptedColorsText()
 {
-    return QStringLiteral("any text Vantle writes (#RRGGBB, rgb(), rgba(), hsl(), hsb(), R, G, B, Color(), "
-                          "UIColor()), #RGB, RRGGBB, or r,g,b[,a] with components such as 1.0,0.42,0.21");
+    return CommandLine::tr("any text Vantle writes (#RRGGBB, rgb(), rgba(), hsl(), hsb(), R, G, B, Color(), "
+                           "UIColor()), #RGB, RRGGBB, or r,g,b[,a] with components such as 1.0,0.42,0.21");
 }
 
 QString acceptedFormatsText()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <QTextStream>
 #include <optional>
@@ -9,6 +10,12 @@ class SettingsStore;
 
 // The command line: small subcommands, each a function of its arguments (after the
 // subcommand's name) and its streams, returning the exit status. `main` only dispatches.
+
+// The texts the command line shows people (help and errors) are translated in this context;
+// the data it prints for scripts (colours, JSON, the fields of `contrast`) never is.
+struct CommandLine {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
 
 struct CommandContext {
     QTextStream &out;

@@ -39,24 +39,26 @@ int runContrastCommand(const QStringList &args, CommandContext &context)
         if (word == u"--json" || word == u"-j") {
             json = true;
         } else if (word == u"--help" || word == u"-h") {
-            context.out << "Usage: vantle contrast [--json] FOREGROUND BACKGROUND\n"
-                        << "The WCAG 2 contrast ratio of FOREGROUND (text, an icon, a border) on\n"
-                           "BACKGROUND, its grades for normal text (AA 4.5, AAA 7), large text (AA 3,\n"
-                           "AAA 4.5) and non-text parts (3), and the APCA lightness contrast Lc\n"
-                           "(negative for light on dark). A translucent foreground is drawn on the\n"
-                           "background first; the background must be opaque.\n"
-                        << "Colours: " << acceptedColorsText() << "\n";
+            context.out << CommandLine::tr(
+                "Usage: vantle contrast [--json] FOREGROUND BACKGROUND\n"
+                "The WCAG 2 contrast ratio of FOREGROUND (text, an icon, a border) on\n"
+                "BACKGROUND, its grades for normal text (AA 4.5, AAA 7), large text (AA 3,\n"
+                "AAA 4.5) and non-text parts (3), and the APCA lightness contrast Lc\n"
+                "(negative for light on dark). A translucent foreground is drawn on the\n"
+                "background first; the background must be opaque.")
+                        << '\n'
+                        << CommandLine::tr("Colours: %1").arg(acceptedColorsText()) << '\n';
             return ExitStatus::ok;
         } else if (const auto reason = appendColorWord(word, colors)) {
             return usageError(*reason);
         }
     }
     if (colors.size() != 2)
-        return usageError(
-            QStringLiteral("needs a foreground and a background colour, %1 given").arg(colors.size()));
+        return usageError(CommandLine::tr(
+            "needs a foreground and a background colour, %n given", nullptr, int(colors.size())));
     const ColorComponents &fg = colors[0], &bg = colors[1];
     if (bg.alpha < 1)
-        return usageError(QStringLiteral("the background must be opaque (its alpha is %1)")
+        return usageError(CommandLine::tr("the background must be opaque (its alpha is %1)")
                               .arg(NumberText::fixed(bg.alpha, 2)));
 
     const ContrastPair pair

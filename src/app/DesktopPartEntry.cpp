@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CommandLine.h"
 #include "app/DesktopPart.h"
+#include "app/Translations.h"
 #include "app/TrayApplication.h"
 #include "platform/DesktopSession.h"
 #include "platform/wayland/DataControlProbe.h"
@@ -54,6 +55,7 @@ extern "C" Q_DECL_EXPORT int vantleDesktopMain(int argc, char **argv)
                            << "through XWayland: the compositor offers no data-control";
     }
     setApplicationIdentity();
+    installTranslations();
     installAccessibleWidgets();
     if (tray)
         return runTrayApplication();

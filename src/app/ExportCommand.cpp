@@ -34,17 +34,18 @@ int runExportCommand(const QStringList &args, CommandContext &context)
             else if (i + 1 < args.size())
                 outputPath = args[++i];
             else
-                return usageError(QStringLiteral("-o needs a file name"));
+                return usageError(CommandLine::tr("-o needs a file name"));
             if (outputPath->isEmpty())
-                return usageError(QStringLiteral("-o needs a file name"));
+                return usageError(CommandLine::tr("-o needs a file name"));
         } else if (word == u"--help" || word == u"-h") {
-            context.out
-                << "Usage: vantle export [--pinned] [--json] [-o FILE]\n"
-                << "Prints the stored colour history (with --pinned only the pinned colours), newest\n"
-                << "first, as text in the preferred format or as JSON; -o writes it to FILE.\n";
+            context.out << CommandLine::tr(
+                "Usage: vantle export [--pinned] [--json] [-o FILE]\n"
+                "Prints the stored colour history (with --pinned only the pinned colours), newest\n"
+                "first, as text in the preferred format or as JSON; -o writes it to FILE.")
+                        << '\n';
             return ExitStatus::ok;
         } else {
-            return usageError(QStringLiteral("unknown argument \"%1\"").arg(word));
+            return usageError(CommandLine::tr("unknown argument \"%1\"").arg(word));
         }
     }
 
@@ -56,8 +57,9 @@ int runExportCommand(const QStringList &args, CommandContext &context)
             // like a lost history, so say so, and where it lies: in a file of its own, or still
             // in the settings file where earlier versions kept it.
             const QString dataPath = context.store.dataFilePath(PreferenceKeys::colorHistory);
-            context.err << "vantle export: the stored colour history cannot be read ("
-                        << (QFileInfo::exists(dataPath) ? dataPath : context.store.filePath()) << ")"
+            context.err << "vantle export: "
+                        << CommandLine::tr("the stored colour history cannot be read (%1)")
+                               .arg(QFileInfo::exists(dataPath) ? dataPath : context.store.filePath())
                         << Qt::endl;
             return ExitStatus::failure;
         }
@@ -70,7 +72,8 @@ int runExportCommand(const QStringList &args, CommandContext &context)
         = asJSON ? exportJSON(colors) : exportText(colors, SettingsViewModel::currentFormat(context.store));
     if (outputPath) {
         if (const std::optional<QString> failure = writeFileAtomically(*outputPath, content)) {
-            context.err << "vantle export: cannot write \"" << *outputPath << "\": " << *failure << Qt::endl;
+            context.err << "vantle export: "
+                        << CommandLine::tr("cannot write \"%1\": %2").arg(*outputPath, *failure) << Qt::endl;
             return ExitStatus::failure;
         }
         return ExitStatus::ok;

@@ -40,28 +40,30 @@ int runFormatCommand(const QStringList &args, CommandContext &context)
                 name = args[++i];
             else
                 return usageError(
-                    QStringLiteral("--format needs a format name; accepted: ") + acceptedFormatsText());
+                    CommandLine::tr("--format needs a format name; accepted: %1").arg(acceptedFormatsText()));
             format = parseFormatArgument(name);
             if (!format)
                 return usageError(
-                    QStringLiteral("unknown format \"%1\"; accepted: %2").arg(name, acceptedFormatsText()));
+                    CommandLine::tr("unknown format \"%1\"; accepted: %2").arg(name, acceptedFormatsText()));
         } else if (word == u"--all" || word == u"-a") {
             all = true;
         } else if (word == u"--contrast" || word == u"-c") {
             contrast = true;
         } else if (word == u"--help" || word == u"-h") {
-            context.out << "Usage: vantle format [--format NAME | --all] [--contrast] COLOR...\n"
-                        << "Colours: " << acceptedColorsText() << "\n"
-                        << "Formats: " << acceptedFormatsText() << "\n";
+            context.out << CommandLine::tr(
+                "Usage: vantle format [--format NAME | --all] [--contrast] COLOR...")
+                        << '\n'
+                        << CommandLine::tr("Colours: %1").arg(acceptedColorsText()) << '\n'
+                        << CommandLine::tr("Formats: %1").arg(acceptedFormatsText()) << '\n';
             return ExitStatus::ok;
         } else if (const auto reason = appendColorWord(word, colors)) {
             return usageError(*reason);
         }
     }
     if (all && format)
-        return usageError(QStringLiteral("--format and --all cannot be used together"));
+        return usageError(CommandLine::tr("--format and --all cannot be used together"));
     if (colors.isEmpty())
-        return usageError(QStringLiteral("no colour given; accepted: ") + acceptedColorsText());
+        return usageError(CommandLine::tr("no colour given; accepted: %1").arg(acceptedColorsText()));
 
     const ColorFormat preferred = format.value_or(SettingsViewModel::currentFormat(context.store));
     for (qsizetype i = 0; i < colors.size(); ++i) {

@@ -2,6 +2,7 @@
 #include "app/InstanceClient.h"
 
 #include "app/AppIdentity.h"
+#include "app/CommandLine.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -84,14 +85,14 @@ bool sendOverSocket(const QString &method, QString *error)
     std::unique_ptr<Socket> socket;
     for (;;) {
         if (!instanceIsRunning()) {
-            *error = QStringLiteral("Vantle is not running.");
+            *error = CommandLine::tr("Vantle is not running.");
             return false;
         }
         socket = std::make_unique<Socket>();
         if (socket->connectTo(path))
             break;
         if (deadline.hasExpired()) {
-            *error = QStringLiteral("the running Vantle did not answer.");
+            *error = CommandLine::tr("the running Vantle did not answer.");
             return false;
         }
         QThread::msleep(20);
@@ -112,7 +113,7 @@ bool sendOverSocket(const QString &method, QString *error)
         answer.append(buffer, got);
     }
     if (!answer.startsWith("ok\n")) {
-        *error = QStringLiteral("the running Vantle did not answer.");
+        *error = CommandLine::tr("the running Vantle did not answer.");
         return false;
     }
     return true;
@@ -157,7 +158,7 @@ bool sendInstanceRequest(const QString &method, QString *error)
     if (!bus.isConnected())
         return sendOverSocket(method, error);
     if (!bus.interface()->isServiceRegistered(serviceName).value()) {
-        *error = QStringLiteral("Vantle is not running.");
+        *error = CommandLine::tr("Vantle is not running.");
         return false;
     }
     const QDBusMessage call
@@ -165,7 +166,7 @@ bool sendInstanceRequest(const QString &method, QString *error)
             QString::fromLatin1(AppIdentity::dbusInterface), method);
     const QDBusMessage reply = bus.call(call, QDBus::Block, requestTimeoutMs);
     if (reply.type() == QDBusMessage::ErrorMessage) {
-        *error = QStringLiteral("the running Vantle did not answer (%1).").arg(reply.errorMessage());
+        *error = CommandLine::tr("the running Vantle did not answer (%1).").arg(reply.errorMessage());
         return false;
     }
     return true;

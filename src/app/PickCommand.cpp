@@ -23,18 +23,23 @@ int runPickPrintCommand(const QStringList &args, CommandContext &context)
             else if (i + 1 < args.size())
                 name = args[++i];
             else {
-                context.err << "vantle pick: --format needs a format name; accepted: "
-                            << acceptedFormatsText() << Qt::endl;
+                context.err << "vantle pick: "
+                            << CommandLine::tr("--format needs a format name; accepted: %1")
+                                   .arg(acceptedFormatsText())
+                            << Qt::endl;
                 return ExitStatus::usage;
             }
             format = parseFormatArgument(name);
             if (!format) {
-                context.err << "vantle pick: unknown format \"" << name
-                            << "\"; accepted: " << acceptedFormatsText() << Qt::endl;
+                context.err
+                    << "vantle pick: "
+                    << CommandLine::tr("unknown format \"%1\"; accepted: %2").arg(name, acceptedFormatsText())
+                    << Qt::endl;
                 return ExitStatus::usage;
             }
         } else {
-            context.err << "vantle pick: unknown option \"" << args[i] << "\"" << Qt::endl;
+            context.err << "vantle pick: " << CommandLine::tr("unknown option \"%1\"").arg(args[i])
+                        << Qt::endl;
             return ExitStatus::usage;
         }
     }

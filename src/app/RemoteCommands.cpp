@@ -7,13 +7,15 @@ namespace {
 int sendRequest(const char *command, const QString &method, const QStringList &args, CommandContext &context)
 {
     if (!args.isEmpty()) {
-        context.err << "vantle " << command << ": unexpected argument \"" << args.first() << "\"\n";
+        context.err << "vantle " << command << ": "
+                    << CommandLine::tr("unexpected argument \"%1\"").arg(args.first()) << '\n';
         return ExitStatus::usage;
     }
     QString error;
     if (!sendInstanceRequest(method, &error)) {
-        context.err << "vantle " << command << ": " << error
-                    << " Start it with `vantle` (or from your applications menu) first.\n";
+        context.err << "vantle " << command << ": " << error << ' '
+                    << CommandLine::tr("Start it with `vantle` (or from your applications menu) first.")
+                    << '\n';
         return ExitStatus::failure;
     }
     return ExitStatus::ok;

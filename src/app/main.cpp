@@ -3,6 +3,7 @@
 #include "app/CommandLine.h"
 #include "app/DesktopPart.h"
 #include "app/RemoteCommands.h"
+#include "app/Translations.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
 
@@ -39,7 +40,8 @@ int runSubcommand(const QString &name, const QStringList &args)
     for (const Command &command : commands)
         if (name == QLatin1String(command.name))
             return command.run(args, context);
-    err << "vantle: the command \"" << name << "\" is not available in this build\n";
+    err << "vantle: " << CommandLine::tr("the command \"%1\" is not available in this build").arg(name)
+        << '\n';
     return ExitStatus::usage;
 }
 
@@ -56,8 +58,12 @@ int runDesktopPart(int argc, char **argv)
     auto entry = module ? reinterpret_cast<DesktopPart::EntryPoint>(::dlsym(module, DesktopPart::entryPoint))
                         : nullptr;
     if (!entry) {
-        QTextStream(stderr) << "vantle: the desktop part of Vantle cannot be loaded (" << ::dlerror()
-                            << "). Reinstalling Vantle puts it back.\n";
+        QTextStream(stderr) << "vantle: "
+                            << CommandLine::tr(
+                                   "the desktop part of Vantle cannot be loaded (%1). Reinstalling "
+                                   "Vantle puts it back.")
+                                   .arg(QString::fromLocal8Bit(::dlerror()))
+                            << '\n';
         return ExitStatus::failure;
     }
     return entry(argc, argv);
@@ -75,6 +81,7 @@ int main(int argc, char **argv)
         args << QString::fromLocal8Bit(argv[i]);
     QCoreApplication app(argc, argv);
     setApplicationIdentity();
+    installTranslations();
 
     QTextStream out(stdout);
     if (isSubcommand(args.first()))
@@ -84,7 +91,9 @@ int main(int argc, char **argv)
         return ExitStatus::ok;
     }
     if (args.first() != u"--help" && args.first() != u"-h") {
-        QTextStream(stderr) << "vantle: unknown command \"" << args.first() << "\"\n\n" << commandLineHelp();
+        QTextStream(stderr) << "vantle: " << CommandLine::tr("unknown command \"%1\"").arg(args.first())
+                            << "\n\n"
+                            << commandLineHelp();
         return ExitStatus::usage;
     }
     out << commandLineHelp();

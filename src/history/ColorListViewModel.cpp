@@ -44,7 +44,8 @@ std::optional<QList<PickedColor>> trimmed(const QList<PickedColor> &colors, qint
 
 QString copiedMessage(const QString &text)
 {
-    return QStringLiteral("Copied ") + text;
+    //: The confirmation after a copy; %1 is the colour text put on the clipboard
+    return ColorListViewModel::tr("Copied %1").arg(text);
 }
 
 } // namespace
@@ -131,7 +132,7 @@ void ColorListViewModel::copyText(const QString &text)
     if (m_clipboard.setText(text))
         m_confirmation.showHUD(copiedMessage(text));
     else
-        m_confirmation.showHUD(QStringLiteral("Not copied: the clipboard is not available"));
+        m_confirmation.showHUD(tr("Not copied: the clipboard is not available"));
 }
 
 qsizetype ColorListViewModel::indexOf(const QUuid &id) const

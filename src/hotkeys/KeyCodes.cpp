@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hotkeys/KeyCodes.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <array>
 #include <limits>
@@ -259,11 +260,16 @@ struct Modifier {
     const char *word;
     const char *portalName;
 };
+// The words are translated as the desktops write them in each language (German "Strg").
 constexpr std::array modifierOrder {
-    Modifier { controlFlag, "Ctrl", "CTRL" },
-    Modifier { optionFlag, "Alt", "ALT" },
-    Modifier { shiftFlag, "Shift", "SHIFT" },
-    Modifier { commandFlag, "Super", "LOGO" },
+    //: The Control key in a keyboard shortcut, as the desktop names it ("Strg" in German)
+    Modifier { controlFlag, QT_TRANSLATE_NOOP("KeyCodes", "Ctrl"), "CTRL" },
+    //: The Alt key in a keyboard shortcut, as the desktop names it
+    Modifier { optionFlag, QT_TRANSLATE_NOOP("KeyCodes", "Alt"), "ALT" },
+    //: The Shift key in a keyboard shortcut, as the desktop names it ("Umschalt" in German)
+    Modifier { shiftFlag, QT_TRANSLATE_NOOP("KeyCodes", "Shift"), "SHIFT" },
+    //: The Super (logo) key in a keyboard shortcut, as the desktop names it
+    Modifier { commandFlag, QT_TRANSLATE_NOOP("KeyCodes", "Super"), "LOGO" },
 };
 
 } // namespace
@@ -393,7 +399,7 @@ QString shortcutDesktopText(qint64 modifiers, const QString &keyChar)
     QStringList parts;
     for (const Modifier &modifier : modifierOrder) {
         if (modifiers & modifier.flag)
-            parts << QLatin1String(modifier.word);
+            parts << QCoreApplication::translate("KeyCodes", modifier.word);
     }
     parts << keyChar;
     return parts.join(QLatin1Char('+'));

@@ -3,6 +3,7 @@
 
 #include "model/NumberText.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -14,11 +15,16 @@ struct FormatNames {
     const char *caseName;
 };
 
+// The raw values are stored and read by the command line as they are; people see them through
+// formatLabel(), translated where a word in them is (the others are names of notations).
 constexpr FormatNames names[] = {
-    { ColorFormat::hex, "Hex", "hex" },
-    { ColorFormat::hexLower, "Hex (lowercase)", "hexLower" },
+    //: The name of a colour format: hexadecimal digits, as in #FF6B36
+    { ColorFormat::hex, QT_TRANSLATE_NOOP("ColorFormat", "Hex"), "hex" },
+    //: The name of a colour format: hexadecimal digits in lower case, as in #ff6b36
+    { ColorFormat::hexLower, QT_TRANSLATE_NOOP("ColorFormat", "Hex (lowercase)"), "hexLower" },
     { ColorFormat::rgb, "RGB", "rgb" },
-    { ColorFormat::rgbDecimal, "RGB (decimal)", "rgbDecimal" },
+    //: The name of a colour format: red, green and blue as whole numbers 0 to 255, as in 255, 107, 54
+    { ColorFormat::rgbDecimal, QT_TRANSLATE_NOOP("ColorFormat", "RGB (decimal)"), "rgbDecimal" },
     { ColorFormat::hsl, "HSL", "hsl" },
     { ColorFormat::hsb, "HSB/HSV", "hsb" },
     { ColorFormat::swiftUI, "SwiftUI Color", "swiftUI" },
@@ -91,6 +97,11 @@ QString percentTriple(const char *prefix, const HueSaturationValue &v)
 QString rawValue(ColorFormat format)
 {
     return QString::fromLatin1(namesOf(format).raw);
+}
+
+QString formatLabel(ColorFormat format)
+{
+    return QCoreApplication::translate("ColorFormat", namesOf(format).raw);
 }
 
 QString caseName(ColorFormat format)

@@ -24,6 +24,8 @@ inline constexpr std::array<ColorFormat, 9> allColorFormats = {
 };
 
 QString rawValue(ColorFormat format);
+// The format's name as people read it ("Hex", "RGB (decimal)"), in their language.
+QString formatLabel(ColorFormat format);
 // The identifier-style case name ("hexLower"), used by the command line.
 QString caseName(ColorFormat format);
 // Exact, case-sensitive match against the nine raw values.

@@ -114,21 +114,35 @@ ApcaUse apcaUse(double lc)
     return ApcaUse::invisible;
 }
 
-QString apcaUseText(ApcaUse use)
+namespace {
+
+const char *apcaUseSource(ApcaUse use)
 {
     switch (use) {
     case ApcaUse::bodyText:
-        return QCoreApplication::translate("Contrast", "body text");
+        return QT_TRANSLATE_NOOP("Contrast", "body text");
     case ApcaUse::largeText:
-        return QCoreApplication::translate("Contrast", "large or bold text");
+        return QT_TRANSLATE_NOOP("Contrast", "large or bold text");
     case ApcaUse::headlines:
-        return QCoreApplication::translate("Contrast", "headlines");
+        return QT_TRANSLATE_NOOP("Contrast", "headlines");
     case ApcaUse::nonText:
-        return QCoreApplication::translate("Contrast", "non-text only");
+        return QT_TRANSLATE_NOOP("Contrast", "non-text only");
     case ApcaUse::barelyVisible:
-        return QCoreApplication::translate("Contrast", "dividers and disabled parts only");
+        return QT_TRANSLATE_NOOP("Contrast", "dividers and disabled parts only");
     case ApcaUse::invisible:
         break;
     }
-    return QCoreApplication::translate("Contrast", "invisible");
+    return QT_TRANSLATE_NOOP("Contrast", "invisible");
+}
+
+} // namespace
+
+QString apcaUseText(ApcaUse use)
+{
+    return QString::fromLatin1(apcaUseSource(use));
+}
+
+QString apcaUseLabel(ApcaUse use)
+{
+    return QCoreApplication::translate("Contrast", apcaUseSource(use));
 }

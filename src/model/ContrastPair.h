@@ -26,8 +26,11 @@ QString nonTextGradeText(bool passes);
 // What an APCA lightness contrast is enough for, by its size.
 enum class ApcaUse { invisible, barelyVisible, nonText, headlines, largeText, bodyText };
 ApcaUse apcaUse(double lc);
-// The plain reading of an APCA use, e.g. "body text", translatable.
+// The plain reading of an APCA use, e.g. "body text", in English: the command line prints it
+// for scripts.
 QString apcaUseText(ApcaUse use);
+// The same words as people read them, in their language.
+QString apcaUseLabel(ApcaUse use);
 
 struct ContrastPair {
     OpaqueColor foreground; // after compositing

@@ -247,7 +247,7 @@ void ContrastComparisonView::measure()
         m_rows[i]->setAccessibleName(tr("%1: %2, %3").arg(m_gradeNames[i], grades[i], spokenRatio));
     }
     const QString lc = NumberText::fixed(m_pair.apcaLc, 1);
-    const QString reading = apcaUseText(apcaUse(m_pair.apcaLc));
+    const QString reading = apcaUseLabel(apcaUse(m_pair.apcaLc));
     m_lc->setText(tr("Lc %1").arg(lc));
     m_reading->setText(reading);
     m_rows[3]->setAccessibleName(tr("APCA: Lc %1, %2").arg(lc, reading));

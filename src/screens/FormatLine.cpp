@@ -24,7 +24,7 @@ FormatLine::FormatLine(ColorFormat format, const QString &value, QWidget *parent
     , m_format(format)
     , m_value(value)
 {
-    setText(rawValue(format));
+    setText(formatLabel(format));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -33,7 +33,7 @@ FormatLine::FormatLine(ColorFormat format, const QString &value, QWidget *parent
     texts->setContentsMargins(
         horizontalPadding, verticalPadding, horizontalPadding + markSize + spacing, verticalPadding);
     texts->setSpacing(1);
-    auto *label = new ElidedLabel(rawValue(format), Theme::font(11), &Theme::secondaryText, this);
+    auto *label = new ElidedLabel(formatLabel(format), Theme::font(11), &Theme::secondaryText, this);
     label->setObjectName(QStringLiteral("formatLabel"));
     texts->addWidget(label);
     m_valueLabel = new ElidedLabel(value, Theme::monospacedFont(valuePixelSize), &Theme::text, this);
@@ -47,7 +47,7 @@ FormatLine::FormatLine(ColorFormat format, const QString &value, QWidget *parent
     texts->addWidget(m_valueLabel);
 
     // Read as shown: the format, then its text; what a press does is the description.
-    setAccessibleName(rawValue(format) + QStringLiteral(", ") + value);
+    setAccessibleName(formatLabel(format) + QStringLiteral(", ") + value);
     setAccessibleDescription(tr("Copy"));
     setToolTip(value);
 }

@@ -66,7 +66,7 @@ QWidget *SettingsView::makeGeneralPage()
     m_formatPicker = new QComboBox;
     m_formatPicker->setAccessibleName(tr("Default format"));
     for (const ColorFormat format : allColorFormats)
-        m_formatPicker->addItem(rawValue(format));
+        m_formatPicker->addItem(formatLabel(format));
     connect(m_formatPicker, &QComboBox::activated, this, [this](int index) {
         if (index >= 0 && index < int(allColorFormats.size()))
             m_store.setString(PreferenceKeys::colorFormat, rawValue(allColorFormats[size_t(index)]));
@@ -194,7 +194,7 @@ void SettingsView::requestHistoryLimit(qint64 limit)
     alert->setText(tr("Reduce History"));
     alert->setInformativeText(m_colorsToRemoveCount == 1
             ? tr("This will remove the oldest 1 color.")
-            : tr("This will remove the oldest %1 colors.").arg(QString::number(m_colorsToRemoveCount)));
+            : tr("This will remove the oldest %n colors.", nullptr, int(m_colorsToRemoveCount)));
     QPushButton *continueButton = alert->addButton(tr("Continue"), QMessageBox::DestructiveRole);
     QPushButton *cancelButton = alert->addButton(tr("Cancel"), QMessageBox::RejectRole);
     alert->setDefaultButton(cancelButton);

@@ -104,7 +104,9 @@ QWidget *SettingsView::makeTabBar()
     const std::array<TabInfo, 3> tabs = { {
         { generalTab, tr("General"), QStringLiteral("gear") },
         { aboutTab, tr("About"), QStringLiteral("info.circle") },
-        { moreTab, tr("More Brindlework"), QStringLiteral("square.grid.2x2") },
+        //: The tab of the maker's other applications; %1 is the maker's name
+        { moreTab, tr("More %1").arg(QString::fromUtf8(BuildInfo::makerName)),
+            QStringLiteral("square.grid.2x2") },
     } };
 
     auto *bar = new QWidget;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/CommandLine.h"
 #include "app/ColorArgument.h"
+#include "app/Translations.h"
 #include "history/PaletteExport.h"
 #include "model/ColorHistoryCodec.h"
 #include "services/PreferenceKeys.h"
@@ -8,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QTranslator>
 #include <gtest/gtest.h>
 
 namespace {
@@ -230,6 +232,49 @@ TEST_F(ExportCommandTest, RefusesWhatItCannotDo)
     t.store->removeObject(PreferenceKeys::colorHistory);
     EXPECT_EQ(runExport({ QStringLiteral("--json") }, *t.store).out, u"[\n\n]\n");
     EXPECT_EQ(runExport({}, *t.store).out, QString());
+}
+
+// Scripts read the colours, the JSON and the fields of `contrast` in every language; people read
+// the errors in theirs. English, listed first, wins over a translation listed after it.
+TEST(CommandLineLanguage, TranslatesMessagesButNeverData)
+{
+    const struct {
+        QStringList asked;
+        const char16_t *installed;
+    } choices[] = { { { QStringLiteral("en-GB"), QStringLiteral("de") }, u"" },
+        { { QStringLiteral("C") }, u"" }, { { QStringLiteral("xx"), QStringLiteral("de") }, u"de" },
+        { { QStringLiteral("de-AT") }, u"de_AT" } };
+    for (const auto &choice : choices) {
+        EXPECT_EQ(installTranslations(choice.asked), QString::fromUtf16(choice.installed));
+        qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    }
+
+    TempSettings t;
+    t.store->setString(PreferenceKeys::colorFormat, QStringLiteral("RGB (decimal)"));
+    const struct {
+        int (*command)(const QStringList &, CommandContext &);
+        QStringList args;
+    } runs[] = {
+        { runFormatCommand,
+            { QStringLiteral("--all"), QStringLiteral("--contrast"), QStringLiteral("0.2,0.4,0.8") } },
+        { runFormatCommand, { QStringLiteral("#FF6B36") } },
+        { runContrastCommand, { QStringLiteral("#888"), QStringLiteral("#FFF") } },
+        { runContrastCommand, { QStringLiteral("--json"), QStringLiteral("#fff"), QStringLiteral("#888") } },
+        { runFormatCommand, { QStringLiteral("zz") } },
+    };
+    QList<CommandRun> english;
+    for (const auto &r : runs)
+        english << run(r.command, r.args, *t.store);
+    ASSERT_EQ(installTranslations({ QStringLiteral("de-DE") }), QStringLiteral("de_DE"));
+    for (qsizetype i = 0; i < english.size(); ++i) {
+        const CommandRun german = run(runs[i].command, runs[i].args, *t.store);
+        EXPECT_EQ(std::tuple(german.status, german.out), std::tuple(english[i].status, english[i].out));
+        EXPECT_EQ(german.err.isEmpty(), english[i].err.isEmpty());
+        if (!german.err.isEmpty()) {
+            EXPECT_TRUE(german.err.startsWith(u"vantle format: die Farbe „zz“")) << qPrintable(german.err);
+        }
+    }
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
 }
 
 } // namespace

@@ -11,6 +11,9 @@
 //                                                for hotspot (HX, HY) over the pattern, every cell
 //                                                the magnified pattern pixel (beyond the screen:
 //                                                black); otherwise prints what differs
+//   set-profile INDEX [FILE]                     puts FILE's bytes on the root window as the
+//                                                colour profile of monitor INDEX (from 0); without
+//                                                FILE removes that monitor's profile
 #include "platform/x11/SamplerGeometry.h"
 #include "platform/x11/SamplerLoupe.h"
 
@@ -189,12 +192,44 @@ int waitForGrab(double seconds)
     return 1;
 }
 
+// What a colour manager does: the profile's bytes on the root window, _ICC_PROFILE for the
+// first monitor and _ICC_PROFILE_<INDEX> for the others.
+int setProfile(int index, const char *file)
+{
+    QByteArray bytes;
+    if (file) {
+        QFile profile(QString::fromLocal8Bit(file));
+        if (!profile.open(QIODevice::ReadOnly))
+            return 1;
+        bytes = profile.readAll();
+    }
+    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
+    if (xcb_connection_has_error(connection))
+        return 1;
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    const QByteArray name
+        = index == 0 ? QByteArray("_ICC_PROFILE") : "_ICC_PROFILE_" + QByteArray::number(index);
+    xcb_intern_atom_reply_t *atom = xcb_intern_atom_reply(
+        connection, xcb_intern_atom(connection, 0, uint16_t(name.size()), name.constData()), nullptr);
+    if (file)
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, root, atom->atom, XCB_ATOM_CARDINAL, 8,
+            uint32_t(bytes.size()), bytes.constData());
+    else
+        xcb_delete_property(connection, root, atom->atom);
+    std::free(atom);
+    free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr)); // a round trip
+    xcb_disconnect(connection);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     if (argc == 3 && QByteArray(argv[1]) == "wait-grab")
         return waitForGrab(std::atof(argv[2]));
+    if ((argc == 3 || argc == 4) && QByteArray(argv[1]) == "set-profile")
+        return setProfile(std::atoi(argv[2]), argc == 4 ? argv[3] : nullptr);
     if (argc == 2 && QByteArray(argv[1]) == "pattern")
         return paintPattern();
     if (argc == 4 && QByteArray(argv[1]) == "pattern-hex") {
@@ -209,7 +244,7 @@ int main(int argc, char **argv)
     if (argc != 9 || QByteArray(argv[1]) != "target") {
         std::fprintf(stderr,
             "usage: %s target X Y W H LEFT RIGHT FILE | wait-grab SECONDS | pattern"
-            " | pattern-hex X Y | check-loupe SHOT HX HY\n",
+            " | pattern-hex X Y | check-loupe SHOT HX HY | set-profile INDEX [FILE]\n",
             argv[0]);
         return 2;
     }

@@ -116,4 +116,78 @@ done
 status=0
 "$vantle" pick 2>"$work/err" >/dev/null || status=$?
 [[ $status == 1 ]] && grep -q '^vantle pick: ' "$work/err" || fail "plain 'vantle pick' gave $status"
+
+# Colour-managed picks, through every route, on two monitors (the screen split in halves by
+# RandR), while the tray Vantle runs: each row first puts the profiles of colord's collection on
+# the root window as a colour manager does ("-": none, "bad": a profile cut short, Crayons: a
+# named-colour profile, not a display's), then picks. The
+# copied text is the sRGB colour littleCMS's transicc gives for the pixel under its monitor's
+# profile; without a usable profile, the pixel as it is.
+need_tools transicc xrandr xclip python3
+icc=/usr/share/color/icc/colord
+[[ -r $icc/SwappedRedAndGreen.icc ]] || { echo "SKIP: colord-data is not installed" >&2; exit 77; }
+head -c 600 "$icc/AdobeRGB1998.icc" >"$work/bad.icc" # a profile cut short
+xrandr --setmonitor Left 640/169x800/254+0+0 screen >/dev/null
+xrandr --setmonitor Right 640/169x800/254+640+0 none >/dev/null
+# #8040C8 on the left monitor (x 440..639), red on the right one (x 640..839).
+"$helper" target 440 500 400 200 '#8040C8' '#FF0000' "$work/presses" >"$work/target2.out" &
+pids+=($!)
+wait_for 10 grep -q ready "$work/target2.out" || fail "the second target window did not appear"
+printf '[General]\nonboardingShown=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
+"$vantle" 2>"$work/tray.log" &
+pids+=($!)
+wait_for 20 "$vantle" export || fail "the tray Vantle did not start: $(cat "$work/tray.log")"
+reference() { # reference PROFILE R G B: the sRGB colour as #RRGGBB, by transicc
+    printf '%s %s %s\n' "$2" "$3" "$4" | transicc -t1 -i "$icc/$1.icc" -o '*sRGB' -n 2>/dev/null \
+        | awk 'NF == 3 { printf "#"; for (i = 1; i <= 3; i++) { v = int($i + 0.5); printf "%02X", (v < 0 ? 0 : v > 255 ? 255 : v) } }'
+}
+put_profile() { # put_profile MONITOR NAME|-|bad
+    case $2 in
+        -) "$helper" set-profile "$1" ;;
+        bad) "$helper" set-profile "$1" "$work/bad.icc" ;;
+        *) "$helper" set-profile "$1" "$icc/$2.icc" ;;
+    esac
+}
+clipboard_is() { [[ $(xclip -o -selection clipboard 2>/dev/null) == "$1" ]]; }
+# left monitor's profile | right monitor's | route | x | the pixel there
+while read -r left right route x pixel; do
+    put_profile 0 "$left" && put_profile 1 "$right"
+    profile=$left && ((x >= 640)) && profile=$right
+    IFS=, read -r r g b <<<"$pixel"
+    expected=$(printf '#%02X%02X%02X' "$r" "$g" "$b")
+    [[ $profile == - || $profile == bad || $profile == Crayons ]] || expected=$(reference "$profile" "$r" "$g" "$b")
+    echo none | xclip -selection clipboard
+    xdotool mousemove "$x" 600
+    case $route in
+        print) start_pick hex ;;
+        pick) "$vantle" pick && "$helper" wait-grab 20 || fail "vantle pick did not start a pick" ;;
+        shortcut) xdotool key --clearmodifiers alt+shift+c && "$helper" wait-grab 20 || fail "no pick by shortcut" ;;
+    esac
+    xdotool click 1
+    if [[ $route == print ]]; then
+        finish_pick 0
+        copied=$(cat "$work/out")
+    else
+        wait_for 10 clipboard_is "$expected" || true
+        copied=$(xclip -o -selection clipboard)
+    fi
+    [[ $copied == "$expected" ]] || fail "$left | $right, $route at x $x: copied $copied, expected $expected;" \
+        "$(grep -h colourprofiles "$work/err" "$work/tray.log" | tail -n 2)"
+done <<'TABLE'
+AdobeRGB1998 - print 500 128,64,200
+AdobeRGB1998 - shortcut 500 128,64,200
+SwappedRedAndGreen - pick 700 255,0,0
+- SwappedRedAndGreen pick 700 255,0,0
+- SwappedRedAndGreen print 500 128,64,200
+bad SwappedRedAndGreen pick 500 128,64,200
+Crayons bad print 700 255,0,0
+ProPhotoRGB Crayons pick 700 255,0,0
+ProPhotoRGB - pick 500 128,64,200
+- AdobeRGB1998 pick 500 128,64,200
+- AdobeRGB1998 pick 700 255,0,0
+TABLE
+# The last pick, Adobe RGB's red, is redder than sRGB can say: the record keeps it unclamped.
+red=$(python3 -c 'import json, sys; print(json.load(open(sys.argv[1]))[0]["red"])' \
+    "$XDG_CONFIG_HOME/Vantle/colorHistory.json")
+python3 -c "import sys; sys.exit(not 1.14 < $red < 1.18)" || fail "the stored red is $red, expected about 1.16"
 echo "sampler desktop test passed"

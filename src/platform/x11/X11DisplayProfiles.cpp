@@ -43,8 +43,12 @@ X11DisplayProfiles::X11DisplayProfiles(xcb_connection_t *connection, xcb_window_
     m_conversions.resize(profileSlots);
     refreshMonitors();
     readMonitors();
+    // All profiles asked for at once: one round trip at start, not one per monitor.
+    std::vector<xcb_get_property_cookie_t> properties;
     for (size_t i = 0; i < profileSlots; ++i)
-        load(i);
+        properties.push_back(requestProfile(i));
+    for (size_t i = 0; i < profileSlots; ++i)
+        load(i, xcb_get_property_reply(m_connection, properties[i], nullptr));
     // Qt already listens to the root window's property changes on this connection.
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
@@ -94,15 +98,15 @@ QString X11DisplayProfiles::monitorName(size_t index) const
     return name;
 }
 
-void X11DisplayProfiles::load(size_t index)
+xcb_get_property_cookie_t X11DisplayProfiles::requestProfile(size_t index)
+{
+    return xcb_get_property(
+        m_connection, 0, m_root, m_atoms[index], XCB_GET_PROPERTY_TYPE_ANY, 0, profileLongsLimit);
+}
+
+void X11DisplayProfiles::load(size_t index, xcb_get_property_reply_t *reply)
 {
     m_conversions[index].reset();
-    if (m_atoms[index] == XCB_NONE)
-        return;
-    xcb_get_property_reply_t *reply = xcb_get_property_reply(m_connection,
-        xcb_get_property(
-            m_connection, 0, m_root, m_atoms[index], XCB_GET_PROPERTY_TYPE_ANY, 0, profileLongsLimit),
-        nullptr);
     QString failure;
     if (!reply || reply->type == XCB_NONE) {
         failure
@@ -156,7 +160,9 @@ bool X11DisplayProfiles::nativeEventFilter(const QByteArray &eventType, void *me
     if (property->window != m_root || property->atom == XCB_NONE)
         return false;
     const auto slot = std::find(m_atoms.cbegin(), m_atoms.cend(), property->atom);
-    if (slot != m_atoms.cend())
-        load(size_t(slot - m_atoms.cbegin()));
+    if (slot != m_atoms.cend()) {
+        const size_t index = size_t(slot - m_atoms.cbegin());
+        load(index, xcb_get_property_reply(m_connection, requestProfile(index), nullptr));
+    }
     return false; // Qt may want it too
 }

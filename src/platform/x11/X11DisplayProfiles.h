@@ -36,7 +36,9 @@ public:
 
 private:
     void readMonitors();
-    void load(size_t index);
+    xcb_get_property_cookie_t requestProfile(size_t index);
+    // Builds monitor `index`'s conversion from its property; takes the reply.
+    void load(size_t index, xcb_get_property_reply_t *reply);
     QString monitorName(size_t index) const;
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 

@@ -117,12 +117,12 @@ status=0
 "$vantle" pick 2>"$work/err" >/dev/null || status=$?
 [[ $status == 1 ]] && grep -q '^vantle pick: ' "$work/err" || fail "plain 'vantle pick' gave $status"
 
-# Colour-managed picks, through every route, on two monitors (the screen split in halves by
-# RandR), while the tray Vantle runs: each row first puts the profiles of colord's collection on
-# the root window as a colour manager does ("-": none, "bad": a profile cut short, Crayons: a
-# named-colour profile, not a display's), then picks. The
-# copied text is the sRGB colour littleCMS's transicc gives for the pixel under its monitor's
-# profile; without a usable profile, the pixel as it is.
+# Colour-managed picks by shortcut, `vantle pick` and `vantle pick --print`, on two monitors (the
+# screen split in halves by RandR). Each row puts the profiles of colord's collection on the root
+# window as a colour manager does ("-": none, "bad": a profile cut short, Crayons: a named-colour
+# profile, no display's) while the tray Vantle runs, then picks. The text is the sRGB colour that
+# littleCMS's transicc gives for the pixel under its monitor's profile; without a usable profile,
+# the pixel as it is.
 need_tools transicc xrandr xclip python3
 icc=/usr/share/color/icc/colord
 [[ -r $icc/SwappedRedAndGreen.icc ]] || { echo "SKIP: colord-data is not installed" >&2; exit 77; }
@@ -136,7 +136,8 @@ wait_for 10 grep -q ready "$work/target2.out" || fail "the second target window 
 printf '[General]\nonboardingShown=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
 "$vantle" 2>"$work/tray.log" &
 pids+=($!)
-wait_for 20 "$vantle" export || fail "the tray Vantle did not start: $(cat "$work/tray.log")"
+# Its sampler has read the monitors' profiles (none yet): from now on it must follow changes.
+wait_for 20 grep -q 'monitor 2 (Right): no profile' "$work/tray.log" || fail "no profiles read: $(cat "$work/tray.log")"
 reference() { # reference PROFILE R G B: the sRGB colour as #RRGGBB, by transicc
     printf '%s %s %s\n' "$2" "$3" "$4" | transicc -t1 -i "$icc/$1.icc" -o '*sRGB' -n 2>/dev/null \
         | awk 'NF == 3 { printf "#"; for (i = 1; i <= 3; i++) { v = int($i + 0.5); printf "%02X", (v < 0 ? 0 : v > 255 ? 255 : v) } }'

@@ -61,7 +61,7 @@ DisplayColorConversion::Built DisplayColorConversion::fromIccProfile(const QByte
         return fail(QStringLiteral("not an RGB display profile"));
     }
     const cmsHPROFILE srgb = cmsCreate_sRGBProfileTHR(context);
-    // Floating point both ways, with no cache and no 16-bit shortcut: colours the monitor shows
+    // Floating point both ways, with no cache and no precalculated shortcut: colours the monitor shows
     // beyond sRGB keep their components outside 0...1.
     const cmsHTRANSFORM transform = cmsCreateTransformTHR(context, display, TYPE_RGB_DBL, srgb, TYPE_RGB_DBL,
         INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOCACHE | cmsFLAGS_NOOPTIMIZE);

@@ -107,28 +107,30 @@ xcb_get_property_cookie_t X11DisplayProfiles::requestProfile(size_t index)
 void X11DisplayProfiles::load(size_t index, xcb_get_property_reply_t *reply)
 {
     m_conversions[index].reset();
+    const QString property = QString::fromLatin1(profileAtomName(index));
+    const bool isSet = reply && reply->type != XCB_NONE;
     QString failure;
-    if (!reply || reply->type == XCB_NONE) {
-        failure
-            = QStringLiteral("no profile (%1 is not set)").arg(QString::fromLatin1(profileAtomName(index)));
+    if (!isSet) {
+        failure = QStringLiteral("no profile (%1 is not set)").arg(property);
     } else if (reply->type != XCB_ATOM_CARDINAL || reply->format != 8 || reply->bytes_after != 0) {
-        failure
-            = QStringLiteral("%1 is not a profile's bytes").arg(QString::fromLatin1(profileAtomName(index)));
+        failure = QStringLiteral("%1 is not a profile's bytes").arg(property);
     } else {
-        auto built = DisplayColorConversion::fromIccProfile(QByteArray(
+        // littleCMS copies what it keeps.
+        auto built = DisplayColorConversion::fromIccProfile(QByteArray::fromRawData(
             static_cast<const char *>(xcb_get_property_value(reply)), xcb_get_property_value_length(reply)));
         m_conversions[index] = std::move(built.conversion);
         failure = built.failure;
     }
     std::free(reply);
-    // Slots past the monitors only speak when something is there.
-    const bool isMonitor = index < size_t(std::max<qsizetype>(1, m_monitors.size()));
-    if (!failure.isEmpty() && (isMonitor || !failure.startsWith(QLatin1String("no profile"))))
+    // Slots past the monitors speak only when something is there.
+    if (!isSet && index >= size_t(std::max<qsizetype>(1, m_monitors.size())))
+        return;
+    if (failure.isEmpty())
+        qCInfo(lcColourProfiles, "%s: picks are converted from %s to sRGB", qPrintable(monitorName(index)),
+            qPrintable(property));
+    else
         qCInfo(lcColourProfiles, "%s: %s; its pixels are picked as they are", qPrintable(monitorName(index)),
             qPrintable(failure));
-    else if (failure.isEmpty())
-        qCInfo(lcColourProfiles, "%s: picks are converted from %s to sRGB", qPrintable(monitorName(index)),
-            profileAtomName(index).constData());
 }
 
 SamplerGeometry::Rgb X11DisplayProfiles::srgbAt(const QPoint &device, const SamplerGeometry::Rgb &pixel)

@@ -117,12 +117,12 @@ status=0
 "$vantle" pick 2>"$work/err" >/dev/null || status=$?
 [[ $status == 1 ]] && grep -q '^vantle pick: ' "$work/err" || fail "plain 'vantle pick' gave $status"
 
-# Colour-managed picks by shortcut, `vantle pick` and `vantle pick --print`, on two monitors (the
-# screen split in halves by RandR). Each row puts the profiles of colord's collection on the root
-# window as a colour manager does ("-": none, "bad": a profile cut short, Crayons: a named-colour
-# profile, no display's) while the tray Vantle runs, then picks. The text is the sRGB colour that
-# littleCMS's transicc gives for the pixel under its monitor's profile; without a usable profile,
-# the pixel as it is.
+# Colour-managed picks by shortcut, popup button, `vantle pick` and `vantle pick --print`, on two
+# monitors (the screen split in halves by RandR). Each row puts the profiles of colord's
+# collection on the root window as a colour manager does ("-": none, "bad": a profile cut short,
+# Crayons: a named-colour profile, no display's) while the tray Vantle runs, then picks. The text
+# is the sRGB colour that littleCMS's transicc gives for the pixel under its monitor's profile;
+# without a usable profile, the pixel as it is.
 need_tools transicc xrandr xclip python3
 icc=/usr/share/color/icc/colord
 [[ -r $icc/SwappedRedAndGreen.icc ]] || { echo "SKIP: colord-data is not installed" >&2; exit 77; }
@@ -135,7 +135,8 @@ pids+=($!)
 wait_for 10 grep -q ready "$work/target2.out" || fail "the second target window did not appear"
 printf '[General]\nonboardingShown=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
 "$vantle" 2>"$work/tray.log" &
-pids+=($!)
+pid=$! && pids+=("$pid")
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
 # Its sampler has read the monitors' profiles (none yet): from now on it must follow changes.
 wait_for 20 grep -q 'monitor 2 (Right): no profile' "$work/tray.log" || fail "no profiles read: $(cat "$work/tray.log")"
 reference() { # reference PROFILE R G B: the sRGB colour as #RRGGBB, by transicc
@@ -163,6 +164,9 @@ while read -r left right route x pixel; do
         print) start_pick hex ;;
         pick) "$vantle" pick && "$helper" wait-grab 20 || fail "vantle pick did not start a pick" ;;
         shortcut) xdotool key --clearmodifiers alt+shift+c && "$helper" wait-grab 20 || fail "no pick by shortcut" ;;
+        button) # the popup's Pick Color button, which has the focus when the popup opens
+            "$vantle" toggle && wait_for 10 popup_shown && xdotool key space && "$helper" wait-grab 20 \
+                || fail "no pick from the popup's button" ;;
     esac
     xdotool click 1
     if [[ $route == print ]]; then
@@ -183,7 +187,7 @@ SwappedRedAndGreen - pick 700 255,0,0
 bad SwappedRedAndGreen pick 500 128,64,200
 Crayons bad print 700 255,0,0
 ProPhotoRGB Crayons pick 700 255,0,0
-ProPhotoRGB - pick 500 128,64,200
+ProPhotoRGB - button 500 128,64,200
 - AdobeRGB1998 pick 500 128,64,200
 - AdobeRGB1998 pick 700 255,0,0
 TABLE

@@ -138,10 +138,12 @@ printf '[General]\nonboardingShown=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf
 pid=$! && pids+=("$pid")
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
 # Its sampler has read the monitors' profiles (none yet): from now on it must follow changes.
-wait_for 20 grep -q 'monitor 2 (Right): no profile' "$work/tray.log" || fail "no profiles read: $(cat "$work/tray.log")"
+wait_for 20 grep -q 'monitor 2 (Right): no profile' "$work/tray.log" \
+    || fail "no profiles read: $(cat "$work/tray.log")"
 reference() { # reference PROFILE R G B: the sRGB colour as #RRGGBB, by transicc
     printf '%s %s %s\n' "$2" "$3" "$4" | transicc -t1 -i "$icc/$1.icc" -o '*sRGB' -n 2>/dev/null \
-        | awk 'NF == 3 { printf "#"; for (i = 1; i <= 3; i++) { v = int($i + 0.5); printf "%02X", (v < 0 ? 0 : v > 255 ? 255 : v) } }'
+        | awk 'function byte(v) { return int((v < 0 ? 0 : v > 255 ? 255 : v) + 0.5) }
+               NF == 3 { printf "#%02X%02X%02X", byte($1), byte($2), byte($3) }'
 }
 put_profile() { # put_profile MONITOR NAME|-|bad
     case $2 in
@@ -157,13 +159,15 @@ while read -r left right route x pixel; do
     profile=$left && ((x >= 640)) && profile=$right
     IFS=, read -r r g b <<<"$pixel"
     expected=$(printf '#%02X%02X%02X' "$r" "$g" "$b")
-    [[ $profile == - || $profile == bad || $profile == Crayons ]] || expected=$(reference "$profile" "$r" "$g" "$b")
+    [[ $profile == - || $profile == bad || $profile == Crayons ]] \
+        || expected=$(reference "$profile" "$r" "$g" "$b")
     echo none | xclip -selection clipboard
     xdotool mousemove "$x" 600
     case $route in
         print) start_pick hex ;;
         pick) "$vantle" pick && "$helper" wait-grab 20 || fail "vantle pick did not start a pick" ;;
-        shortcut) xdotool key --clearmodifiers alt+shift+c && "$helper" wait-grab 20 || fail "no pick by shortcut" ;;
+        shortcut)
+            xdotool key --clearmodifiers alt+shift+c && "$helper" wait-grab 20 || fail "no shortcut pick" ;;
         button) # the popup's Pick Color button, which has the focus when the popup opens
             "$vantle" toggle && wait_for 10 popup_shown && xdotool key space && "$helper" wait-grab 20 \
                 || fail "no pick from the popup's button" ;;
@@ -176,7 +180,7 @@ while read -r left right route x pixel; do
         wait_for 10 clipboard_is "$expected" || true
         copied=$(xclip -o -selection clipboard)
     fi
-    [[ $copied == "$expected" ]] || fail "$left | $right, $route at x $x: copied $copied, expected $expected;" \
+    [[ $copied == "$expected" ]] || fail "$left | $right, $route at x $x: copied $copied, not $expected;" \
         "$(grep -h colourprofiles "$work/err" "$work/tray.log" | tail -n 2)"
 done <<'TABLE'
 AdobeRGB1998 - print 500 128,64,200
@@ -194,5 +198,5 @@ TABLE
 # The last pick, Adobe RGB's red, is redder than sRGB can say: the record keeps it unclamped.
 red=$(python3 -c 'import json, sys; print(json.load(open(sys.argv[1]))[0]["red"])' \
     "$XDG_CONFIG_HOME/Vantle/colorHistory.json")
-python3 -c "import sys; sys.exit(not 1.14 < $red < 1.18)" || fail "the stored red is $red, expected about 1.16"
+python3 -c "import sys; sys.exit(not 1.14 < $red < 1.18)" || fail "the stored red is $red, not about 1.16"
 echo "sampler desktop test passed"

@@ -30,6 +30,11 @@ X11DisplayProfiles::X11DisplayProfiles(xcb_connection_t *connection, xcb_window_
     , m_root(root)
     , m_screenSize(screenSize)
 {
+    // Monitors as RandR lists them came with its version 1.5; older servers have one screen.
+    const xcb_query_extension_reply_t *randr = xcb_get_extension_data(m_connection, &xcb_randr_id);
+    std::optional<xcb_randr_query_version_cookie_t> version;
+    if (randr && randr->present)
+        version = xcb_randr_query_version(m_connection, 1, 5);
     std::vector<xcb_intern_atom_cookie_t> cookies;
     for (size_t i = 0; i < profileSlots; ++i) {
         const QByteArray name = profileAtomName(i);
@@ -38,6 +43,12 @@ X11DisplayProfiles::X11DisplayProfiles(xcb_connection_t *connection, xcb_window_
     for (const auto cookie : cookies) {
         xcb_intern_atom_reply_t *reply = xcb_intern_atom_reply(m_connection, cookie, nullptr);
         m_atoms.push_back(reply ? reply->atom : XCB_NONE);
+        std::free(reply);
+    }
+    if (version) {
+        xcb_randr_query_version_reply_t *reply
+            = xcb_randr_query_version_reply(m_connection, *version, nullptr);
+        m_hasMonitors = reply && (reply->major_version > 1 || reply->minor_version >= 5);
         std::free(reply);
     }
     m_conversions.resize(profileSlots);
@@ -63,8 +74,7 @@ X11DisplayProfiles::~X11DisplayProfiles()
 
 void X11DisplayProfiles::refreshMonitors()
 {
-    const xcb_query_extension_reply_t *randr = xcb_get_extension_data(m_connection, &xcb_randr_id);
-    if (randr && randr->present && !m_monitorsCookie)
+    if (m_hasMonitors && !m_monitorsCookie)
         m_monitorsCookie = xcb_randr_get_monitors(m_connection, m_root, 1);
 }
 

@@ -45,6 +45,7 @@ private:
     xcb_connection_t *m_connection;
     xcb_window_t m_root;
     QSize m_screenSize;
+    bool m_hasMonitors = false; // RandR 1.5 or later
     std::optional<xcb_randr_get_monitors_cookie_t> m_monitorsCookie;
     struct Monitor {
         QRect area;

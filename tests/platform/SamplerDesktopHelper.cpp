@@ -14,6 +14,9 @@
 //   set-profile INDEX [FILE]                     puts FILE's bytes on the root window as the
 //                                                colour profile of monitor INDEX (from 0); without
 //                                                FILE removes that monitor's profile
+//   lut-profile FROM TO                          writes TO, an RGB display profile that holds
+//                                                FROM's colours in a table (A2B0), as calibration
+//                                                tools write them
 #include "platform/x11/SamplerGeometry.h"
 #include "platform/x11/SamplerLoupe.h"
 
@@ -27,6 +30,8 @@
 #include <QWidget>
 #include <QtGui/qguiapplication_platform.h>
 #include <xcb/xcb.h>
+
+#include <lcms2.h>
 
 #include <cmath>
 #include <cstdio>
@@ -222,6 +227,34 @@ int setProfile(int index, const char *file)
     return 0;
 }
 
+int lutProfile(const char *from, const char *to)
+{
+    const cmsHPROFILE source = cmsOpenProfileFromFile(from, "r");
+    const cmsHPROFILE lab = cmsCreateLab2Profile(nullptr);
+    if (!source || !lab)
+        return 1;
+    cmsHTRANSFORM toLab
+        = cmsCreateTransform(source, TYPE_RGB_16, lab, TYPE_LabV2_16, INTENT_RELATIVE_COLORIMETRIC, 0);
+    const cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+    cmsSetProfileVersion(profile, 2.4);
+    cmsSetDeviceClass(profile, cmsSigDisplayClass);
+    cmsSetColorSpace(profile, cmsSigRgbData);
+    cmsSetPCS(profile, cmsSigLabData);
+    cmsPipeline *table = cmsPipelineAlloc(nullptr, 3, 3);
+    cmsStage *grid = cmsStageAllocCLut16bit(nullptr, 33, 3, 3, nullptr);
+    cmsStageSampleCLut16bit(
+        grid,
+        [](const cmsUInt16Number in[], cmsUInt16Number out[], void *transform) {
+            cmsDoTransform(static_cast<cmsHTRANSFORM>(transform), in, out, 1);
+            return cmsInt32Number(1);
+        },
+        toLab, 0);
+    cmsPipelineInsertStage(table, cmsAT_BEGIN, grid);
+    cmsWriteTag(profile, cmsSigAToB0Tag, table);
+    cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ());
+    return cmsSaveProfileToFile(profile, to) ? 0 : 1;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -230,6 +263,8 @@ int main(int argc, char **argv)
         return waitForGrab(std::atof(argv[2]));
     if ((argc == 3 || argc == 4) && QByteArray(argv[1]) == "set-profile")
         return setProfile(std::atoi(argv[2]), argc == 4 ? argv[3] : nullptr);
+    if (argc == 4 && QByteArray(argv[1]) == "lut-profile")
+        return lutProfile(argv[2], argv[3]);
     if (argc == 2 && QByteArray(argv[1]) == "pattern")
         return paintPattern();
     if (argc == 4 && QByteArray(argv[1]) == "pattern-hex") {
@@ -244,7 +279,8 @@ int main(int argc, char **argv)
     if (argc != 9 || QByteArray(argv[1]) != "target") {
         std::fprintf(stderr,
             "usage: %s target X Y W H LEFT RIGHT FILE | wait-grab SECONDS | pattern"
-            " | pattern-hex X Y | check-loupe SHOT HX HY | set-profile INDEX [FILE]\n",
+            " | pattern-hex X Y | check-loupe SHOT HX HY | set-profile INDEX [FILE]"
+            " | lut-profile FROM TO\n",
             argv[0]);
         return 2;
     }

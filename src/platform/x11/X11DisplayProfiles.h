@@ -22,7 +22,7 @@
 //
 // Each profile's conversion is built when Vantle starts and again when its property is set,
 // replaced or removed (PropertyNotify on the root), never while a pick runs. A monitor without
-// a usable profile shows its pixels as they are, and one log line says why.
+// a usable profile gives its pixels as they are, and one log line says why.
 class X11DisplayProfiles : private QAbstractNativeEventFilter {
 public:
     X11DisplayProfiles(xcb_connection_t *connection, xcb_window_t root, QSize screenSize);

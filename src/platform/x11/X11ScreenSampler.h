@@ -33,8 +33,9 @@ struct _XCBKeySymbols;
 //
 // Positions come from the X events themselves (root coordinates, which are device pixels), so
 // every pixel of a screen can be reached and picked exactly at any scale factor. The picked
-// colour, and the loupe's label, are the sRGB colour the pixel shows on its monitor's profile. Between picks
-// nothing runs and nothing of the screen is kept: the two windows stay, unmapped and empty.
+// colour, and the loupe's label, are the sRGB colour that the pixel shows through its monitor's
+// profile. Between picks nothing runs and nothing of the screen is kept: the two windows stay,
+// unmapped and empty.
 class X11ScreenSampler : public QObject, public ScreenColorSampler, private QAbstractNativeEventFilter {
     Q_OBJECT
 public:

@@ -4,13 +4,19 @@
 //     connection that listens to the root window (event driven, as another client sees it);
 //   - trigger → first frame: from pick() until the loupe's pixels are on the screen;
 //   - loupe redraw per pointer move at the largest zoom (median and worst per run): a hotspot
-//     move until the new frame has left for the server and the server has answered a round trip.
+//     move until the new frame has left for the server and the server has answered a round trip;
+//   - colour management per pick: the monitor's profile conversion of one picked pixel (the
+//     Adobe RGB profile of colord-data on the root window), and building that conversion, which
+//     happens when the profile changes, never during a pick.
+// `sampler_bench RUNS conversion` measures the conversion alone.
 // Records each measure's runs through BenchOutput.h.
 #include "BenchOutput.h"
+#include "platform/x11/X11DisplayProfiles.h"
 #include "platform/x11/X11ScreenSampler.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QPainter>
 #include <QScreen>
 #include <QSocketNotifier>
@@ -59,6 +65,44 @@ bool isDark(xcb_connection_t *connection, xcb_window_t root, QPoint at)
     return qRed(pixel) < 80 && qGreen(pixel) < 80 && qBlue(pixel) < 80;
 }
 
+// Records the conversion's cost per pick and the cost of building it; false without the profile.
+bool measureConversion(xcb_connection_t *connection, int runs)
+{
+    QFile file(QStringLiteral("/usr/share/color/icc/colord/AdobeRGB1998.icc"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        std::fprintf(
+            stderr, "sampler bench: no colour profile to convert with (apt-get install colord-data)\n");
+        return false;
+    }
+    const QByteArray profile = file.readAll();
+    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+    xcb_intern_atom_reply_t *atom
+        = xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 0, 12, "_ICC_PROFILE"), nullptr);
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, screen->root, atom->atom, XCB_ATOM_CARDINAL, 8,
+        uint32_t(profile.size()), profile.constData());
+    std::free(atom);
+    X11DisplayProfiles profiles(
+        connection, screen->root, QSize(screen->width_in_pixels, screen->height_in_pixels));
+    std::vector<double> perPick, build;
+    constexpr int picks = 10000;
+    double sink = 0;
+    for (int run = 0; run < runs; ++run) {
+        QElapsedTimer clock;
+        clock.start();
+        for (int i = 0; i < picks; ++i) {
+            const SamplerGeometry::Rgb pixel { (i & 0xff) / 255.0, ((i >> 4) & 0xff) / 255.0, 0.5 };
+            sink += profiles.srgbAt(QPoint(i % 100, 10), pixel).red;
+        }
+        perPick.push_back(clock.nsecsElapsed() / 1e3 / picks);
+        clock.start();
+        sink += DisplayColorConversion::fromIccProfile(profile).conversion ? 1 : 0;
+        build.push_back(clock.nsecsElapsed() / 1e6);
+    }
+    bench::record(QStringLiteral("pick_colour_conversion"), QStringLiteral("µs"), perPick);
+    bench::record(QStringLiteral("colour_profile_build"), QStringLiteral("ms"), build);
+    return sink != 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -70,6 +114,8 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "sampler bench: needs an X server (QT_QPA_PLATFORM=xcb)\n");
         return 1;
     }
+    if (argc > 2 && QByteArray(argv[2]) == "conversion")
+        return measureConversion(x11->connection(), runs) ? 0 : 1;
 
     ColourfulScene scene;
     scene.setGeometry(QGuiApplication::primaryScreen()->geometry());
@@ -163,6 +209,7 @@ int main(int argc, char **argv)
     bench::record(QStringLiteral("sampler_first_frame"), QStringLiteral("ms"), firstFrame);
     bench::record(QStringLiteral("loupe_redraw"), QStringLiteral("ms"), redraw);
     bench::record(QStringLiteral("loupe_redraw_worst"), QStringLiteral("ms"), worst);
+    measureConversion(x11->connection(), runs);
     xcb_disconnect(observer);
     return 0;
 }

@@ -11,6 +11,12 @@
 //                                                for hotspot (HX, HY) over the pattern, every cell
 //                                                the magnified pattern pixel (beyond the screen:
 //                                                black); otherwise prints what differs
+//   set-profile INDEX [FILE]                     puts FILE's bytes on the root window as the
+//                                                colour profile of monitor INDEX (from 0); without
+//                                                FILE removes that monitor's profile
+//   lut-profile FROM TO                          writes TO, an RGB display profile that holds
+//                                                FROM's colours in a table (A2B0), as calibration
+//                                                tools write them
 #include "platform/x11/SamplerGeometry.h"
 #include "platform/x11/SamplerLoupe.h"
 
@@ -24,6 +30,8 @@
 #include <QWidget>
 #include <QtGui/qguiapplication_platform.h>
 #include <xcb/xcb.h>
+
+#include <lcms2.h>
 
 #include <cmath>
 #include <cstdio>
@@ -189,12 +197,74 @@ int waitForGrab(double seconds)
     return 1;
 }
 
+// What a colour manager does: the profile's bytes on the root window, _ICC_PROFILE for the
+// first monitor and _ICC_PROFILE_<INDEX> for the others.
+int setProfile(int index, const char *file)
+{
+    QByteArray bytes;
+    if (file) {
+        QFile profile(QString::fromLocal8Bit(file));
+        if (!profile.open(QIODevice::ReadOnly))
+            return 1;
+        bytes = profile.readAll();
+    }
+    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
+    if (xcb_connection_has_error(connection))
+        return 1;
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    const QByteArray name
+        = index == 0 ? QByteArray("_ICC_PROFILE") : "_ICC_PROFILE_" + QByteArray::number(index);
+    xcb_intern_atom_reply_t *atom = xcb_intern_atom_reply(
+        connection, xcb_intern_atom(connection, 0, uint16_t(name.size()), name.constData()), nullptr);
+    if (file)
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, root, atom->atom, XCB_ATOM_CARDINAL, 8,
+            uint32_t(bytes.size()), bytes.constData());
+    else
+        xcb_delete_property(connection, root, atom->atom);
+    std::free(atom);
+    free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr)); // a round trip
+    xcb_disconnect(connection);
+    return 0;
+}
+
+int lutProfile(const char *from, const char *to)
+{
+    const cmsHPROFILE source = cmsOpenProfileFromFile(from, "r");
+    const cmsHPROFILE lab = cmsCreateLab2Profile(nullptr);
+    if (!source || !lab)
+        return 1;
+    cmsHTRANSFORM toLab
+        = cmsCreateTransform(source, TYPE_RGB_16, lab, TYPE_LabV2_16, INTENT_RELATIVE_COLORIMETRIC, 0);
+    const cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+    cmsSetProfileVersion(profile, 2.4);
+    cmsSetDeviceClass(profile, cmsSigDisplayClass);
+    cmsSetColorSpace(profile, cmsSigRgbData);
+    cmsSetPCS(profile, cmsSigLabData);
+    cmsPipeline *table = cmsPipelineAlloc(nullptr, 3, 3);
+    cmsStage *grid = cmsStageAllocCLut16bit(nullptr, 33, 3, 3, nullptr);
+    cmsStageSampleCLut16bit(
+        grid,
+        [](const cmsUInt16Number in[], cmsUInt16Number out[], void *transform) {
+            cmsDoTransform(static_cast<cmsHTRANSFORM>(transform), in, out, 1);
+            return cmsInt32Number(1);
+        },
+        toLab, 0);
+    cmsPipelineInsertStage(table, cmsAT_BEGIN, grid);
+    cmsWriteTag(profile, cmsSigAToB0Tag, table);
+    cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ());
+    return cmsSaveProfileToFile(profile, to) ? 0 : 1;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     if (argc == 3 && QByteArray(argv[1]) == "wait-grab")
         return waitForGrab(std::atof(argv[2]));
+    if ((argc == 3 || argc == 4) && QByteArray(argv[1]) == "set-profile")
+        return setProfile(std::atoi(argv[2]), argc == 4 ? argv[3] : nullptr);
+    if (argc == 4 && QByteArray(argv[1]) == "lut-profile")
+        return lutProfile(argv[2], argv[3]);
     if (argc == 2 && QByteArray(argv[1]) == "pattern")
         return paintPattern();
     if (argc == 4 && QByteArray(argv[1]) == "pattern-hex") {
@@ -209,7 +279,8 @@ int main(int argc, char **argv)
     if (argc != 9 || QByteArray(argv[1]) != "target") {
         std::fprintf(stderr,
             "usage: %s target X Y W H LEFT RIGHT FILE | wait-grab SECONDS | pattern"
-            " | pattern-hex X Y | check-loupe SHOT HX HY\n",
+            " | pattern-hex X Y | check-loupe SHOT HX HY | set-profile INDEX [FILE]"
+            " | lut-profile FROM TO\n",
             argv[0]);
         return 2;
     }

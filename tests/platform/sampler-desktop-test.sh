@@ -25,44 +25,26 @@ finish_pick() { # finish_pick EXPECTED_STATUS
     [[ $status == "$1" ]] || fail "exit status $status, expected $1; stderr: $(cat "$work/err")"
 }
 
-# A click picks the exact pixel under it and does not reach the window beneath.
-xdotool mousemove 150 200
-start_pick hex
-xdotool click 1
-finish_pick 0
-[[ "$(cat "$work/out")" == "#3A7BD5" ]] || fail "click picked '$(cat "$work/out")', expected #3A7BD5"
-
-# Escape cancels: status 1, nothing printed.
-start_pick hex
-xdotool key Escape
-finish_pick 1
-[[ ! -s "$work/out" ]] || fail "a cancelled pick printed '$(cat "$work/out")'"
-
-# A right click cancels too.
-start_pick hex
-xdotool click 3
-finish_pick 1
-[[ ! -s "$work/out" ]] || fail "a right click printed '$(cat "$work/out")'"
-
-# Arrow keys move one device pixel: from the last blue column, Right then Return picks orange;
-# the real pointer moved with it, so a later pick starts there.
-xdotool mousemove 299 200
-start_pick rgb
-xdotool key Right Return
-finish_pick 0
-[[ "$(cat "$work/out")" == "rgb(213, 96, 58)" ]] || fail "after Right, picked '$(cat "$work/out")'"
-start_pick hexLower
-xdotool key Left space
-finish_pick 0
-[[ "$(cat "$work/out")" == "#3a7bd5" ]] || fail "the pointer did not follow the nudge: '$(cat "$work/out")'"
-
-# Shift+arrow moves ten pixels.
-xdotool mousemove 290 200
-start_pick hex
-xdotool key shift+Right Return
-finish_pick 0
-[[ "$(cat "$work/out")" == "#D5603A" ]] || fail "Shift+Right did not move ten pixels: '$(cat "$work/out")'"
-
+# Picks one after another: where the pointer goes first ("-": where the last pick left it), the
+# format, what the user does (":" between words), the exit status and the text printed.
+#   - a click picks the exact pixel under it (and does not reach the window beneath);
+#   - Escape and a right click cancel: status 1, nothing printed;
+#   - arrow keys move one device pixel (from the last blue column, Right picks orange), and the
+#     real pointer follows, so the next pick starts there; Shift+arrow moves ten.
+while read -r at format action status expected; do
+    [[ $at == - ]] || xdotool mousemove "${at%,*}" "${at#*,}"
+    start_pick "$format"
+    xdotool ${action//:/ }
+    finish_pick "$status"
+    [[ $(cat "$work/out") == "$expected" ]] || fail "$at $action: '$(cat "$work/out")', not '$expected'"
+done <<'TABLE'
+150,200 hex click:1 0 #3A7BD5
+- hex key:Escape 1
+- hex click:3 1
+299,200 rgb key:Right:Return 0 rgb(213, 96, 58)
+- hexLower key:Left:space 0 #3a7bd5
+290,200 hex key:shift+Right:Return 0 #D5603A
+TABLE
 [[ ! -s "$work/presses" ]] || fail "clicks reached the window beneath: $(cat "$work/presses")"
 
 # The loupe magnifies the frozen desktop pixel for pixel. The pattern is painted the way most X
@@ -116,4 +98,86 @@ done
 status=0
 "$vantle" pick 2>"$work/err" >/dev/null || status=$?
 [[ $status == 1 ]] && grep -q '^vantle pick: ' "$work/err" || fail "plain 'vantle pick' gave $status"
+
+# Colour-managed picks by shortcut, popup button, `vantle pick` and `vantle pick --print`, on two
+# monitors (the screen split in halves by RandR). Each row puts the profiles of colord's
+# collection (and Adobe RGB as a table) on the root window as a colour manager does ("-": none,
+# "bad": a profile cut short, Crayons: a named-colour profile, no display's) while the tray Vantle
+# runs, then picks. The text is the sRGB colour that littleCMS's transicc gives for the pixel
+# under its monitor's profile; without a usable profile, the pixel as it is.
+need_tools transicc xrandr xclip python3
+icc=/usr/share/color/icc/colord
+[[ -r $icc/SwappedRedAndGreen.icc ]] || { echo "SKIP: colord-data is not installed" >&2; exit 77; }
+head -c 600 "$icc/AdobeRGB1998.icc" >"$work/bad.icc" # a profile cut short
+"$helper" lut-profile "$icc/AdobeRGB1998.icc" "$work/AdobeRGBTable.icc" || fail "no table profile"
+xrandr --setmonitor Left 640/169x800/254+0+0 screen >/dev/null
+xrandr --setmonitor Right 640/169x800/254+640+0 none >/dev/null
+# #8040C8 on the left monitor (x 440..639), red on the right one (x 640..839).
+"$helper" target 440 500 400 200 '#8040C8' '#FF0000' "$work/presses" >"$work/target2.out" &
+pids+=($!)
+wait_for 10 grep -q ready "$work/target2.out" || fail "the second target window did not appear"
+printf '[General]\nonboardingShown=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
+"$vantle" 2>"$work/tray.log" &
+pid=$! && pids+=("$pid")
+source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
+# Its sampler has read the monitors' profiles (none yet): from now on it must follow changes.
+wait_for 20 grep -q 'monitor 2 (Right): no profile' "$work/tray.log" \
+    || fail "no profiles read: $(cat "$work/tray.log")"
+profile_file() { [[ -r $work/$1.icc ]] && echo "$work/$1.icc" || echo "$icc/$1.icc"; }
+reference() { # reference PROFILE R G B: the sRGB colour as #RRGGBB, by transicc
+    printf '%s %s %s\n' "$2" "$3" "$4" | transicc -t1 -i "$(profile_file "$1")" -o '*sRGB' -n 2>/dev/null \
+        | awk 'function byte(v) { return int((v < 0 ? 0 : v > 255 ? 255 : v) + 0.5) }
+               NF == 3 { printf "#%02X%02X%02X", byte($1), byte($2), byte($3) }'
+}
+put_profile() { # put_profile MONITOR NAME|-
+    [[ $2 == - ]] && "$helper" set-profile "$1" || "$helper" set-profile "$1" "$(profile_file "$2")"
+}
+clipboard_is() { [[ $(xclip -o -selection clipboard 2>/dev/null) == "$1" ]]; }
+# left monitor's profile | right monitor's | route | x | the pixel there
+while read -r left right route x pixel; do
+    put_profile 0 "$left" && put_profile 1 "$right"
+    profile=$left && ((x >= 640)) && profile=$right
+    IFS=, read -r r g b <<<"$pixel"
+    expected=$(printf '#%02X%02X%02X' "$r" "$g" "$b")
+    [[ $profile == - || $profile == bad || $profile == Crayons ]] \
+        || expected=$(reference "$profile" "$r" "$g" "$b")
+    echo none | xclip -selection clipboard
+    xdotool mousemove "$x" 600
+    case $route in
+        print) start_pick hex ;;
+        pick) "$vantle" pick && "$helper" wait-grab 20 || fail "vantle pick did not start a pick" ;;
+        shortcut)
+            xdotool key --clearmodifiers alt+shift+c && "$helper" wait-grab 20 || fail "no shortcut pick" ;;
+        button) # the popup's Pick Color button, which has the focus when the popup opens
+            "$vantle" toggle && wait_for 10 popup_shown && xdotool key space && "$helper" wait-grab 20 \
+                || fail "no pick from the popup's button" ;;
+    esac
+    xdotool click 1
+    if [[ $route == print ]]; then
+        finish_pick 0
+        copied=$(cat "$work/out")
+    else
+        wait_for 10 clipboard_is "$expected" || true
+        copied=$(xclip -o -selection clipboard)
+    fi
+    [[ $copied == "$expected" ]] || fail "$left | $right, $route at x $x: copied $copied, not $expected;" \
+        "$(grep -h colourprofiles "$work/err" "$work/tray.log" | tail -n 2)"
+done <<'TABLE'
+AdobeRGB1998 - print 500 128,64,200
+AdobeRGB1998 - shortcut 500 128,64,200
+SwappedRedAndGreen - pick 700 255,0,0
+- SwappedRedAndGreen pick 700 255,0,0
+- SwappedRedAndGreen print 500 128,64,200
+bad SwappedRedAndGreen pick 500 128,64,200
+Crayons bad print 700 255,0,0
+ProPhotoRGB Crayons pick 700 255,0,0
+ProPhotoRGB - button 500 128,64,200
+AdobeRGBTable - pick 500 128,64,200
+- AdobeRGB1998 pick 500 128,64,200
+- AdobeRGB1998 pick 700 255,0,0
+TABLE
+# The last pick, Adobe RGB's red, is redder than sRGB can say: the record keeps it unclamped.
+red=$(python3 -c 'import json, sys; print(json.load(open(sys.argv[1]))[0]["red"])' \
+    "$XDG_CONFIG_HOME/Vantle/colorHistory.json")
+python3 -c "import sys; sys.exit(not 1.14 < $red < 1.18)" || fail "the stored red is $red, not about 1.16"
 echo "sampler desktop test passed"

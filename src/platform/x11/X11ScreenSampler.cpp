@@ -22,19 +22,13 @@ constexpr int grabRetryMilliseconds = 25;
 constexpr int liveRefreshMilliseconds = 50;
 constexpr uint16_t crosshairGlyph = 34; // XC_crosshair in the standard cursor font
 
-std::optional<SampledColor> sampled(const std::optional<SamplerGeometry::Rgb> &rgb)
-{
-    if (!rgb)
-        return std::nullopt;
-    return SampledColor { rgb->red, rgb->green, rgb->blue, 1 };
-}
-
 } // namespace
 
 X11ScreenSampler::X11ScreenSampler(xcb_connection_t *connection)
     : m_connection(connection)
     , m_screen(xcb_setup_roots_iterator(xcb_get_setup(connection)).data)
     , m_root(connection, m_screen)
+    , m_profiles(connection, m_screen->root, QSize(m_screen->width_in_pixels, m_screen->height_in_pixels))
 {
     m_grabRetry.setInterval(grabRetryMilliseconds);
     m_grabRetry.setSingleShot(true);
@@ -123,6 +117,7 @@ void X11ScreenSampler::pick(ColorFormat labelFormat, Completion completion)
 
     // The pointer's exact device position; QCursor::pos() would round to logical pixels.
     const auto pointerCookie = xcb_query_pointer(m_connection, m_screen->root);
+    m_profiles.refreshMonitors();
     ensureWindows();
     xcb_map_window(m_connection, m_inputWindow);
     xcb_query_pointer_reply_t *pointer = xcb_query_pointer_reply(m_connection, pointerCookie, nullptr);
@@ -211,11 +206,15 @@ void X11ScreenSampler::scheduleRedraw()
         Qt::QueuedConnection);
 }
 
-std::optional<SampledColor> X11ScreenSampler::colorAt(const QPoint &device) const
+std::optional<SampledColor> X11ScreenSampler::colorAt(const QPoint &device)
 {
     if (!SamplerGeometry::screenIndexAt(m_areas, device) && !m_areas.isEmpty())
         return std::nullopt;
-    return sampled(SamplerGeometry::sampleAt(m_root.read(QRect(device, QSize(1, 1))), device, device));
+    const auto pixel = SamplerGeometry::sampleAt(m_root.read(QRect(device, QSize(1, 1))), device, device);
+    if (!pixel)
+        return std::nullopt;
+    const SamplerGeometry::Rgb shown = m_profiles.srgbAt(device, *pixel);
+    return SampledColor { shown.red, shown.green, shown.blue, 1 };
 }
 
 void X11ScreenSampler::redrawLoupe()
@@ -230,9 +229,13 @@ void X11ScreenSampler::redrawLoupe()
     const int across = SamplerGeometry::loupePixelsAcross(loupe.lensDiameter(), m_zoom);
     const QRect square(m_hotspot - QPoint(across / 2, across / 2), QSize(across, across));
     const QImage patch = m_root.read(square);
-    const auto rgb = SamplerGeometry::sampleAt(patch, square.topLeft(), m_hotspot);
-    if (rgb)
+    // The lens shows the pixels as they are (this same monitor shows them); the label the text
+    // a pick here copies.
+    auto rgb = SamplerGeometry::sampleAt(patch, square.topLeft(), m_hotspot);
+    if (rgb) {
+        rgb = m_profiles.srgbAt(m_hotspot, *rgb);
         m_spokenValue.speak(formatColor(rgb->red, rgb->green, rgb->blue, 1, m_format));
+    }
     QString text;
     if (m_isLabelReady) {
         text = rgb ? formatColor(rgb->red, rgb->green, rgb->blue, 1, m_format) : QString();

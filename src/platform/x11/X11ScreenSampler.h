@@ -4,6 +4,7 @@
 #include "history/ScreenColorSampler.h"
 #include "platform/x11/LoupeSpokenValue.h"
 #include "platform/x11/SamplerGeometry.h"
+#include "platform/x11/X11DisplayProfiles.h"
 #include "platform/x11/X11RootReader.h"
 
 #include <QAbstractNativeEventFilter>
@@ -31,8 +32,10 @@ struct _XCBKeySymbols;
 //   rests (an animation, a window repainting after the popup closed).
 //
 // Positions come from the X events themselves (root coordinates, which are device pixels), so
-// every pixel of a screen can be reached and picked exactly at any scale factor. Between picks
-// nothing runs and nothing of the screen is kept: the two windows stay, unmapped and empty.
+// every pixel of a screen can be reached and picked exactly at any scale factor. The picked
+// colour, and the loupe's label, are the sRGB colour that the pixel shows through its monitor's
+// profile. Between picks nothing runs and nothing of the screen is kept: the two windows stay,
+// unmapped and empty.
 class X11ScreenSampler : public QObject, public ScreenColorSampler, private QAbstractNativeEventFilter {
     Q_OBJECT
 public:
@@ -54,7 +57,7 @@ private:
     void scheduleRedraw();
     void redrawLoupe();
     void refreshLive();
-    std::optional<SampledColor> colorAt(const QPoint &device) const;
+    std::optional<SampledColor> colorAt(const QPoint &device);
     void handleButton(const xcb_button_press_event_t *event, bool isPress);
     bool handleKey(const xcb_key_press_event_t *event);
     void finish(std::optional<SampledColor> result);
@@ -63,6 +66,7 @@ private:
     xcb_connection_t *m_connection;
     const xcb_screen_t *m_screen;
     X11RootReader m_root;
+    X11DisplayProfiles m_profiles; // what the monitors show for their pixels, in sRGB
     xcb_window_t m_inputWindow = XCB_NONE;
     xcb_cursor_t m_cursor = XCB_NONE;
     std::unique_ptr<X11LoupeWindow> m_loupeWindow;

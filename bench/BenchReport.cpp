@@ -107,6 +107,8 @@ const std::vector<RowSpec> &rowSpecs()
             QStringLiteral("a pick's colour conversion from the monitor's profile"), Goal::Absolute, 100 },
         { QStringLiteral("colour_profile_build"),
             QStringLiteral("building a profile's conversion, when the profile changes"), Goal::None, 0 },
+        { QStringLiteral("colour_profiles_start"),
+            QStringLiteral("reading every monitor's profile, once after start"), Goal::None, 0 },
         { QStringLiteral("history_load_save_500"), QStringLiteral("history load + save, 500 colours"),
             Goal::Absolute, 2.0 },
         { QStringLiteral("history_load_save_10000"), QStringLiteral("history load + save, 10,000 colours"),

@@ -7,7 +7,8 @@
 //     move until the new frame has left for the server and the server has answered a round trip;
 //   - colour management per pick: the monitor's profile conversion of one picked pixel (the
 //     Adobe RGB profile of colord-data on the root window), and building that conversion, which
-//     happens when the profile changes, never during a pick.
+//     happens when the profile changes, never during a pick; reading every monitor's profile,
+//     once after start.
 // `sampler_bench RUNS conversion` measures the conversion alone.
 // Records each measure's runs through BenchOutput.h.
 #include "BenchOutput.h"
@@ -83,7 +84,7 @@ bool measureConversion(xcb_connection_t *connection, int runs)
     std::free(atom);
     X11DisplayProfiles profiles(
         connection, screen->root, QSize(screen->width_in_pixels, screen->height_in_pixels));
-    std::vector<double> perPick, build;
+    std::vector<double> perPick, build, start;
     constexpr int picks = 10000;
     double sink = 0;
     for (int run = 0; run < runs; ++run) {
@@ -97,9 +98,13 @@ bool measureConversion(xcb_connection_t *connection, int runs)
         clock.start();
         sink += DisplayColorConversion::fromIccProfile(profile).conversion ? 1 : 0;
         build.push_back(clock.nsecsElapsed() / 1e6);
+        clock.start();
+        sink += X11DisplayProfiles(connection, screen->root, QSize(1, 1)).srgbAt(QPoint(), { 1, 0, 0 }).red;
+        start.push_back(clock.nsecsElapsed() / 1e6);
     }
     bench::record(QStringLiteral("pick_colour_conversion"), QStringLiteral("µs"), perPick);
     bench::record(QStringLiteral("colour_profile_build"), QStringLiteral("ms"), build);
+    bench::record(QStringLiteral("colour_profiles_start"), QStringLiteral("ms"), start);
     return sink != 0;
 }
 

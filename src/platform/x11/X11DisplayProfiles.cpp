@@ -30,6 +30,14 @@ X11DisplayProfiles::X11DisplayProfiles(xcb_connection_t *connection, xcb_window_
     , m_root(root)
     , m_screenSize(screenSize)
 {
+    // Qt already listens to the root window's property changes on this connection.
+    QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+void X11DisplayProfiles::ensureRead()
+{
+    if (std::exchange(m_isRead, true))
+        return;
     // Monitors as RandR lists them came with its version 1.5; older servers have one screen.
     const xcb_query_extension_reply_t *randr = xcb_get_extension_data(m_connection, &xcb_randr_id);
     std::optional<xcb_randr_query_version_cookie_t> version;
@@ -60,8 +68,6 @@ X11DisplayProfiles::X11DisplayProfiles(xcb_connection_t *connection, xcb_window_
         properties.push_back(requestProfile(i));
     for (size_t i = 0; i < profileSlots; ++i)
         load(i, xcb_get_property_reply(m_connection, properties[i], nullptr));
-    // Qt already listens to the root window's property changes on this connection.
-    QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
 X11DisplayProfiles::~X11DisplayProfiles()
@@ -74,6 +80,7 @@ X11DisplayProfiles::~X11DisplayProfiles()
 
 void X11DisplayProfiles::refreshMonitors()
 {
+    ensureRead();
     if (m_hasMonitors && !m_monitorsCookie)
         m_monitorsCookie = xcb_randr_get_monitors(m_connection, m_root, 1);
 }
@@ -145,6 +152,7 @@ void X11DisplayProfiles::load(size_t index, xcb_get_property_reply_t *reply)
 
 SamplerGeometry::Rgb X11DisplayProfiles::srgbAt(const QPoint &device, const SamplerGeometry::Rgb &pixel)
 {
+    ensureRead();
     readMonitors();
     size_t index = 0;
     if (!m_monitors.isEmpty()) {
@@ -169,7 +177,7 @@ bool X11DisplayProfiles::nativeEventFilter(const QByteArray &eventType, void *me
     if ((event->response_type & ~0x80) != XCB_PROPERTY_NOTIFY)
         return false;
     const auto *property = reinterpret_cast<const xcb_property_notify_event_t *>(event);
-    if (property->window != m_root || property->atom == XCB_NONE)
+    if (!m_isRead || property->window != m_root || property->atom == XCB_NONE)
         return false;
     const auto slot = std::find(m_atoms.cbegin(), m_atoms.cend(), property->atom);
     if (slot != m_atoms.cend()) {

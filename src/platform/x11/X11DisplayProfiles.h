@@ -20,7 +20,7 @@
 // Profiles in X"): the root window's property _ICC_PROFILE holds the first monitor's profile,
 // _ICC_PROFILE_1, _ICC_PROFILE_2, ... the others', in the order RandR lists the monitors.
 //
-// Each profile's conversion is built when Vantle starts and again when its property is set,
+// Each profile's conversion is built once Vantle has started and again when its property is set,
 // replaced or removed (PropertyNotify on the root), never while a pick runs. A monitor without
 // a usable profile gives its pixels as they are, and one log line says why.
 class X11DisplayProfiles : private QAbstractNativeEventFilter {
@@ -28,6 +28,9 @@ public:
     X11DisplayProfiles(xcb_connection_t *connection, xcb_window_t root, QSize screenSize);
     ~X11DisplayProfiles() override;
 
+    // Reads every monitor's profile, the first time only: off the way of the start, before the
+    // first pick.
+    void ensureRead();
     // Asks the server for its monitors again, without waiting: one may have been added or
     // split off since the last pick. The answer is read by the next srgbAt().
     void refreshMonitors();
@@ -45,6 +48,7 @@ private:
     xcb_connection_t *m_connection;
     xcb_window_t m_root;
     QSize m_screenSize;
+    bool m_isRead = false;
     bool m_hasMonitors = false; // RandR 1.5 or later
     std::optional<xcb_randr_get_monitors_cookie_t> m_monitorsCookie;
     struct Monitor {

@@ -42,6 +42,9 @@ X11ScreenSampler::X11ScreenSampler(xcb_connection_t *connection)
     });
     m_liveRefresh.setInterval(liveRefreshMilliseconds);
     connect(&m_liveRefresh, &QTimer::timeout, this, &X11ScreenSampler::refreshLive);
+    // The monitors' profiles (about a millisecond with one) are read once the start is over.
+    QMetaObject::invokeMethod(
+        this, [this] { m_profiles.ensureRead(); }, Qt::QueuedConnection);
 }
 
 X11ScreenSampler::~X11ScreenSampler()

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <utility>
 
-Q_LOGGING_CATEGORY(lcColourProfiles, "vantle.colourprofiles")
+Q_LOGGING_CATEGORY(lcColourProfiles, "vantle.colourprofiles", QtWarningMsg)
 
 namespace {
 
@@ -145,8 +145,11 @@ void X11DisplayProfiles::load(size_t index, xcb_get_property_reply_t *reply)
     if (failure.isEmpty())
         qCInfo(lcColourProfiles, "%s: picks are converted from %s to sRGB", qPrintable(monitorName(index)),
             qPrintable(property));
-    else
+    else if (!isSet) // the usual case: said only when asked for (QT_LOGGING_RULES)
         qCInfo(lcColourProfiles, "%s: %s; its pixels are picked as they are", qPrintable(monitorName(index)),
+            qPrintable(failure));
+    else // a profile the desktop meant to apply and cannot be: say so
+        qCWarning(lcColourProfiles, "%s: %s; its pixels are picked as they are", qPrintable(monitorName(index)),
             qPrintable(failure));
 }
 

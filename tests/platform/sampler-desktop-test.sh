@@ -117,7 +117,7 @@ xrandr --setmonitor Right 640/169x800/254+640+0 none >/dev/null
 pids+=($!)
 wait_for 10 grep -q ready "$work/target2.out" || fail "the second target window did not appear"
 printf '[General]\nonboardingShown=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
-"$vantle" 2>"$work/tray.log" &
+QT_LOGGING_RULES="vantle.colourprofiles.info=true" "$vantle" 2>"$work/tray.log" &
 pid=$! && pids+=("$pid")
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
 # Its sampler has read the monitors' profiles (none yet): from now on it must follow changes.

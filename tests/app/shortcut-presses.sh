@@ -8,15 +8,11 @@
 # At QT_SCALE_FACTOR=2 give the desktop room for the larger windows: x11-session.sh --size 2560x1600.
 set -euo pipefail
 
-vantle=${VANTLE_BIN:?}
 shots=${1:-}
-
-source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
-need_tools xdotool xclip xwininfo xsetroot import
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
-on_failure() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/failure.png" 2>/dev/null; }
+need_tools xsetroot import
+on_failure() { shot failure; }
 press() { xdotool key --delay 80 "$1"; } # a person's press: each key held 80 ms
-clipboard_is() { [[ $(xclip -o -selection clipboard 2>/dev/null) == "$1" ]]; }
 
 "$vantle" &
 pid=$! && pids+=("$pid")
@@ -76,13 +72,13 @@ press alt+shift+x
 wait_for 10 popup_shown || fail "the popup did not open"
 read -r px py pw ph < <(popup_geometry)
 sleep 0.5
-[[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/popup-before-pick.png"
+shot popup-before-pick
 # The button spans the popup's width just below its header.
 xdotool mousemove $((px + pw / 2)) $((py + $(scaled 62))) click 1
 wait_for 10 loupe_shown || fail "the popup's Pick Color button opened no loupe"
 xdotool mousemove $((px + pw / 2)) $((py + ph / 2))
 sleep 0.3
-[[ -n $shots ]] && import -window root "$shots/loupe-where-the-popup-was.png"
+shot loupe-where-the-popup-was
 xdotool click 1
 wait_for 10 clipboard_is '#2E8B57' || fail "a pick where the popup was copied \"$(xclip -o -selection clipboard)\""
 echo "PASS"

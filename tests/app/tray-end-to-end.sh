@@ -7,12 +7,9 @@
 #   VANTLE_BIN=... x11-session.sh tray-end-to-end.sh [SHOT_DIR]
 set -euo pipefail
 
-vantle=${VANTLE_BIN:?}
 shots=${1:-}
-
-source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
-need_tools xdotool xclip xwininfo import convert
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
+need_tools import convert
 # Fresh settings but for the dot in the tray, which this test looks at, and a history long
 # enough that the popup's list must scroll rather than run over the tray icon.
 printf '[General]\nshowColorDot=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
@@ -28,7 +25,6 @@ on_failure() {
     kill -0 "${VANTLE_TRAY_PID:-0}" 2>/dev/null || echo "trayer is not running; it said:" >&2
     tail -n 20 "${VANTLE_TRAY_LOG:-/dev/null}" >&2
 }
-shot() { [[ -n $shots ]] && mkdir -p "$shots" && import -window root "$shots/$1.png" || true; }
 # The loupe shows once it holds the pointer and the keyboard.
 wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; }
 # Vantle processes on this test's display (other tests may run their own).
@@ -39,7 +35,6 @@ vantles_here() {
     done
     echo "$n"
 }
-clipboard_is() { [[ $(xclip -o -selection clipboard 2>/dev/null) == "$1" ]]; }
 # The tray icon: the window trayer embedded for us.
 tray_icon() {
     local tray
@@ -84,12 +79,7 @@ if ! wait_for 10 icon_shows FF6B36; then
 fi
 
 # A click on the tray icon opens the popup; a second one closes it.
-icon_place() { # icon_place: "width height x y" of the tray icon
-    xwininfo -id "$(tray_icon)" | awk '
-        /Absolute upper-left X/ {x=$4} /Absolute upper-left Y/ {y=$4} /Width:/ {w=$2} /Height:/ {h=$2}
-        END {print w, h, x, y}'
-}
-read -r icon_w icon_h icon_x icon_y < <(icon_place)
+read -r icon_w icon_h icon_x icon_y < <(geometry "$(tray_icon)")
 xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
 wait_for 10 popup_shown || fail "a click on the tray icon did not open the popup"
 shot popup
@@ -147,7 +137,7 @@ pids+=($!)
 wait_for 10 tray_icon || fail "the icon did not dock in a tray that came after Vantle"
 wait_for 10 popup_hidden || fail "the no-tray window stayed after the icon docked"
 xdotool key --delay 80 alt+shift+x
-read -r icon_w icon_h icon_x icon_y < <(icon_place)
+read -r icon_w icon_h icon_x icon_y < <(geometry "$(tray_icon)")
 wait_for 10 popup_below_icon || fail "at scale 2 the popup ($(popup_geometry)) is not below the tray icon (y $icon_y)"
 read -r popup_x popup_y _ popup_h < <(popup_geometry)
 xdotool mousemove $((popup_x + $(scaled 20))) $((popup_y + popup_h - $(scaled 18))) click 1

@@ -245,11 +245,12 @@ TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)
 {
     manager->reregisterAll();
     spy();
-    // Move the keysym c to another key, as a layout switch does.
-    QProcess::execute(
-        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 54 = y Y") });
-    QProcess::execute(
-        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 29 = c C") });
+    const auto keymap = [](const char *key54, const char *key29) {
+        for (const QString &line : { QStringLiteral("keycode 54 = %1").arg(QLatin1String(key54)),
+                 QStringLiteral("keycode 29 = %1").arg(QLatin1String(key29)) })
+            QProcess::execute(QStringLiteral("xmodmap"), { QStringLiteral("-e"), line });
+    };
+    keymap("y Y", "c C"); // the keysym c on another key, as a layout switch does
     const int before = pick->count();
     // xdotool types by keysym: "c" now sits on key code 29.
     ASSERT_TRUE(QTest::qWaitFor(
@@ -258,8 +259,5 @@ TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)
             return QTest::qWaitFor([&] { return pick->count() > before; }, 500);
         },
         10000));
-    QProcess::execute(
-        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 54 = c C") });
-    QProcess::execute(
-        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 29 = y Y") });
+    keymap("c C", "y Y");
 }

@@ -22,22 +22,18 @@ using namespace PreferenceKeys;
 
 namespace {
 
-class AppDelegateTest : public ::testing::Test {
+class AppDelegateTest : public ::testing::Test, public FakeHistoryFacilities {
 protected:
     void launch()
     {
-        delegate = std::make_unique<AppDelegate>(
-            AppDelegate::Facilities { *settings.store, sampler, clipboard, confirmation, exportDialogs,
-                shortcuts, loginItems, appearance, network, updateInterface, false });
+        delegate
+            = std::make_unique<AppDelegate>(AppDelegate::Facilities { *settings.store, sampler, clipboard,
+                confirmation, dialogs, shortcuts, loginItems, appearance, network, updateInterface, false });
         delegate->applicationDidFinishLaunching();
     }
     QStringList registrations() const { return shortcuts.calls.filter(QStringLiteral("register")); }
 
     TempSettings settings;
-    FakeScreenColorSampler sampler;
-    FakeClipboard clipboard;
-    FakeCopyConfirmation confirmation;
-    FakeExportDialogs exportDialogs;
     FakeShortcutBackend shortcuts;
     FakeLoginItemService loginItems;
     AppearanceMonitor appearance;

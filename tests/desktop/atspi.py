@@ -177,22 +177,18 @@ class Session:
 
     def dump(self, root=None):
         """The tree as indented lines, for a failure message."""
-        lines = []
-        root = root or self.app()
 
-        def visit(acc, depth):
+        def lines(acc, depth):
             try:
                 if depth and not acc.getState().contains(pyatspi.STATE_SHOWING):
-                    return
-                lines.append("  " * depth + describe(acc))
-                for i in range(acc.childCount):
-                    visit(acc.getChildAtIndex(i), depth + 1)
+                    return []
+                return ["  " * depth + describe(acc)] + [
+                    line for i in range(acc.childCount) for line in lines(acc.getChildAtIndex(i), depth + 1)]
             except Exception:
-                pass
+                return []
 
-        if root is not None:
-            visit(root, 0)
-        return "\n".join(lines)
+        root = root or self.app()
+        return "\n".join(lines(root, 0)) if root is not None else ""
 
     # --- checking ------------------------------------------------------------------------
     def wait(self, predicate, timeout=5.0):

@@ -19,15 +19,6 @@
 
 namespace {
 
-PickedColor makeColor(
-    double r, double g, double b, bool pinned = false, std::optional<QString> name = std::nullopt)
-{
-    PickedColor color = PickedColor::fromSample(r, g, b, 1.0);
-    color.isPinned = pinned;
-    color.name = std::move(name);
-    return color;
-}
-
 class ColorListViewTest : public ::testing::Test, public FakeHistoryFacilities {
 public: // the case tables below reach in from lambdas
     void build(const QList<PickedColor> &colors, const QString &format = QStringLiteral("Hex"))

@@ -27,23 +27,15 @@ using namespace PreferenceKeys;
 
 namespace {
 
-UpdateBundle offlineBundle()
-{
-    UpdateBundle bundle;
-    bundle.name = QStringLiteral("Vantle");
-    bundle.version = QStringLiteral("1.0");
-    return bundle;
-}
-
 // Everything the settings window is handed by the application shell, with test stand-ins for the
 // desktop facilities.
-struct Shell {
+struct Shell : FakeHistoryFacilities {
     Shell()
     {
         SettingsViewModel::registerDefaults(store());
-        model
-            = std::make_unique<ColorListViewModel>(store(), sampler, clipboard, confirmation, exportDialogs);
-        updater = std::make_unique<UpdaterController>(store(), network, updateUi, offlineBundle());
+        model = std::make_unique<ColorListViewModel>(store(), sampler, clipboard, confirmation, dialogs);
+        updater = std::make_unique<UpdaterController>(store(), network, updateUi,
+            UpdateBundle { .name = QStringLiteral("Vantle"), .version = QStringLiteral("1.0") });
         window = std::make_unique<SettingsWindow>(store(), hotkeys, loginItems, *updater, model.get());
     }
     SettingsStore &store() { return *settings.store; }
@@ -65,10 +57,6 @@ struct Shell {
     }
 
     TempSettings settings;
-    FakeScreenColorSampler sampler;
-    FakeClipboard clipboard;
-    FakeCopyConfirmation confirmation;
-    FakeExportDialogs exportDialogs;
     FakeShortcutBackend backend;
     HotkeyManager hotkeys { *settings.store, backend };
     FakeLoginItemService loginItems;

@@ -34,12 +34,10 @@ def describe(acc):
 
 
 class Session:
-    def __init__(self, args=(), settings=None, env=None, files=None):
+    def __init__(self, settings=None, files=None):
         """files: {path under the config folder Vantle/: text}, e.g. a seeded history."""
-        self.args = list(args)
         self.settings = settings or {}
         self.files = files or {}
-        self.extra_env = env or {}
         self.failures = []
         self.procs = []
 
@@ -61,12 +59,10 @@ class Session:
         for name, text in self.files.items():
             with open(f"{self.home}/config/Vantle/{name}", "w") as seeded:
                 seeded.write(text)
-        env.update(self.extra_env)
-        self.env = env
         self.procs.append(subprocess.Popen([BUS_LAUNCHER, "--launch-immediately"], env=env,
                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         time.sleep(0.5)
-        self.vantle = subprocess.Popen([os.environ["VANTLE_BIN"], *self.args], env=env)
+        self.vantle = subprocess.Popen([os.environ["VANTLE_BIN"]], env=env)
         self.procs.append(self.vantle)
         if not self.wait(self.app, 20):
             self.fail("Vantle never joined the accessibility registry")

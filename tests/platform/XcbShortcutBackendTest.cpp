@@ -67,6 +67,9 @@ protected:
         manager->installEventHandler();
         setShortcut(pickKeyCode, pickModifiers, 8, 655360); // Alt+Shift+C
         setShortcut(popoverKeyCode, popoverModifiers, 7, 655360); // Alt+Shift+X
+        manager->reregisterAll();
+        pick = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::pickHotkeyFired);
+        popover = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::popoverHotkeyFired);
         g_messages.clear();
         previousHandler = qInstallMessageHandler(collectMessages);
     }
@@ -102,20 +105,12 @@ protected:
     std::unique_ptr<QSignalSpy> pick;
     std::unique_ptr<QSignalSpy> popover;
     QtMessageHandler previousHandler = nullptr;
-
-    void spy()
-    {
-        pick = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::pickHotkeyFired);
-        popover = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::popoverHotkeyFired);
-    }
 };
 
 } // namespace
 
 TEST_F(XcbShortcuts, PickFiresOnceWhateverLockIsOn)
 {
-    manager->reregisterAll();
-    spy();
     const QStringList locks[] = { {}, { QStringLiteral("Num_Lock") }, { QStringLiteral("Caps_Lock") },
         { QStringLiteral("Num_Lock"), QStringLiteral("Caps_Lock") } };
     for (const QStringList &lock : locks) {
@@ -132,8 +127,6 @@ TEST_F(XcbShortcuts, PickFiresOnceWhateverLockIsOn)
 
 TEST_F(XcbShortcuts, HeldKeyFiresOnceThroughAutoRepeat)
 {
-    manager->reregisterAll();
-    spy();
     // Held a second and a half, as a hand holds it, at the server's own repeat rate (Xvfb
     // repeats after 660 ms at 25 a second): a stream of presses without releases.
     xdotool({ QStringLiteral("keydown"), QStringLiteral("alt+shift+c") });
@@ -196,8 +189,6 @@ TEST_F(XcbShortcuts, EveryPressOfASeriesFiresWhereverTheReleaseGoes)
     };
     const Case cases[] = { { "nothing takes the keyboard", -1 }, { "the loupe outlasts the release", 400 },
         { "the loupe ends before the release", 20 } };
-    manager->reregisterAll();
-    spy();
     KeyboardTaker taker;
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
@@ -243,8 +234,6 @@ TEST_F(XcbShortcuts, EveryRecordableKeyIsGrabbedOnItself)
 
 TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)
 {
-    manager->reregisterAll();
-    spy();
     const auto keymap = [](const char *key54, const char *key29) {
         for (const QString &line : { QStringLiteral("keycode 54 = %1").arg(QLatin1String(key54)),
                  QStringLiteral("keycode 29 = %1").arg(QLatin1String(key29)) })

@@ -109,12 +109,9 @@ TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
             QString::number(c.colors.size()));
         EXPECT_EQ(view->rows().size(), c.colors.size());
         // Pinned rows come first, each section in history order.
-        QList<QUuid> expected;
-        for (const PickedColor &color : model->pinnedColors())
+        QList<QUuid> expected, actual;
+        for (const PickedColor &color : model->pinnedColors() + model->recentColors())
             expected.append(color.id);
-        for (const PickedColor &color : model->recentColors())
-            expected.append(color.id);
-        QList<QUuid> actual;
         for (const ColorRowView *row : view->rows())
             actual.append(row->color().id);
         EXPECT_EQ(actual, expected);

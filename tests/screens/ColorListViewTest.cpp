@@ -43,10 +43,9 @@ public: // the case tables below reach in from lambdas
 
     ColorRowView *rowFor(const QUuid &id) const
     {
-        for (ColorRowView *row : view->rows()) {
+        for (ColorRowView *row : view->rows())
             if (row->color().id == id)
                 return row;
-        }
         return nullptr;
     }
 
@@ -72,10 +71,9 @@ public: // the case tables below reach in from lambdas
 
     std::optional<PickedColor> stored(const QUuid &id) const
     {
-        for (const PickedColor &color : model->colors()) {
+        for (const PickedColor &color : model->colors())
             if (color.id == id)
                 return color;
-        }
         return std::nullopt;
     }
 

@@ -90,10 +90,7 @@ TEST_F(AppDelegateTest, ShortcutsFireTheirReactionsAfterTheSignalAndQuitReleases
     const int pickId = shortcuts.registered.first().id;
     shortcuts.press(pickId);
     EXPECT_EQ(sampler.pickCount, 0); // not inside the shortcut's signal
-    QTRY_COMPARE(sampler.pickCount, 1);
-    shortcuts.press(pickId); // a second trigger during the pick is ignored
-    QTest::qWait(20);
-    EXPECT_EQ(sampler.pickCount, 1);
+    QTRY_COMPARE(sampler.pickCount, 1); // a second trigger during the pick is the model's test
     sampler.cancel();
 
     delegate->applicationWillTerminate();

@@ -4,7 +4,7 @@
 #include "platform/x11/XcbShortcutBackend.h"
 #include "hotkeys/HotkeyManager.h"
 #include "hotkeys/KeyCodes.h"
-#include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "support/TempSettings.h"
 
 #include <QGuiApplication>
@@ -15,8 +15,6 @@
 #include <QtGui/qguiapplication_platform.h>
 #include <gtest/gtest.h>
 #include <xcb/xcb.h>
-
-using namespace PreferenceKeys;
 
 namespace {
 
@@ -65,8 +63,8 @@ protected:
         ASSERT_NE(backend, nullptr);
         manager = std::make_unique<HotkeyManager>(*settings.store, *backend);
         manager->installEventHandler();
-        setShortcut(pickKeyCode, pickModifiers, 8, 655360); // Alt+Shift+C
-        setShortcut(popoverKeyCode, popoverModifiers, 7, 655360); // Alt+Shift+X
+        Preferences::pickShortcut.write(*settings.store, { 8, 655360 }); // Alt+Shift+C
+        Preferences::popoverShortcut.write(*settings.store, { 7, 655360 }); // Alt+Shift+X
         manager->reregisterAll();
         pick = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::pickHotkeyFired);
         popover = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::popoverHotkeyFired);
@@ -80,12 +78,6 @@ protected:
             manager->unregisterAll();
         turnLocksOff();
         EXPECT_EQ(g_messages, QStringList()) << "nothing is reported";
-    }
-
-    void setShortcut(const QString &codeKey, const QString &modifiersKey, qint64 code, qint64 modifiers)
-    {
-        settings.store->setInteger(codeKey, code);
-        settings.store->setInteger(modifiersKey, modifiers);
     }
 
     // Presses `chord`, then a marker chord on the popover shortcut, and waits for the marker:

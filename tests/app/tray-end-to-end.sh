@@ -26,14 +26,6 @@ on_failure() {
 }
 # The loupe shows once it holds the pointer and the keyboard.
 wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; }
-# Vantle processes on this test's display (other tests may run their own).
-vantles_here() {
-    local p n=0
-    for p in $(pgrep -x vantle); do
-        grep -qxz "DISPLAY=$DISPLAY" "/proc/$p/environ" 2>/dev/null && n=$((n + 1))
-    done
-    echo "$n"
-}
 # The tray icon: the window trayer embedded for us.
 tray_icon() {
     local tray
@@ -57,10 +49,10 @@ wait_for 20 tray_icon || fail "no tray icon appeared"
 wait_for 20 xdotool search --onlyvisible --name '^Welcome to vantle$' || fail "no welcome window"
 shot start
 
-# Second start: asks the first to toggle its popup and ends; still one Vantle.
+# Second start: asks the first to toggle its popup and ends (one that kept running would meet the
+# timeout); simultaneous starts are two-instances.sh's.
 timeout 20 "$vantle" || fail "a second start failed"
 wait_for 10 popup_shown || fail "a second start did not bring the popup up"
-[[ $(vantles_here) == 1 ]] || fail "$(vantles_here) Vantles run"
 timeout 20 "$vantle" toggle || fail "vantle toggle failed"
 wait_for 10 popup_hidden || fail "vantle toggle did not close the popup"
 

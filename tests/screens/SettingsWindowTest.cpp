@@ -10,6 +10,7 @@
 #include "hotkeys/HotkeyRecorderView.h"
 #include "services/LoginItemService.h"
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/SettingsViewModel.h"
 #include "services/UpdateUserInterface.h"
 #include "services/UpdaterController.h"
@@ -133,8 +134,7 @@ TEST(SettingsView, LoweringTheHistoryLimitAsksBeforeRemovingColors)
 TEST(SettingsView, RecordedShortcutIsRegisteredWithTheDesktop)
 {
     Shell shell;
-    shell.store().setInteger(pickKeyCode, 8);
-    shell.store().setInteger(pickModifiers, 655360);
+    Preferences::pickShortcut.write(shell.store(), { 8, 655360 });
     shell.hotkeys.reregisterAll();
     SettingsView *view = shell.open();
 

@@ -22,22 +22,18 @@ using namespace PreferenceKeys;
 
 namespace {
 
-class AppDelegateTest : public ::testing::Test {
+class AppDelegateTest : public ::testing::Test, public FakeHistoryFacilities {
 protected:
     void launch()
     {
-        delegate = std::make_unique<AppDelegate>(
-            AppDelegate::Facilities { *settings.store, sampler, clipboard, confirmation, exportDialogs,
-                shortcuts, loginItems, appearance, network, updateInterface, false });
+        delegate
+            = std::make_unique<AppDelegate>(AppDelegate::Facilities { *settings.store, sampler, clipboard,
+                confirmation, dialogs, shortcuts, loginItems, appearance, network, updateInterface, false });
         delegate->applicationDidFinishLaunching();
     }
     QStringList registrations() const { return shortcuts.calls.filter(QStringLiteral("register")); }
 
     TempSettings settings;
-    FakeScreenColorSampler sampler;
-    FakeClipboard clipboard;
-    FakeCopyConfirmation confirmation;
-    FakeExportDialogs exportDialogs;
     FakeShortcutBackend shortcuts;
     FakeLoginItemService loginItems;
     AppearanceMonitor appearance;
@@ -94,10 +90,7 @@ TEST_F(AppDelegateTest, ShortcutsFireTheirReactionsAfterTheSignalAndQuitReleases
     const int pickId = shortcuts.registered.first().id;
     shortcuts.press(pickId);
     EXPECT_EQ(sampler.pickCount, 0); // not inside the shortcut's signal
-    QTRY_COMPARE(sampler.pickCount, 1);
-    shortcuts.press(pickId); // a second trigger during the pick is ignored
-    QTest::qWait(20);
-    EXPECT_EQ(sampler.pickCount, 1);
+    QTRY_COMPARE(sampler.pickCount, 1); // a second trigger during the pick is the model's test
     sampler.cancel();
 
     delegate->applicationWillTerminate();

@@ -34,12 +34,10 @@ def describe(acc):
 
 
 class Session:
-    def __init__(self, args=(), settings=None, env=None, files=None):
+    def __init__(self, settings=None, files=None):
         """files: {path under the config folder Vantle/: text}, e.g. a seeded history."""
-        self.args = list(args)
         self.settings = settings or {}
         self.files = files or {}
-        self.extra_env = env or {}
         self.failures = []
         self.procs = []
 
@@ -57,19 +55,14 @@ class Session:
         os.makedirs(f"{self.home}/config/Vantle")
         os.makedirs(f"{self.home}/run", mode=0o700)
         if self.settings:
-            with open(f"{self.home}/config/Vantle/Vantle.conf", "w") as conf:
-                conf.write("[General]\n")
-                for key, value in self.settings.items():
-                    conf.write(f"{key}={value}\n")
+            self.files["Vantle.conf"] = "[General]\n" + "".join(f"{k}={v}\n" for k, v in self.settings.items())
         for name, text in self.files.items():
             with open(f"{self.home}/config/Vantle/{name}", "w") as seeded:
                 seeded.write(text)
-        env.update(self.extra_env)
-        self.env = env
         self.procs.append(subprocess.Popen([BUS_LAUNCHER, "--launch-immediately"], env=env,
                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         time.sleep(0.5)
-        self.vantle = subprocess.Popen([os.environ["VANTLE_BIN"], *self.args], env=env)
+        self.vantle = subprocess.Popen([os.environ["VANTLE_BIN"]], env=env)
         self.procs.append(self.vantle)
         if not self.wait(self.app, 20):
             self.fail("Vantle never joined the accessibility registry")
@@ -105,6 +98,11 @@ class Session:
             subprocess.run(["xdotool", "key", "--delay", "80", k], check=True)
             time.sleep(0.15)
 
+    def pointer(self, from_right, y, *then):
+        """Moves the pointer to from_right pixels left of the screen's right edge; then e.g. "click", "1"."""
+        width = subprocess.run(["xdotool", "getdisplaygeometry"], capture_output=True, text=True).stdout.split()[0]
+        subprocess.run(["xdotool", "mousemove", str(int(width) - from_right), str(y), *then], check=True)
+
     # --- reading -------------------------------------------------------------------------
     def app(self):
         desktop = pyatspi.Registry.getDesktop(0)
@@ -134,24 +132,23 @@ class Session:
             except Exception:
                 continue
 
+    @staticmethod
+    def matches(acc, role=None, name=None, prefix=None):
+        return ((not role or acc.getRoleName() == role) and (name is None or acc.name == name)
+                and (prefix is None or (acc.name or "").startswith(prefix)))
+
     def find_all(self, role=None, name=None, prefix=None, root=None):
         found = []
         for acc in self.walk(root):
             try:
-                if role and acc.getRoleName() != role:
-                    continue
-                if name is not None and acc.name != name:
-                    continue
-                if prefix is not None and not (acc.name or "").startswith(prefix):
-                    continue
-                found.append(acc)
+                if self.matches(acc, role, name, prefix):
+                    found.append(acc)
             except Exception:
                 continue
         return found
 
     def find(self, role=None, name=None, prefix=None, root=None):
-        found = self.find_all(role, name, prefix, root)
-        return found[0] if found else None
+        return next(iter(self.find_all(role, name, prefix, root)), None)
 
     def focused(self):
         """The focused object. While a menu is open the widget it opened from still reads as
@@ -176,22 +173,18 @@ class Session:
 
     def dump(self, root=None):
         """The tree as indented lines, for a failure message."""
-        lines = []
-        root = root or self.app()
 
-        def visit(acc, depth):
+        def lines(acc, depth):
             try:
                 if depth and not acc.getState().contains(pyatspi.STATE_SHOWING):
-                    return
-                lines.append("  " * depth + describe(acc))
-                for i in range(acc.childCount):
-                    visit(acc.getChildAtIndex(i), depth + 1)
+                    return []
+                return ["  " * depth + describe(acc)] + [
+                    line for i in range(acc.childCount) for line in lines(acc.getChildAtIndex(i), depth + 1)]
             except Exception:
-                pass
+                return []
 
-        if root is not None:
-            visit(root, 0)
-        return "\n".join(lines)
+        root = root or self.app()
+        return "\n".join(lines(root, 0)) if root is not None else ""
 
     # --- checking ------------------------------------------------------------------------
     def wait(self, predicate, timeout=5.0):
@@ -213,34 +206,18 @@ class Session:
             self.fail(f"{label}{': ' + detail if detail else ''}")
         return ok
 
-    def expect_focus(self, label, name=None, role=None, prefix=None, timeout=3.0):
-        """After a key: the focused object is the one named (and of the role given)."""
-
-        def matches():
+    def expect_focus(self, label, name=None, role=None, timeout=3.0):
+        """After a key: the focused object is the one named (a name ending in "…" is a prefix)."""
+        prefix = name[:-1] if name and name.endswith("…") and len(name) > 1 else None
+        if not self.wait(lambda: self.matches(self.focused(), role, None if prefix else name, prefix), timeout):
             acc = self.focused()
-            if acc is None:
-                return False
-            if role and acc.getRoleName() != role:
-                return False
-            if name is not None and acc.name != name:
-                return False
-            if prefix is not None and not (acc.name or "").startswith(prefix):
-                return False
-            return True
-
-        if not self.wait(matches, timeout):
-            acc = self.focused()
-            self.fail(f"{label}: focus on {describe(acc) if acc else 'nothing'}, expected "
-                      f"{role or 'any role'} '{name if name is not None else (prefix or '') + '…'}'")
+            self.fail(f"{label}: focus on {describe(acc) if acc else 'nothing'}, expected {role or 'any role'} '{name}'")
             return False
         return True
 
     def expect_tree(self, label, table, root=None):
         """table: (role, name) rows, name ending in "…" for a prefix; each must be showing."""
         for role, name in table:
-            if name.endswith("…") and len(name) > 1:
-                acc = self.wait(lambda: self.find(role=role, prefix=name[:-1], root=root), 2)
-            else:
-                acc = self.wait(lambda: self.find(role=role, name=name, root=root), 2)
-            if acc is None:
+            prefix = name[:-1] if name.endswith("…") and len(name) > 1 else None
+            if self.wait(lambda: self.find(role, None if prefix else name, prefix, root), 2) is None:
                 self.fail(f"{label}: no {role} '{name}' in\n{self.dump(root)}")

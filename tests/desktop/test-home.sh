@@ -8,8 +8,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 
 pids=()
 test_home_cleanup() {
-    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[$i]}" 2>/dev/null || true; done
-    wait 2>/dev/null || true
+    end_started
     remove_tree "$home"
 }
 fail() {

@@ -40,10 +40,10 @@ if [[ -z "${VANTLE_IN_DBUS:-}" ]]; then
     exec dbus-run-session -- "$0" "${args[@]}" "$@"
 fi
 
+source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 pids=()
 cleanup() {
-    for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[$i]}" 2>/dev/null || true; done
-    wait 2>/dev/null || true
+    end_started
     [[ -n "${fifo_dir:-}" ]] && rm -rf "$fifo_dir"
 }
 trap cleanup EXIT
@@ -60,7 +60,6 @@ export VANTLE_TEST_SESSION=1
 export QT_QPA_PLATFORM=xcb
 unset WAYLAND_DISPLAY XDG_SESSION_TYPE
 
-source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 wait_for 10 xdpyinfo || { echo "X server $DISPLAY not answering" >&2; exit 1; }
 
 # start_until READY COMMAND...: starts COMMAND in the background until READY succeeds. Under

@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/PaletteExport.h"
+#include "support/Fakes.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-PickedColor color(double r, double g, double b, std::optional<QString> name = std::nullopt)
-{
-    PickedColor c = PickedColor::fromSample(r, g, b, 1.0);
-    c.name = std::move(name);
-    return c;
-}
-
-const PickedColor sunset = color(1.0, 0.42, 0.21, QStringLiteral("Sunset"));
-const PickedColor blue = color(0.2, 0.4, 0.8);
+const PickedColor sunset = makeColor(1.0, 0.42, 0.21, false, QStringLiteral("Sunset"));
+const PickedColor blue = makeColor(0.2, 0.4, 0.8);
 
 TEST(PaletteExportTest, TextLayout)
 {
@@ -27,11 +21,11 @@ TEST(PaletteExportTest, TextLayout)
         { "named and unnamed", { sunset, blue }, ColorFormat::hex, "Sunset: #FF6B36\n#3366CC" },
         { "the given format, no final line feed", { sunset }, ColorFormat::css,
             "Sunset: rgba(255, 107, 54, 1.0)" },
-        { "empty name is no name", { color(1, 0.42, 0.21, QString()) }, ColorFormat::rgb,
+        { "empty name is no name", { makeColor(1, 0.42, 0.21, false, QString()) }, ColorFormat::rgb,
             "rgb(255, 107, 54)" },
-        { "slash and quote unchanged", { color(0.2, 0.4, 0.8, QStringLiteral("a/b \"c\"")) },
+        { "slash and quote unchanged", { makeColor(0.2, 0.4, 0.8, false, QStringLiteral("a/b \"c\"")) },
             ColorFormat::hex, "a/b \"c\": #3366CC" },
-        { "blanks kept, UTF-8", { color(0.2, 0.4, 0.8, QStringLiteral(" Bleu océan ")) },
+        { "blanks kept, UTF-8", { makeColor(0.2, 0.4, 0.8, false, QStringLiteral(" Bleu océan ")) },
             ColorFormat::hexLower,
             " Bleu oc\xc3\xa9"
             "an : #3366cc" },
@@ -60,11 +54,11 @@ TEST(PaletteExportTest, JsonLayout)
         "  }\n"
         "]");
     // Slash, quote, backslash and control characters escaped; an empty name is no name.
-    EXPECT_TRUE(exportJSON({ color(0, 0, 0, QStringLiteral("a/b \"c\" \\ \t")) })
+    EXPECT_TRUE(exportJSON({ makeColor(0, 0, 0, false, QStringLiteral("a/b \"c\" \\ \t")) })
                     .contains("    \"name\" : \"a\\/b \\\"c\\\" \\\\ \\t\",\n"));
-    EXPECT_FALSE(exportJSON({ color(1, 1, 1, QString()) }).contains("name"));
+    EXPECT_FALSE(exportJSON({ makeColor(1, 1, 1, false, QString()) }).contains("name"));
     EXPECT_EQ(exportJSON({}), "[\n\n]");
-    EXPECT_EQ(exportJSON({ sunset, color(0, 0, 0, QString(QChar(0xD800))) }), "[]")
+    EXPECT_EQ(exportJSON({ sunset, makeColor(0, 0, 0, false, QString(QChar(0xD800))) }), "[]")
         << "half a surrogate pair";
 }
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hotkeys/HotkeyManager.h"
 
-#include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "support/Fakes.h"
 #include "support/TempSettings.h"
 
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
-using namespace PreferenceKeys;
+using namespace Preferences;
 
 namespace {
 
@@ -21,13 +21,11 @@ struct Fixture {
     }
     void setPick(qint64 keyCode, qint64 modifiers)
     {
-        settings.store->setInteger(pickKeyCode, keyCode);
-        settings.store->setInteger(pickModifiers, modifiers);
+        pickShortcut.write(*settings.store, { keyCode, modifiers });
     }
     void setPopover(qint64 keyCode, qint64 modifiers)
     {
-        settings.store->setInteger(popoverKeyCode, keyCode);
-        settings.store->setInteger(popoverModifiers, modifiers);
+        popoverShortcut.write(*settings.store, { keyCode, modifiers });
     }
 
     TempSettings settings;

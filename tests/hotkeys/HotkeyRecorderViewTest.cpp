@@ -48,12 +48,7 @@ struct Pane {
         QApplication::sendEvent(sibling, &event);
     }
 
-    qint64 keyCode() const { return settings.store->integerForKey(pickKeyCode); }
-    qint64 modifiers() const { return settings.store->integerForKey(pickModifiers); }
-    QString keyChar() const
-    {
-        return settings.store->stringForKey(pickKeyChar).value_or(QStringLiteral("?"));
-    }
+    StoredShortcut stored() const { return Preferences::pickShortcut.read(*settings.store); }
     QString fieldText() const { return recorder->field()->text(); }
 
     TempSettings settings;
@@ -74,24 +69,22 @@ TEST(HotkeyRecorderView, AcceptedPressesStoreThePhysicalKeyAndTheTextItTypes)
         Qt::KeyboardModifiers modifiers;
         quint32 xKeycode;
         QString text;
-        qint64 keyCode;
-        qint64 storedModifiers;
-        QString keyChar;
+        StoredShortcut stored;
         QString display;
     };
     const Row rows[] = {
-        { "option-shift-C", Qt::Key_C, Qt::AltModifier | Qt::ShiftModifier, 54, QStringLiteral("C"), 8,
-            655360, QStringLiteral("C"), QStringLiteral("Alt+Shift+C") },
-        { "option-K typing lower case", Qt::Key_K, Qt::AltModifier, 45, QStringLiteral("k"), 40, 524288,
-            QStringLiteral("K"), QStringLiteral("Alt+K") },
+        { "option-shift-C", Qt::Key_C, Qt::AltModifier | Qt::ShiftModifier, 54, QStringLiteral("C"),
+            { 8, 655360, QStringLiteral("C") }, QStringLiteral("Alt+Shift+C") },
+        { "option-K typing lower case", Qt::Key_K, Qt::AltModifier, 45, QStringLiteral("k"),
+            { 40, 524288, QStringLiteral("K") }, QStringLiteral("Alt+K") },
         { "control on a French keyboard: the A key types Q", Qt::Key_Q, Qt::ControlModifier, 38,
-            QStringLiteral("\x11"), 0, 262144, QStringLiteral("Q"), QStringLiteral("Ctrl+Q") },
+            QStringLiteral("\x11"), { 0, 262144, QStringLiteral("Q") }, QStringLiteral("Ctrl+Q") },
         { "keypad flag does not leak", Qt::Key_X, Qt::AltModifier | Qt::KeypadModifier, 53,
-            QStringLiteral("x"), 7, 524288, QStringLiteral("X"), QStringLiteral("Alt+X") },
-        { "keypad 1 with Num Lock off", Qt::Key_End, Qt::AltModifier | Qt::KeypadModifier, 87, QString(), 83,
-            524288, QStringLiteral("1"), QStringLiteral("Alt+1") },
+            QStringLiteral("x"), { 7, 524288, QStringLiteral("X") }, QStringLiteral("Alt+X") },
+        { "keypad 1 with Num Lock off", Qt::Key_End, Qt::AltModifier | Qt::KeypadModifier, 87, QString(),
+            { 83, 524288, QStringLiteral("1") }, QStringLiteral("Alt+1") },
         { "F13, which the standard keymap calls Tools", Qt::Key_Tools, Qt::ControlModifier, 191, QString(),
-            105, 262144, QStringLiteral("F13"), QStringLiteral("Ctrl+F13") },
+            { 105, 262144, QStringLiteral("F13") }, QStringLiteral("Ctrl+F13") },
     };
     for (const Row &row : rows) {
         SCOPED_TRACE(row.what);
@@ -99,9 +92,7 @@ TEST(HotkeyRecorderView, AcceptedPressesStoreThePhysicalKeyAndTheTextItTypes)
         pane.startRecording();
         pane.press(row.qtKey, row.modifiers, row.xKeycode, row.text);
         EXPECT_FALSE(pane.recorder->isRecording());
-        EXPECT_EQ(pane.keyCode(), row.keyCode);
-        EXPECT_EQ(pane.modifiers(), row.storedModifiers);
-        EXPECT_EQ(pane.keyChar(), row.keyChar);
+        EXPECT_EQ(pane.stored(), row.stored);
         EXPECT_EQ(pane.changes, 1);
         EXPECT_EQ(pane.fieldText(), row.display);
         EXPECT_EQ(pane.sibling->text(), QString()) << "the press was swallowed";
@@ -121,7 +112,7 @@ TEST(HotkeyRecorderView, PressesWithoutControlAltOrSuperAreSwallowedAndIgnored)
     EXPECT_TRUE(pane.recorder->isRecording());
     EXPECT_EQ(pane.fieldText(), QStringLiteral("Press shortcut…"));
     EXPECT_EQ(pane.sibling->text(), QString());
-    EXPECT_EQ(pane.keyCode(), 7);
+    EXPECT_EQ(pane.stored().keyCode, 7);
     EXPECT_EQ(pane.changes, 0);
 
     // Once recording ends, keys reach the window again.
@@ -145,9 +136,7 @@ TEST(HotkeyRecorderView, EscapeSecondClickAndHidingStopWithoutAChange)
         pane.startRecording();
         stop(pane);
         EXPECT_FALSE(pane.recorder->isRecording());
-        EXPECT_EQ(pane.keyCode(), 7);
-        EXPECT_EQ(pane.modifiers(), 262144);
-        EXPECT_EQ(pane.keyChar(), QStringLiteral("X"));
+        EXPECT_EQ(pane.stored(), (StoredShortcut { 7, 262144, QStringLiteral("X") }));
         EXPECT_EQ(pane.fieldText(), QStringLiteral("Ctrl+X"));
         EXPECT_EQ(pane.changes, 0);
         EXPECT_EQ(pane.recordingChanges, QList<bool>({ true, false }));
@@ -160,9 +149,8 @@ TEST(HotkeyRecorderView, ClearWritesNoShortcutAndKeepsRecording)
     EXPECT_TRUE(pane.recorder->clearButton()->isVisible());
     pane.startRecording();
     pane.recorder->clearButton()->click();
-    EXPECT_EQ(pane.keyCode(), -1);
-    EXPECT_EQ(pane.modifiers(), 0);
-    EXPECT_EQ(pane.keyChar(), QString());
+    EXPECT_EQ(pane.stored(), StoredShortcut {});
+    EXPECT_EQ(pane.settings.store->stringForKey(pickKeyChar), QString()) << "written, not removed";
     EXPECT_EQ(pane.changes, 1);
     EXPECT_TRUE(pane.recorder->isRecording());
 

@@ -31,12 +31,7 @@ subcommands() {
 }
 
 # PNG width and height from the IHDR chunk.
-png_size() {
-    local w h
-    w=$(od -An -tu1 -j16 -N4 "$1" | awk '{print $1*16777216 + $2*65536 + $3*256 + $4}')
-    h=$(od -An -tu1 -j20 -N4 "$1" | awk '{print $1*16777216 + $2*65536 + $3*256 + $4}')
-    echo "${w}x${h}"
-}
+png_size() { od -An -tu1 -j16 -N8 "$1" | awk '{print $1*2^24 + $2*2^16 + $3*256 + $4 "x" $5*2^24 + $6*2^16 + $7*256 + $8}'; }
 
 desktop_value() { sed -n "/^\[Desktop Entry\]/,/^\[/s/^$1=//p" "$desktop"; }
 
@@ -46,15 +41,12 @@ check_layout() {
     local f
     for f in bin/vantle share/applications/vantle.desktop share/metainfo/$app_id.metainfo.xml \
         share/man/man1/vantle.1.gz share/bash-completion/completions/vantle \
-        share/icons/hicolor/scalable/apps/vantle.svg share/icons/hicolor/scalable/apps/vantle-symbolic.svg; do
+        share/icons/hicolor/scalable/apps/vantle.svg share/icons/hicolor/scalable/apps/vantle-symbolic.svg \
+        lib/vantle/modules/vantle-desktop.so lib/vantle/modules/vantle-network.so; do
         [[ -s $prefix/$f ]] || fail "$f is not installed"
     done
-    [[ -x $prefix/bin/vantle ]] || fail "bin/vantle is not executable"
-    for f in vantle-desktop.so vantle-network.so; do
-        [[ -s $prefix/lib/vantle/modules/$f ]] || fail "the module lib/vantle/modules/$f is not installed"
-    done
-    # The command line's exit statuses: 0 done, 1 could not do it, 2 not understood (every
-    # command alike). The installed program finds its desktop part (`pick --print` refuses the
+    # The command line's exit statuses (bin/vantle not executable: 126): 0 done, 1 could not do
+    # it, 2 not understood (every command alike). The installed program finds its desktop part (`pick --print` refuses the
     # format there), and says what is wrong, calmly, when the part is missing.
     mkdir -p "$work/alone" && cp "$prefix/bin/vantle" "$work/alone/"
     local run expected program words answer status
@@ -71,16 +63,11 @@ check_layout() {
     local size png
     for size in 16 24 32 48 64 128 256 512; do
         png=$prefix/share/icons/hicolor/${size}x${size}/apps/vantle.png
-        if [[ ! -s $png ]]; then
-            fail "no ${size}x${size} icon"
-        elif [[ $(png_size "$png") != "${size}x${size}" ]]; then
-            fail "the ${size}x${size} icon measures $(png_size "$png")"
-        fi
+        [[ -s $png && $(png_size "$png") == "${size}x${size}" ]] || fail "the ${size}x${size} icon is missing or the wrong size"
     done
     # The desktop entry starts the installed program and names an installed icon.
     local exec icon
-    exec=$(desktop_value Exec)
-    icon=$(desktop_value Icon)
+    exec=$(desktop_value Exec) icon=$(desktop_value Icon)
     [[ -x $prefix/bin/${exec%% *} ]] || fail "the desktop entry runs \"$exec\", which is not in bin/"
     [[ -e $prefix/share/icons/hicolor/scalable/apps/$icon.svg ]] || fail "the desktop entry's icon \"$icon\" is not installed"
     grep -q '^Exec=vantle pick$' "$desktop" || fail "the desktop entry has no \"vantle pick\" action"
@@ -89,14 +76,13 @@ check_layout() {
     grep -q '<launchable type="desktop-id">vantle.desktop</launchable>' "$metainfo" || fail "metainfo launchable is not vantle.desktop"
     grep -q '<binary>vantle</binary>' "$metainfo" || fail "metainfo does not provide the binary vantle"
     # The home page is listed only when the build was given one.
-    local website
+    local website version
     website=$(sed -n 's/^VANTLE_WEBSITE_URL:STRING=//p' "$build/CMakeCache.txt")
     if [[ -z $website ]]; then
         ! grep -q '<url' "$metainfo" || fail "metainfo lists an address although none was configured"
     else
         grep -q '<url type="homepage">' "$metainfo" || fail "metainfo lacks the configured home page"
     fi
-    local version
     version=$("$prefix/bin/vantle" --version | awk '{print $2}')
     grep -q "<release version=\"$version\"" "$metainfo" || fail "metainfo has no release for version $version"
     # The installed program runs from its prefix.
@@ -106,10 +92,8 @@ check_layout() {
 check_desktop_entry() {
     need desktop-file-validate desktop-file-utils
     install_into
-    local out
-    out=$(desktop-file-validate "$desktop" 2>&1) || fail "desktop-file-validate rejects the entry"
     # Hints are advice; errors and warnings are defects.
-    if grep -E 'error|warning' <<<"$out"; then fail "desktop-file-validate complains"; fi
+    ! desktop-file-validate "$desktop" 2>&1 | grep -E 'error|warning' || fail "desktop-file-validate complains"
 }
 
 check_metainfo() {
@@ -122,17 +106,13 @@ check_manual() {
     install_into
     local page=$work/vantle.1
     gzip -dc "$manual" >"$page"
-    if command -v groff >/dev/null 2>&1; then
-        local warnings
+    command -v groff >/dev/null || command -v man >/dev/null || skip "neither groff (groff-base) nor man (man-db) is installed"
+    local warnings
+    if command -v groff >/dev/null; then
         warnings=$(groff -ww -man -z "$page" 2>&1)
         [[ -z $warnings ]] || fail "groff warns: $warnings"
-    elif command -v man >/dev/null 2>&1; then
-        :
-    else
-        skip "neither groff (groff-base) nor man (man-db) is installed"
     fi
-    if command -v man >/dev/null 2>&1; then
-        local warnings
+    if command -v man >/dev/null; then
         warnings=$(LC_ALL=C.UTF-8 MANWIDTH=80 man --warnings -l "$manual" 2>&1 >"$work/page.txt")
         [[ -z $warnings ]] || fail "man warns: $warnings"
         # Every subcommand the help lists has its own entry under COMMANDS and an example.
@@ -162,9 +142,8 @@ check_completion() {
     [[ -r /usr/share/bash-completion/bash_completion ]] || skip "bash-completion is not installed"
     install_into
     bash -n "$completion" || fail "the completion script does not parse"
-    local offered
+    local offered sub c words expected got accepted
     offered=$(complete_words vantle '' | tr '\n' ' ')
-    local sub
     for sub in $(subcommands); do
         grep -qw -- "$sub" <<<"$offered" || fail "completion does not offer the command \"$sub\" (offers: $offered)"
     done
@@ -179,7 +158,6 @@ check_completion() {
         "vantle pick --|--format --print"
         "vantle toggle --|"
     )
-    local c words expected got
     for c in "${cases[@]}"; do
         words=${c%%|*}
         expected=$(tr ' ' '\n' <<<"${c#*|}" | sed '/^$/d' | sort | tr '\n' ' ')
@@ -188,7 +166,6 @@ check_completion() {
         [[ $got == "$expected" ]] || fail "completing \"$words\": expected \"$expected\", got \"$got\""
     done
     # Every format name the program accepts is offered.
-    local accepted
     accepted=$("$prefix/bin/vantle" format --help | sed -n 's/^Formats: //p' | grep -o '" ([a-zA-Z]*)' | tr -d '"() ')
     offered=$(complete_words vantle format --format '' | tr '\n' ' ')
     for sub in $accepted; do
@@ -212,15 +189,10 @@ check_package() {
         fail "unexpected package file name $(basename "$deb")"
     lintian --fail-on error,warning --tag-display-limit 0 "$deb" >"$work/lintian.log" 2>&1 ||
         fail "lintian finds errors or warnings: $(grep -E '^[EW]:' "$work/lintian.log")"
-    local field
-    for field in Package Section Maintainer Depends Recommends Description; do
-        [[ -n $(dpkg-deb -f "$deb" "$field") ]] || fail "the package has no $field field"
-    done
-    [[ $(dpkg-deb -f "$deb" Package) == vantle ]] || fail "the package is not called vantle"
+    # lintian refuses a package without Maintainer or Description; the name is in the file name.
     [[ $(dpkg-deb -f "$deb" Section) == graphics ]] || fail "the package is not in section graphics"
-    local depends
+    local depends name needed dep declared version
     depends=$(dpkg-deb -f "$deb" Depends)
-    local name
     for name in qt6-qpa-plugins libqt6svg6; do
         grep -qw "$name" <<<"$depends" || fail "Depends lacks $name: $depends"
     done
@@ -232,20 +204,17 @@ check_package() {
     [[ -x $program ]] || fail "the package has no usr/bin/vantle"
     mkdir -p "$work/shlibs/debian"
     printf 'Source: vantle\n\nPackage: vantle\nArchitecture: any\n' >"$work/shlibs/debian/control"
-    local needed
     local modules=("$work"/root/usr/lib/vantle/modules/vantle-{desktop,network}.so) module
     for module in "${modules[@]}"; do
         [[ -s $module ]] || fail "the package has no ${module#"$work"/root/}"
     done
     needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" "${modules[@]}" 2>/dev/null | sed -n 's/^shlibs:Depends=//p')
     [[ -n $needed ]] || fail "dpkg-shlibdeps found no dependencies"
-    local dep declared
     declared=$(tr ',' '\n' <<<"$depends" | sed 's/^ *//; s/ .*//')
     while read -r dep; do
         name=${dep%% *}
         grep -qxF "$name" <<<"$declared" || fail "Depends lacks $name, which the program needs (dpkg-shlibdeps: $needed)"
     done < <(tr ',' '\n' <<<"$needed" | sed 's/^ *//; /^$/d')
-    local version
     version=$(dpkg-deb -f "$deb" Version)
     [[ $("$program" --version) == "vantle ${version%-*}" ]] || fail "the packaged program reports another version"
     for name in usr/share/applications/vantle.desktop usr/share/man/man1/vantle.1.gz usr/share/icons/hicolor/scalable/apps/vantle.svg; do

@@ -4,7 +4,7 @@
 #include "platform/x11/XcbShortcutBackend.h"
 #include "hotkeys/HotkeyManager.h"
 #include "hotkeys/KeyCodes.h"
-#include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "support/TempSettings.h"
 
 #include <QGuiApplication>
@@ -15,8 +15,6 @@
 #include <QtGui/qguiapplication_platform.h>
 #include <gtest/gtest.h>
 #include <xcb/xcb.h>
-
-using namespace PreferenceKeys;
 
 namespace {
 
@@ -65,8 +63,11 @@ protected:
         ASSERT_NE(backend, nullptr);
         manager = std::make_unique<HotkeyManager>(*settings.store, *backend);
         manager->installEventHandler();
-        setShortcut(pickKeyCode, pickModifiers, 8, 655360); // Alt+Shift+C
-        setShortcut(popoverKeyCode, popoverModifiers, 7, 655360); // Alt+Shift+X
+        Preferences::pickShortcut.write(*settings.store, { 8, 655360 }); // Alt+Shift+C
+        Preferences::popoverShortcut.write(*settings.store, { 7, 655360 }); // Alt+Shift+X
+        manager->reregisterAll();
+        pick = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::pickHotkeyFired);
+        popover = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::popoverHotkeyFired);
         g_messages.clear();
         previousHandler = qInstallMessageHandler(collectMessages);
     }
@@ -77,12 +78,6 @@ protected:
             manager->unregisterAll();
         turnLocksOff();
         EXPECT_EQ(g_messages, QStringList()) << "nothing is reported";
-    }
-
-    void setShortcut(const QString &codeKey, const QString &modifiersKey, qint64 code, qint64 modifiers)
-    {
-        settings.store->setInteger(codeKey, code);
-        settings.store->setInteger(modifiersKey, modifiers);
     }
 
     // Presses `chord`, then a marker chord on the popover shortcut, and waits for the marker:
@@ -102,20 +97,12 @@ protected:
     std::unique_ptr<QSignalSpy> pick;
     std::unique_ptr<QSignalSpy> popover;
     QtMessageHandler previousHandler = nullptr;
-
-    void spy()
-    {
-        pick = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::pickHotkeyFired);
-        popover = std::make_unique<QSignalSpy>(manager.get(), &HotkeyManager::popoverHotkeyFired);
-    }
 };
 
 } // namespace
 
 TEST_F(XcbShortcuts, PickFiresOnceWhateverLockIsOn)
 {
-    manager->reregisterAll();
-    spy();
     const QStringList locks[] = { {}, { QStringLiteral("Num_Lock") }, { QStringLiteral("Caps_Lock") },
         { QStringLiteral("Num_Lock"), QStringLiteral("Caps_Lock") } };
     for (const QStringList &lock : locks) {
@@ -132,8 +119,6 @@ TEST_F(XcbShortcuts, PickFiresOnceWhateverLockIsOn)
 
 TEST_F(XcbShortcuts, HeldKeyFiresOnceThroughAutoRepeat)
 {
-    manager->reregisterAll();
-    spy();
     // Held a second and a half, as a hand holds it, at the server's own repeat rate (Xvfb
     // repeats after 660 ms at 25 a second): a stream of presses without releases.
     xdotool({ QStringLiteral("keydown"), QStringLiteral("alt+shift+c") });
@@ -196,8 +181,6 @@ TEST_F(XcbShortcuts, EveryPressOfASeriesFiresWhereverTheReleaseGoes)
     };
     const Case cases[] = { { "nothing takes the keyboard", -1 }, { "the loupe outlasts the release", 400 },
         { "the loupe ends before the release", 20 } };
-    manager->reregisterAll();
-    spy();
     KeyboardTaker taker;
     for (const Case &c : cases) {
         SCOPED_TRACE(c.name);
@@ -216,14 +199,6 @@ TEST_F(XcbShortcuts, EveryPressOfASeriesFiresWhereverTheReleaseGoes)
         QObject::disconnect(answer);
         EXPECT_EQ(pick->count(), 6);
     }
-
-    // While a window of ours holds the keyboard (the popup), both shortcuts still work.
-    ASSERT_TRUE(taker.take());
-    pick->clear();
-    pressThenMarker(QStringLiteral("alt+shift+c"));
-    pressThenMarker(QStringLiteral("alt+shift+c"));
-    EXPECT_EQ(pick->count(), 2);
-    taker.release();
 }
 
 TEST_F(XcbShortcuts, EveryRecordableKeyIsGrabbedOnItself)
@@ -243,13 +218,12 @@ TEST_F(XcbShortcuts, EveryRecordableKeyIsGrabbedOnItself)
 
 TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)
 {
-    manager->reregisterAll();
-    spy();
-    // Move the keysym c to another key, as a layout switch does.
-    QProcess::execute(
-        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 54 = y Y") });
-    QProcess::execute(
-        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 29 = c C") });
+    const auto keymap = [](const char *key54, const char *key29) {
+        for (const QString &line : { QStringLiteral("keycode 54 = %1").arg(QLatin1String(key54)),
+                 QStringLiteral("keycode 29 = %1").arg(QLatin1String(key29)) })
+            QProcess::execute(QStringLiteral("xmodmap"), { QStringLiteral("-e"), line });
+    };
+    keymap("y Y", "c C"); // the keysym c on another key, as a layout switch does
     const int before = pick->count();
     // xdotool types by keysym: "c" now sits on key code 29.
     ASSERT_TRUE(QTest::qWaitFor(
@@ -258,8 +232,5 @@ TEST_F(XcbShortcuts, KeyboardMappingChangeGrabsAgain)
             return QTest::qWaitFor([&] { return pick->count() > before; }, 500);
         },
         10000));
-    QProcess::execute(
-        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 54 = c C") });
-    QProcess::execute(
-        QStringLiteral("xmodmap"), { QStringLiteral("-e"), QStringLiteral("keycode 29 = y Y") });
+    keymap("c C", "y Y");
 }

@@ -20,15 +20,6 @@
 
 namespace {
 
-// VANTLE_CRASH_KILLS sets the number of kills; the default keeps the test within a few
-// seconds of CI time on a busy machine while still landing hundreds of kills per run.
-int killCount()
-{
-    bool ok = false;
-    const int wanted = qEnvironmentVariableIntValue("VANTLE_CRASH_KILLS", &ok);
-    return ok && wanted > 0 ? wanted : 200;
-}
-
 // The preferences a user has set, which every save must carry along unchanged.
 const QList<std::pair<QString, QString>> presetValues = {
     { PreferenceKeys::colorFormat, QStringLiteral("HSL") },
@@ -69,7 +60,10 @@ TEST(CrashSafety, KilledSavesLoseNoReportedColourAndLeaveNoStaleLock)
     QSet<QString> reported;
     int killsDuringSaves = 0;
     qint64 slowestWriteMs = 0;
-    const int kills = killCount();
+    // VANTLE_CRASH_KILLS sets the number of kills; the default keeps the test within a few
+    // seconds on a busy machine while still landing hundreds of kills per run.
+    const int wanted = qEnvironmentVariableIntValue("VANTLE_CRASH_KILLS");
+    const int kills = wanted > 0 ? wanted : 200;
     for (int round = 0; round < kills; ++round) {
         QProcess helper;
         helper.setProgram(QStringLiteral(VANTLE_HISTORY_SAVER));

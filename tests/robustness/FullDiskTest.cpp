@@ -70,14 +70,11 @@ TEST(TinyDisk, PicksStayInMemoryAndTheOldFileUntilASaveCanSucceed)
         SCOPED_TRACE(c.what);
         QFile::remove(history);
         SettingsStore store(disk + QStringLiteral("/Vantle/Vantle.conf"));
-        FakeScreenColorSampler sampler;
-        FakeClipboard clipboard;
-        FakeCopyConfirmation confirmation;
-        FakeExportDialogs dialogs;
-        ColorListViewModel model(store, sampler, clipboard, confirmation, dialogs);
+        FakeHistoryFacilities f;
+        ColorListViewModel model(store, f.sampler, f.clipboard, f.confirmation, f.dialogs);
         const auto pick = [&](double red) {
             model.pickColor();
-            sampler.finish(red, 0.5, 0.25);
+            f.sampler.finish(red, 0.5, 0.25);
         };
         pick(0.1);
         pick(0.2);
@@ -86,7 +83,7 @@ TEST(TinyDisk, PicksStayInMemoryAndTheOldFileUntilASaveCanSucceed)
 
         c.refuse();
         pick(0.3);
-        EXPECT_EQ(clipboard.texts.size(), 3) << "the pick still copies";
+        EXPECT_EQ(f.clipboard.texts.size(), 3) << "the pick still copies";
         EXPECT_EQ(model.colors().size(), 3) << "and stays in the history";
         EXPECT_EQ(readAll(history), before) << "the old file stays intact";
 

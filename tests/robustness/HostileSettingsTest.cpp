@@ -89,11 +89,8 @@ TEST_P(HostileSettingsTest, OpensPicksSavesAndExports)
     }
 
     SettingsStore store(path);
-    FakeScreenColorSampler sampler;
-    FakeClipboard clipboard;
-    FakeCopyConfirmation confirmation;
-    FakeExportDialogs dialogs;
-    ColorListViewModel model(store, sampler, clipboard, confirmation, dialogs);
+    FakeHistoryFacilities f;
+    ColorListViewModel model(store, f.sampler, f.clipboard, f.confirmation, f.dialogs);
     EXPECT_EQ(model.colors().size(), hostile.colorsKept);
     const QStringList aside
         = QDir(dir.path()).entryList({ QStringLiteral("colorHistory.json.unreadable-*") }, QDir::Files);
@@ -117,9 +114,9 @@ TEST_P(HostileSettingsTest, OpensPicksSavesAndExports)
     }
 
     model.pickColor();
-    sampler.finish(0.2, 0.4, 0.6);
+    f.sampler.finish(0.2, 0.4, 0.6);
     ASSERT_EQ(model.colors().size(), hostile.colorsKept + 1);
-    EXPECT_EQ(clipboard.texts.size(), 1);
+    EXPECT_EQ(f.clipboard.texts.size(), 1);
     // The next launch finds the new colour on disk (the history is read from its file anew).
     SettingsStore next(path);
     const auto stored

@@ -35,12 +35,12 @@ for ((round = 1; round <= rounds; round++)); do
     fi
 
     # Both wait for the same file to appear, then start at once.
-    go=$home/go
-    (while [[ ! -e $go ]]; do sleep 0.001; done; exec "$vantle" >"$home/first.log" 2>&1) &
-    first=$!
-    (while [[ ! -e $go ]]; do sleep 0.001; done; exec "$vantle" >"$home/second.log" 2>&1) &
-    second=$!
-    pids=("$first" "$second")
+    go=$home/go pids=()
+    for log in first second; do
+        (while [[ ! -e $go ]]; do sleep 0.001; done; exec "$vantle" >"$home/$log.log" 2>&1) &
+        pids+=($!)
+    done
+    first=${pids[0]} second=${pids[1]}
     sleep 0.3
     touch "$go"
 

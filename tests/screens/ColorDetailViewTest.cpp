@@ -4,6 +4,7 @@
 #include "screens/ContrastComparisonView.h"
 #include "screens/ElidedLabel.h"
 #include "screens/FormatLine.h"
+#include "support/Fakes.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -11,13 +12,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-PickedColor makeColor(double r, double g, double b, std::optional<QString> name = std::nullopt)
-{
-    PickedColor color = PickedColor::fromSample(r, g, b, 1.0);
-    color.name = std::move(name);
-    return color;
-}
 
 // A detail screen whose delayed resets are collected, so a test decides when 1.5 s have passed.
 struct DetailHarness {
@@ -88,9 +82,10 @@ TEST(ColorDetailView, ClickCopiesThatFormatAndOnlyTheNewestResetClearsTheMark)
 // than trusted to the size hints; the code initialisers, wider than the popup, over two lines.
 TEST(ColorDetailView, TheLongestTextsAreDrawnWholeInThePopupsWidth)
 {
-    const PickedColor white = makeColor(1, 1, 1, QStringLiteral("Warm sunset orange for the spring banner"));
+    const PickedColor white
+        = makeColor(1, 1, 1, false, QStringLiteral("Warm sunset orange for the spring banner"));
     DetailHarness harness(
-        white, { white, makeColor(0, 0, 0, QStringLiteral("Deep night blue for the winter banner")) });
+        white, { white, makeColor(0, 0, 0, false, QStringLiteral("Deep night blue for the winter banner")) });
     harness.view.setFixedWidth(ColorListView::viewWidth);
     harness.view.adjustSize();
     for (const ElidedLabel *label : harness.view.findChildren<ElidedLabel *>()) {
@@ -109,11 +104,10 @@ TEST(ColorDetailView, TheLongestTextsAreDrawnWholeInThePopupsWidth)
 TEST(ColorDetailView, ComparesWithThePreviousPickFromTheKeyboard)
 {
     PickedColor grey = makeColor(0x88 / 255., 0x88 / 255., 0x88 / 255.), white = makeColor(1, 1, 1),
-                black = makeColor(0, 0, 0);
+                black = makeColor(0, 0, 0, true);
     grey.timestamp = 30;
     white.timestamp = 20;
     black.timestamp = 10;
-    black.isPinned = true;
     const QList<PickedColor> history { grey, white, black }; // newest first
     for (const auto &[shown, other] :
         { std::pair(grey, white), std::pair(white, black), std::pair(black, grey) })

@@ -19,15 +19,6 @@
 
 namespace {
 
-PickedColor makeColor(
-    double r, double g, double b, bool pinned = false, std::optional<QString> name = std::nullopt)
-{
-    PickedColor color = PickedColor::fromSample(r, g, b, 1.0);
-    color.isPinned = pinned;
-    color.name = std::move(name);
-    return color;
-}
-
 class ColorListViewTest : public ::testing::Test, public FakeHistoryFacilities {
 public: // the case tables below reach in from lambdas
     void build(const QList<PickedColor> &colors, const QString &format = QStringLiteral("Hex"))
@@ -52,10 +43,9 @@ public: // the case tables below reach in from lambdas
 
     ColorRowView *rowFor(const QUuid &id) const
     {
-        for (ColorRowView *row : view->rows()) {
+        for (ColorRowView *row : view->rows())
             if (row->color().id == id)
                 return row;
-        }
         return nullptr;
     }
 
@@ -81,10 +71,9 @@ public: // the case tables below reach in from lambdas
 
     std::optional<PickedColor> stored(const QUuid &id) const
     {
-        for (const PickedColor &color : model->colors()) {
+        for (const PickedColor &color : model->colors())
             if (color.id == id)
                 return color;
-        }
         return std::nullopt;
     }
 
@@ -118,12 +107,9 @@ TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
             QString::number(c.colors.size()));
         EXPECT_EQ(view->rows().size(), c.colors.size());
         // Pinned rows come first, each section in history order.
-        QList<QUuid> expected;
-        for (const PickedColor &color : model->pinnedColors())
+        QList<QUuid> expected, actual;
+        for (const PickedColor &color : model->pinnedColors() + model->recentColors())
             expected.append(color.id);
-        for (const PickedColor &color : model->recentColors())
-            expected.append(color.id);
-        QList<QUuid> actual;
         for (const ColorRowView *row : view->rows())
             actual.append(row->color().id);
         EXPECT_EQ(actual, expected);

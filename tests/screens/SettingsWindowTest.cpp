@@ -10,6 +10,7 @@
 #include "hotkeys/HotkeyRecorderView.h"
 #include "services/LoginItemService.h"
 #include "services/PreferenceKeys.h"
+#include "services/Preferences.h"
 #include "services/SettingsViewModel.h"
 #include "services/UpdateUserInterface.h"
 #include "services/UpdaterController.h"
@@ -27,23 +28,15 @@ using namespace PreferenceKeys;
 
 namespace {
 
-UpdateBundle offlineBundle()
-{
-    UpdateBundle bundle;
-    bundle.name = QStringLiteral("Vantle");
-    bundle.version = QStringLiteral("1.0");
-    return bundle;
-}
-
 // Everything the settings window is handed by the application shell, with test stand-ins for the
 // desktop facilities.
-struct Shell {
+struct Shell : FakeHistoryFacilities {
     Shell()
     {
         SettingsViewModel::registerDefaults(store());
-        model
-            = std::make_unique<ColorListViewModel>(store(), sampler, clipboard, confirmation, exportDialogs);
-        updater = std::make_unique<UpdaterController>(store(), network, updateUi, offlineBundle());
+        model = std::make_unique<ColorListViewModel>(store(), sampler, clipboard, confirmation, dialogs);
+        updater = std::make_unique<UpdaterController>(store(), network, updateUi,
+            UpdateBundle { .name = QStringLiteral("Vantle"), .version = QStringLiteral("1.0") });
         window = std::make_unique<SettingsWindow>(store(), hotkeys, loginItems, *updater, model.get());
     }
     SettingsStore &store() { return *settings.store; }
@@ -65,10 +58,6 @@ struct Shell {
     }
 
     TempSettings settings;
-    FakeScreenColorSampler sampler;
-    FakeClipboard clipboard;
-    FakeCopyConfirmation confirmation;
-    FakeExportDialogs exportDialogs;
     FakeShortcutBackend backend;
     HotkeyManager hotkeys { *settings.store, backend };
     FakeLoginItemService loginItems;
@@ -145,8 +134,7 @@ TEST(SettingsView, LoweringTheHistoryLimitAsksBeforeRemovingColors)
 TEST(SettingsView, RecordedShortcutIsRegisteredWithTheDesktop)
 {
     Shell shell;
-    shell.store().setInteger(pickKeyCode, 8);
-    shell.store().setInteger(pickModifiers, 655360);
+    Preferences::pickShortcut.write(shell.store(), { 8, 655360 });
     shell.hotkeys.reregisterAll();
     SettingsView *view = shell.open();
 

@@ -79,17 +79,10 @@ DETAIL = [
 ]
 
 
-def focus_line(s, line):
-    if line.endswith("…"):
-        return s.expect_focus(f"Tab reaches '{line}'", role="push button", prefix=line[:-1])
-    return s.expect_focus(f"Tab reaches '{line}'", role="push button", name=line)
-
-
 with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": json.dumps(HISTORY)}) as s:
     time.sleep(2)
     # The pointer rests where the rows will show: the popup opening under it keeps its focus.
-    width = subprocess.run(["xdotool", "getdisplaygeometry"], capture_output=True, text=True).stdout.split()[0]
-    subprocess.run(["xdotool", "mousemove", str(int(width) - 150), "190"], check=True)
+    s.pointer(150, 190)
     s.key("alt+shift+x")
     s.wait(lambda: s.find(role="push button", name="Pick Color"), 10)
     s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color")
@@ -153,11 +146,11 @@ with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": j
     s.key("alt+shift+x")
     s.expect_focus("the popup opens again on Pick Color", role="push button", name="Pick Color")
     s.key("Tab", "Return")
-    focus_line(s, LINES[0])
+    s.expect_focus("Tab reaches the first line", role="push button", name=LINES[0])
     s.expect_tree("detail", DETAIL)
     for line in LINES[1:]:
         s.key("Tab")
-        focus_line(s, line)
+        s.expect_focus(f"Tab reaches '{line}'", role="push button", name=line)
     s.key("Tab")
     s.expect_focus("Tab from the last line to the compared colour", role="combo box", name="#3366CC")
     s.key("Tab")
@@ -171,7 +164,7 @@ with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": j
     s.key("Tab", "Return")
     note = s.wait(lambda: s.find(role="notification", name="Copied #FF6B36"), 3)
     s.check("the copy capsule is heard", note is not None, s.dump())
-    focus_line(s, LINES[0])
+    s.expect_focus("Tab reaches the first line", role="push button", name=LINES[0])
     s.key("Escape")
     s.expect_focus("Escape from the detail back to the row", role="list item", name=SUNSET)
     s.key("Escape")

@@ -33,20 +33,15 @@ QByteArray appcast(const QString &version, const QString &url, qint64 length, co
 
 class UpdaterControllerTest : public ::testing::Test {
 protected:
-    UpdateBundle bundle(const QString &feedPath = QStringLiteral("/appcast.xml"))
+    std::unique_ptr<UpdaterController> makeController(std::optional<QString> feedUrl = std::nullopt)
     {
-        UpdateBundle b;
-        b.name = QStringLiteral("Vantle");
-        b.version = QStringLiteral("1.4");
-        b.feedUrl = feedPath.isEmpty() ? QString() : server.url(feedPath);
-        b.publicKey = keys.publicKey;
-        b.downloadFolder = downloads.path();
-        b.transferTimeout = 1s;
-        return b;
-    }
-    std::unique_ptr<UpdaterController> makeController(UpdateBundle b)
-    {
-        return std::make_unique<UpdaterController>(*settings.store, network, ui, std::move(b));
+        return std::make_unique<UpdaterController>(*settings.store, network, ui,
+            UpdateBundle { .name = QStringLiteral("Vantle"),
+                .version = QStringLiteral("1.4"),
+                .feedUrl = feedUrl.value_or(server.url(QStringLiteral("/appcast.xml"))),
+                .publicKey = keys.publicKey,
+                .downloadFolder = downloads.path(),
+                .transferTimeout = 1s });
     }
     // A check ends in exactly one thing the user sees (two when a download follows the offer).
     void checkAndWait(UpdaterController &controller, int expectedOutcomes = 1)
@@ -62,10 +57,6 @@ protected:
             { 200,
                 appcast(QStringLiteral("2.0"), server.url(QStringLiteral("/Vantle-2.0.tar.gz")),
                     announcedLength, signature) });
-    }
-    QStringList downloadedFiles() const
-    {
-        return QDir(downloads.path()).entryList(QDir::Files | QDir::Hidden);
     }
 
     TempSettings settings;
@@ -83,9 +74,7 @@ TEST_F(UpdaterControllerTest, WithoutAFeedAddressTheBoxShowsAtOnceWithoutNetwork
 {
     for (const QString &address :
         { QString(), QStringLiteral("not an address"), QStringLiteral("ftp://e.org/a") }) {
-        UpdateBundle b = bundle();
-        b.feedUrl = address;
-        makeController(b)->checkForUpdates();
+        makeController(address)->checkForUpdates();
     }
     EXPECT_EQ(ui.upToDateTexts, QStringList(3, QStringLiteral("Vantle 1.4")));
     EXPECT_EQ(server.requestCount(), 0);
@@ -113,7 +102,7 @@ TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
         SCOPED_TRACE(c.what);
         ui = FakeUpdateInterface();
         server.serve(QStringLiteral("/appcast.xml"), c.response);
-        checkAndWait(*makeController(bundle()));
+        checkAndWait(*makeController());
         EXPECT_EQ(ui.offered.size(), c.offered ? 1 : 0);
         EXPECT_EQ(ui.upToDateTexts.size(), c.offered ? 0 : 1);
         EXPECT_EQ(ui.offered.value(0).releaseNotes, c.offered ? u"<ul><li>Faster picking</li></ul>" : u"");
@@ -143,11 +132,12 @@ TEST_F(UpdaterControllerTest, ADownloadIsKeptOnlyWhenVerifiedAndNeverOverwritesA
         ui = FakeUpdateInterface();
         ui.answer = Choice::download;
         serveRelease(c.served, c.announced, UpdateSigning::sign(installer, keys));
-        checkAndWait(*makeController(bundle()), 2);
+        checkAndWait(*makeController(), 2);
         EXPECT_FALSE(ui.downloading);
         EXPECT_EQ(ui.readyFiles.size(), c.kept ? 1 : 0);
         EXPECT_EQ(ui.failures.size(), c.kept ? 0 : 1);
-        EXPECT_EQ(downloadedFiles().size(), c.kept ? 2 : 1) << downloadedFiles().join(u',').toStdString();
+        const QStringList files = QDir(downloads.path()).entryList(QDir::Files | QDir::Hidden);
+        EXPECT_EQ(files.size(), c.kept ? 2 : 1) << files.join(u',').toStdString();
         if (c.kept) {
             EXPECT_EQ(QFileInfo(ui.readyFiles[0]).fileName(), QStringLiteral("Vantle-2.0.tar (2).gz"));
             EXPECT_FALSE(ui.readyWasAutomatic);
@@ -178,7 +168,7 @@ TEST_F(UpdaterControllerTest, BackgroundChecksDownloadOrOfferAndStayQuietWhenSki
             settings.store->setBool(PreferenceKeys::automaticallyUpdate, *c.automatic);
         if (c.skipped)
             settings.store->setString(PreferenceKeys::skippedUpdateVersion, QStringLiteral("2.0"));
-        auto controller = makeController(bundle());
+        auto controller = makeController();
         EXPECT_EQ(controller->automaticallyDownloadsUpdates(), c.automatic.value_or(true));
         controller->startUpdater();
         ASSERT_TRUE(QTest::qWaitFor(

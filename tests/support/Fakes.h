@@ -6,6 +6,7 @@
 #include "history/ExportDialogs.h"
 #include "history/ScreenColorSampler.h"
 #include "hotkeys/GlobalShortcutBackend.h"
+#include "model/PickedColor.h"
 #include "services/Appcast.h"
 #include "services/CommandRunner.h"
 #include "services/LoginItemService.h"
@@ -19,6 +20,16 @@
 
 // One stand-in per desktop facility, driven by tests. The clock is ManualAnimationDriver.h; the
 // network is a real one talking to LocalHttpServer.h.
+
+// A colour picked now.
+inline PickedColor makeColor(
+    double r, double g, double b, bool pinned = false, std::optional<QString> name = std::nullopt)
+{
+    PickedColor color = PickedColor::fromSample(r, g, b, 1.0);
+    color.isPinned = pinned;
+    color.name = std::move(name);
+    return color;
+}
 
 // Holds the completion of the running pick until the test answers with finish() or cancel(),
 // which models the real samplers: the answer always comes after pick() returned.

@@ -149,8 +149,8 @@ void X11DisplayProfiles::load(size_t index, xcb_get_property_reply_t *reply)
         qCInfo(lcColourProfiles, "%s: %s; its pixels are picked as they are", qPrintable(monitorName(index)),
             qPrintable(failure));
     else // a profile the desktop meant to apply and cannot be: say so
-        qCWarning(lcColourProfiles, "%s: %s; its pixels are picked as they are", qPrintable(monitorName(index)),
-            qPrintable(failure));
+        qCWarning(lcColourProfiles, "%s: %s; its pixels are picked as they are",
+            qPrintable(monitorName(index)), qPrintable(failure));
 }
 
 SamplerGeometry::Rgb X11DisplayProfiles::srgbAt(const QPoint &device, const SamplerGeometry::Rgb &pixel)

@@ -4,6 +4,8 @@
 #   pids+=(PID)     ended (in reverse order) when the script exits; then the home goes
 #   fail MESSAGE    prints FAIL: MESSAGE, runs the script's on_failure if it has one, exits 1
 # A command that fails outside `fail` (under set -e) says which one it was, at which line.
+# Once per script: sourced again (through vantle-windows.sh), it keeps the home and the processes.
+[[ -z ${test_home:-} ]] || return 0
 source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 
 pids=()
@@ -28,3 +30,4 @@ else
 fi
 export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data
 mkdir -p "$XDG_CONFIG_HOME/Vantle" "$XDG_DATA_HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+test_home=$home

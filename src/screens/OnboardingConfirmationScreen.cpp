@@ -119,23 +119,28 @@ void OnboardingView::paintConfirmation(QPainter &painter) const
     const qreal midY = cardRect.center().y();
     qreal x = cardRect.left() + 24;
     // Drawn in the desktop's primary text colour, like the popover it stands for.
-    Symbols::paint(painter, QRectF(x, midY - 8, 16, 16), QStringLiteral("eyedropper"),
-        QApplication::palette().color(QPalette::WindowText));
+    Symbols::paint(painter, visualRect(painter, cardRect, QRectF(x, midY - 8, 16, 16)),
+        QStringLiteral("eyedropper"), QApplication::palette().color(QPalette::WindowText));
     x += 16 + 8;
     const QString pick = tr("Pick Color");
     painter.setPen(text);
-    painter.drawText(QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(pick) + 1, cardRect.height()),
+    painter.drawText(
+        visualRect(painter, cardRect,
+            QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(pick) + 1, cardRect.height())),
         Qt::AlignLeft | Qt::AlignVCenter, pick);
     x += cardMetrics.horizontalAdvance(pick) + 20;
     painter.setPen(Qt::NoPen);
     painter.setBrush(border);
-    painter.drawRoundedRect(QRectF(x, midY - 12, 1, 24), 1, 1);
+    painter.drawRoundedRect(visualRect(painter, cardRect, QRectF(x, midY - 12, 1, 24)), 1, 1);
     x += 1 + 20;
-    Symbols::paint(painter, QRectF(x, midY - 8, 16, 16), QStringLiteral("circle.fill"), accent);
+    Symbols::paint(painter, visualRect(painter, cardRect, QRectF(x, midY - 8, 16, 16)),
+        QStringLiteral("circle.fill"), accent);
     x += 16 + 8;
     const QString last = tr("Last: #FF6B35");
     painter.setPen(text);
-    painter.drawText(QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(last) + 1, cardRect.height()),
+    painter.drawText(
+        visualRect(painter, cardRect,
+            QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(last) + 1, cardRect.height())),
         Qt::AlignLeft | Qt::AlignVCenter, last);
     painter.restore();
 

@@ -600,7 +600,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     </message>
     <message>
         <source>Last: #FF6B35</source>
-        <translation>الأخير: #FF6B35</translation>
+        <translation>الأخير: ‎#FF6B35</translation>
     </message>
     <message>
         <source>Start Using vantle</source>

@@ -294,7 +294,8 @@ Optionen:
   -h, --help     Diese Hilfe anzeigen.
   -v, --version  Die Version anzeigen.
 
-Einstellungen: %1
+Einstellungen:
+  %1
 </translation>
     </message>
     <message>

@@ -292,7 +292,8 @@ Opções:
   -h, --help     Mostra esta ajuda.
   -v, --version  Mostra a versão.
 
-Configurações: %1
+Configurações:
+  %1
 </translation>
     </message>
     <message>

@@ -238,6 +238,7 @@ void ContrastComparisonView::measure()
 
     const QString ratio = contrastRatioText(m_pair.ratio);
     // "4.5:1" is read "4.5 to 1", as one says a ratio.
+    //: A contrast ratio read aloud: "4.5 to 1"; keep the spaces
     const QString spokenRatio = NumberText::fixed(m_pair.ratio, 1) + tr(" to 1");
     m_ratio->setText(ratio);
     m_ratio->setAccessibleName(tr("Contrast ratio %1").arg(spokenRatio));

@@ -41,7 +41,8 @@ endif()
 # SVG image plugin at run time, so those are named here.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, libqt6svg6")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-desktop-portal")
+# Qt's own translations give the standard buttons and the file dialog the language of Vantle's.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xdg-desktop-portal, qt6-translations-l10n")
 
 # The changelog is written while CPack stages the package, so that it names the maintainer
 # the package is built for. Its entry is dated with the release (RFC 2822, as Debian wants).

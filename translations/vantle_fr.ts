@@ -96,6 +96,7 @@
     <name>ColorListView</name>
     <message>
         <source>colors</source>
+        <extracomment>Spoken after the number of colours in the history (&quot;3 colors&quot;)</extracomment>
         <translation>couleurs</translation>
     </message>
     <message>
@@ -144,6 +145,7 @@
     </message>
     <message>
         <source>PINNED</source>
+        <extracomment>Heading of the list of pinned colours, in capitals where the language has them</extracomment>
         <translation>ÉPINGLÉES</translation>
     </message>
     <message>
@@ -175,6 +177,7 @@
     <name>ColorRowView</name>
     <message>
         <source>pinned</source>
+        <extracomment>Spoken state of a colour kept in the palette</extracomment>
         <translation>épinglée</translation>
     </message>
     <message>
@@ -183,6 +186,7 @@
     </message>
     <message>
         <source>Unpin</source>
+        <extracomment>The verbs of the menu: keep the colour in the palette, or take it out (Unpin)</extracomment>
         <translation>Détacher</translation>
     </message>
     <message>
@@ -440,6 +444,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     <name>ContrastBadge</name>
     <message>
         <source> to </source>
+        <extracomment>The colon of a contrast ratio read aloud: &quot;4.5 to 1&quot;; keep the spaces</extracomment>
         <translation> pour </translation>
     </message>
 </context>
@@ -499,6 +504,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     </message>
     <message>
         <source> to 1</source>
+        <extracomment>A contrast ratio read aloud: &quot;4.5 to 1&quot;; keep the spaces</extracomment>
         <translation> pour 1</translation>
     </message>
     <message>
@@ -541,6 +547,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     <name>FormatLine</name>
     <message>
         <source>Copy</source>
+        <extracomment>The verb: what pressing the line does, copy its colour text</extracomment>
         <translation>Copier</translation>
     </message>
 </context>
@@ -849,6 +856,7 @@ préféré ou en JSON ; -o l’écrit dans FILE.</translation>
     </message>
     <message>
         <source>Data</source>
+        <extracomment>Heading of the settings about the stored history</extracomment>
         <translation>Données</translation>
     </message>
     <message>

@@ -96,6 +96,7 @@
     <name>ColorListView</name>
     <message>
         <source>colors</source>
+        <extracomment>Spoken after the number of colours in the history (&quot;3 colors&quot;)</extracomment>
         <translation>cores</translation>
     </message>
     <message>
@@ -144,6 +145,7 @@
     </message>
     <message>
         <source>PINNED</source>
+        <extracomment>Heading of the list of pinned colours, in capitals where the language has them</extracomment>
         <translation>FIXADAS</translation>
     </message>
     <message>
@@ -175,6 +177,7 @@
     <name>ColorRowView</name>
     <message>
         <source>pinned</source>
+        <extracomment>Spoken state of a colour kept in the palette</extracomment>
         <translation>fixada</translation>
     </message>
     <message>
@@ -183,6 +186,7 @@
     </message>
     <message>
         <source>Unpin</source>
+        <extracomment>The verbs of the menu: keep the colour in the palette, or take it out (Unpin)</extracomment>
         <translation>Desafixar</translation>
     </message>
     <message>
@@ -292,7 +296,8 @@ Opções:
   -h, --help     Mostra esta ajuda.
   -v, --version  Mostra a versão.
 
-Configurações: %1
+Configurações:
+  %1
 </translation>
     </message>
     <message>
@@ -437,6 +442,7 @@ o grava em FILE.</translation>
     <name>ContrastBadge</name>
     <message>
         <source> to </source>
+        <extracomment>The colon of a contrast ratio read aloud: &quot;4.5 to 1&quot;; keep the spaces</extracomment>
         <translation> para </translation>
     </message>
 </context>
@@ -496,6 +502,7 @@ o grava em FILE.</translation>
     </message>
     <message>
         <source> to 1</source>
+        <extracomment>A contrast ratio read aloud: &quot;4.5 to 1&quot;; keep the spaces</extracomment>
         <translation> para 1</translation>
     </message>
     <message>
@@ -538,6 +545,7 @@ o grava em FILE.</translation>
     <name>FormatLine</name>
     <message>
         <source>Copy</source>
+        <extracomment>The verb: what pressing the line does, copy its colour text</extracomment>
         <translation>Copiar</translation>
     </message>
 </context>
@@ -846,6 +854,7 @@ o grava em FILE.</translation>
     </message>
     <message>
         <source>Data</source>
+        <extracomment>Heading of the settings about the stored history</extracomment>
         <translation>Dados</translation>
     </message>
     <message>

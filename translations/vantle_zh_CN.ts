@@ -96,6 +96,7 @@
     <name>ColorListView</name>
     <message>
         <source>colors</source>
+        <extracomment>Spoken after the number of colours in the history (&quot;3 colors&quot;)</extracomment>
         <translation>颜色</translation>
     </message>
     <message>
@@ -144,6 +145,7 @@
     </message>
     <message>
         <source>PINNED</source>
+        <extracomment>Heading of the list of pinned colours, in capitals where the language has them</extracomment>
         <translation>已固定</translation>
     </message>
     <message>
@@ -175,6 +177,7 @@
     <name>ColorRowView</name>
     <message>
         <source>pinned</source>
+        <extracomment>Spoken state of a colour kept in the palette</extracomment>
         <translation>已固定</translation>
     </message>
     <message>
@@ -183,6 +186,7 @@
     </message>
     <message>
         <source>Unpin</source>
+        <extracomment>The verbs of the menu: keep the colour in the palette, or take it out (Unpin)</extracomment>
         <translation>取消固定</translation>
     </message>
     <message>
@@ -431,6 +435,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     <name>ContrastBadge</name>
     <message>
         <source> to </source>
+        <extracomment>The colon of a contrast ratio read aloud: &quot;4.5 to 1&quot;; keep the spaces</extracomment>
         <translation> 比 </translation>
     </message>
 </context>
@@ -490,6 +495,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     </message>
     <message>
         <source> to 1</source>
+        <extracomment>A contrast ratio read aloud: &quot;4.5 to 1&quot;; keep the spaces</extracomment>
         <translation> 比 1</translation>
     </message>
     <message>
@@ -532,6 +538,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     <name>FormatLine</name>
     <message>
         <source>Copy</source>
+        <extracomment>The verb: what pressing the line does, copy its colour text</extracomment>
         <translation>复制</translation>
     </message>
 </context>
@@ -840,6 +847,7 @@ first, as text in the preferred format or as JSON; -o writes it to FILE.</source
     </message>
     <message>
         <source>Data</source>
+        <extracomment>Heading of the settings about the stored history</extracomment>
         <translation>数据</translation>
     </message>
     <message>

@@ -6,6 +6,7 @@
 #include "history/ExportDialogs.h"
 #include "history/PaletteExport.h"
 #include "history/ScreenColorSampler.h"
+#include "model/ColorFormat.h"
 #include "model/ColorHistoryCodec.h"
 #include "services/AtomicFile.h"
 #include "services/PreferenceKeys.h"
@@ -45,7 +46,7 @@ std::optional<QList<PickedColor>> trimmed(const QList<PickedColor> &colors, qint
 QString copiedMessage(const QString &text)
 {
     //: The confirmation after a copy; %1 is the colour text put on the clipboard
-    return ColorListViewModel::tr("Copied %1").arg(text);
+    return colorSentence(ColorListViewModel::tr("Copied %1"), { text });
 }
 
 } // namespace

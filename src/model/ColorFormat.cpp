@@ -99,6 +99,15 @@ QString rawValue(ColorFormat format)
     return QString::fromLatin1(namesOf(format).raw);
 }
 
+QString colorSentence(const QString &sentence, const QStringList &colorTexts)
+{
+    const QString mark = sentence.isRightToLeft() ? QStringLiteral("\u200E") : QString();
+    QString result = sentence;
+    for (const QString &text : colorTexts)
+        result = result.arg(mark + text + mark);
+    return result;
+}
+
 QString formatLabel(ColorFormat format)
 {
     return QCoreApplication::translate("ColorFormat", namesOf(format).raw);

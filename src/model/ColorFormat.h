@@ -24,6 +24,9 @@ inline constexpr std::array<ColorFormat, 9> allColorFormats = {
 };
 
 QString rawValue(ColorFormat format);
+// A sentence of the person's language with colour texts for its %1, %2…: in a right-to-left
+// sentence each colour text is marked left to right, so its # and parentheses stay in place.
+QString colorSentence(const QString &sentence, const QStringList &colorTexts);
 // The format's name as people read it ("Hex", "RGB (decimal)"), in their language.
 QString formatLabel(ColorFormat format);
 // The identifier-style case name ("hexLower"), used by the command line.

@@ -98,6 +98,7 @@ QWidget *ColorListView::buildHeader()
         QMargins(7, 3, 7, 3), header);
     m_countBadge->setObjectName(QStringLiteral("countBadge"));
     // Read after the number: "3, colors".
+    //: Spoken after the number of colours in the history ("3 colors")
     m_countBadge->setAccessibleDescription(tr("colors"));
     row->addWidget(m_countBadge);
     return header;
@@ -233,6 +234,7 @@ void ColorListView::rebuildColors()
                   m_rows.append(row);
               }
           };
+    //: Heading of the list of pinned colours, in capitals where the language has them
     addSection(tr("PINNED"), QStringLiteral("pinnedHeader"), pinned);
     addSection(tr("RECENT"), QStringLiteral("recentHeader"), recent);
     stack->addStretch(1);

@@ -63,6 +63,7 @@ ColorRowView::ColorRowView(const PickedColor &color, ColorFormat format, std::fu
     if (color.hasName())
         accessible = *color.name + QStringLiteral(", ") + accessible;
     if (color.isPinned)
+        //: Spoken state of a colour kept in the palette
         accessible += QStringLiteral(", ") + tr("pinned");
     setAccessibleName(accessible);
 }
@@ -84,6 +85,7 @@ QMenu *ColorRowView::showContextMenu(const QPoint &globalPosition)
         if (onCopy)
             onCopy();
     });
+    //: The verbs of the menu: keep the colour in the palette, or take it out (Unpin)
     connect(menu->addAction(m_color.isPinned ? tr("Unpin") : tr("Pin")), &QAction::triggered, menu,
         [onPin = m_onPin] {
             if (onPin)

@@ -37,6 +37,7 @@ ContrastBadge::ContrastBadge(
 
     // "4.5:1" is read "4.5 to 1", as one says a ratio.
     QString spokenRatio = ratio;
+    //: The colon of a contrast ratio read aloud: "4.5 to 1"; keep the spaces
     spokenRatio.replace(QLatin1Char(':'), tr(" to "));
     setAccessibleName(label + QStringLiteral(", ") + spokenRatio + QStringLiteral(", ") + level);
 }

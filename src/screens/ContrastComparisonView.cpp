@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ContrastComparisonView.h"
 
+#include "model/ColorFormat.h"
 #include "model/Contrast.h"
 #include "model/NumberText.h"
 #include "screens/CapsuleLabel.h"
@@ -229,7 +230,7 @@ void ContrastComparisonView::measure()
         text.red, text.green, text.blue, text.alpha, { background.red, background.green, background.blue });
 
     const QString textName = nameOf(text), backgroundName = nameOf(background);
-    m_roles->setText(tr("%1 as text on %2").arg(textName, backgroundName));
+    m_roles->setText(colorSentence(tr("%1 as text on %2"), { textName, backgroundName }));
     static_cast<ContrastPreview *>(m_preview)->setColors(
         screenColor(m_pair.foreground), screenColor(m_pair.background));
     m_preview->setAccessibleName(tr("Preview: %1 text on %2").arg(textName, backgroundName));
@@ -237,6 +238,7 @@ void ContrastComparisonView::measure()
 
     const QString ratio = contrastRatioText(m_pair.ratio);
     // "4.5:1" is read "4.5 to 1", as one says a ratio.
+    //: A contrast ratio read aloud: "4.5 to 1"; keep the spaces
     const QString spokenRatio = NumberText::fixed(m_pair.ratio, 1) + tr(" to 1");
     m_ratio->setText(ratio);
     m_ratio->setAccessibleName(tr("Contrast ratio %1").arg(spokenRatio));

@@ -2,6 +2,7 @@
 #include "screens/ElidedLabel.h"
 
 #include <QPainter>
+#include <QStyle>
 #include <QTextLayout>
 #include <cmath>
 
@@ -22,6 +23,9 @@ void layOut(QTextLayout &layout, qreal width, WrappedText &result)
 {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    // Each line starts at its own left; paintEvent places it by the alignment.
+    option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setTextDirection(layout.text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     layout.setTextOption(option);
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
@@ -136,20 +140,26 @@ void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setPen(m_color(palette()));
+    // The place follows the layout (mirrored right to left); the reading order follows the text
+    // itself, by its first letter: a colour text like rgb(255, 107, 54) stays left to right
+    // in an Arabic interface, its parentheses where they belong.
+    const Qt::Alignment alignment
+        = QStyle::visualAlignment(layoutDirection(), m_alignment) | Qt::AlignAbsolute;
+    painter.setLayoutDirection(m_text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     if (!m_wrapping) {
         painter.setFont(shownFont());
-        painter.drawText(rect(), int(m_alignment) | Qt::TextSingleLine, shownText());
+        painter.drawText(rect(), int(alignment) | Qt::TextSingleLine, shownText());
         return;
     }
     QTextLayout layout(m_text, font());
     WrappedText wrapped;
     layOut(layout, width(), wrapped);
-    const qreal top = (m_alignment & Qt::AlignVCenter) ? (height() - wrapped.height) / 2 : 0;
+    const qreal top = (alignment & Qt::AlignVCenter) ? (height() - wrapped.height) / 2 : 0;
     for (const QTextLine &line : std::as_const(wrapped.lines)) {
         qreal left = 0;
-        if (m_alignment & Qt::AlignRight)
+        if (alignment & Qt::AlignRight)
             left = width() - line.naturalTextWidth();
-        else if (m_alignment & Qt::AlignHCenter)
+        else if (alignment & Qt::AlignHCenter)
             left = (width() - line.naturalTextWidth()) / 2;
         line.draw(&painter, QPointF(left, top));
     }

@@ -48,6 +48,7 @@ FormatLine::FormatLine(ColorFormat format, const QString &value, QWidget *parent
 
     // Read as shown: the format, then its text; what a press does is the description.
     setAccessibleName(formatLabel(format) + QStringLiteral(", ") + value);
+    //: The verb: what pressing the line does, copy its colour text
     setAccessibleDescription(tr("Copy"));
     setToolTip(value);
 }

@@ -34,11 +34,21 @@ QList<OnboardingView::Timing> OnboardingView::confirmationEntrance()
     };
 }
 
+namespace {
+
+QString confirmationSubtext()
+{
+    return OnboardingView::tr("Look for the eyedropper icon in your system tray.");
+}
+
+} // namespace
+
 OnboardingView::ConfirmationLayout OnboardingView::confirmationLayout() const
 {
     const qreal w = width();
     const qreal headlineHeight = QFontMetricsF(systemFont(24, QFont::Bold)).height();
-    const qreal subtextHeight = QFontMetricsF(systemFont(15)).height();
+    // The hint wraps where a language needs more than a line.
+    const qreal subtextHeight = wrappedHeight(systemFont(15), confirmationSubtext(), w - 48);
     const QFontMetricsF cardMetrics(systemFont(13, QFont::Medium));
     const qreal cardContent
         = std::max({ 24.0, cardMetrics.height(), QFontMetricsF(systemFont(16, QFont::Medium)).height() });
@@ -59,7 +69,7 @@ OnboardingView::ConfirmationLayout OnboardingView::confirmationLayout() const
     y += 100 + 24;
     layout.headline = QRectF(0, y, w, headlineHeight);
     y += headlineHeight + 8;
-    layout.subtext = QRectF(0, y, w, subtextHeight);
+    layout.subtext = QRectF(24, y, w - 48, subtextHeight);
     y += subtextHeight + 24;
     layout.card = QRectF(w / 2 - cardWidth / 2, y, cardWidth, cardHeight);
     layout.button = QRectF(w / 2 - buttonWidth / 2, height() - 48 - buttonHeight, buttonWidth, buttonHeight);
@@ -102,8 +112,7 @@ void OnboardingView::paintConfirmation(QPainter &painter) const
     enter(painter, progress(Step::SubtextVisible), 8);
     painter.setFont(systemFont(15));
     painter.setPen(mutedText);
-    painter.drawText(
-        layout.subtext, Qt::AlignCenter, tr("Look for the eyedropper icon in your system tray."));
+    painter.drawText(layout.subtext, Qt::AlignCenter | Qt::TextWordWrap, confirmationSubtext());
     painter.restore();
 
     // A small picture of the menu-bar popover's controls.
@@ -119,23 +128,28 @@ void OnboardingView::paintConfirmation(QPainter &painter) const
     const qreal midY = cardRect.center().y();
     qreal x = cardRect.left() + 24;
     // Drawn in the desktop's primary text colour, like the popover it stands for.
-    Symbols::paint(painter, QRectF(x, midY - 8, 16, 16), QStringLiteral("eyedropper"),
-        QApplication::palette().color(QPalette::WindowText));
+    Symbols::paint(painter, visualRect(painter, cardRect, QRectF(x, midY - 8, 16, 16)),
+        QStringLiteral("eyedropper"), QApplication::palette().color(QPalette::WindowText));
     x += 16 + 8;
     const QString pick = tr("Pick Color");
     painter.setPen(text);
-    painter.drawText(QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(pick) + 1, cardRect.height()),
+    painter.drawText(
+        visualRect(painter, cardRect,
+            QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(pick) + 1, cardRect.height())),
         Qt::AlignLeft | Qt::AlignVCenter, pick);
     x += cardMetrics.horizontalAdvance(pick) + 20;
     painter.setPen(Qt::NoPen);
     painter.setBrush(border);
-    painter.drawRoundedRect(QRectF(x, midY - 12, 1, 24), 1, 1);
+    painter.drawRoundedRect(visualRect(painter, cardRect, QRectF(x, midY - 12, 1, 24)), 1, 1);
     x += 1 + 20;
-    Symbols::paint(painter, QRectF(x, midY - 8, 16, 16), QStringLiteral("circle.fill"), accent);
+    Symbols::paint(painter, visualRect(painter, cardRect, QRectF(x, midY - 8, 16, 16)),
+        QStringLiteral("circle.fill"), accent);
     x += 16 + 8;
     const QString last = tr("Last: #FF6B35");
     painter.setPen(text);
-    painter.drawText(QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(last) + 1, cardRect.height()),
+    painter.drawText(
+        visualRect(painter, cardRect,
+            QRectF(x, cardRect.top(), cardMetrics.horizontalAdvance(last) + 1, cardRect.height())),
         Qt::AlignLeft | Qt::AlignVCenter, last);
     painter.restore();
 

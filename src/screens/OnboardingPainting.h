@@ -22,6 +22,15 @@ constexpr qreal rowSpacing = 14;
 // How far the welcome icon's glow reaches beyond its 120-point disc.
 constexpr qreal glowBlur = 24;
 
+// A part laid out left to right within `area`, put where it belongs when the interface reads
+// right to left (the painter's direction is its widget's).
+inline QRectF visualRect(const QPainter &painter, const QRectF &area, const QRectF &rect)
+{
+    if (painter.layoutDirection() != Qt::RightToLeft)
+        return rect;
+    return QRectF(area.left() + area.right() - rect.right(), rect.top(), rect.width(), rect.height());
+}
+
 inline QFont systemFont(int pixelSize, QFont::Weight weight = QFont::Normal)
 {
     QFont font = QApplication::font();

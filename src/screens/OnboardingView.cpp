@@ -294,9 +294,10 @@ void OnboardingView::paintButton(QPainter &painter, const QRectF &capsule, const
     const qreal x = capsule.center().x() - rowWidth / 2;
     painter.setFont(font);
     painter.setPen(Qt::white);
-    painter.drawText(
-        QRectF(x, capsule.top(), textWidth + 1, capsule.height()), Qt::AlignLeft | Qt::AlignVCenter, label);
+    painter.drawText(visualRect(painter, capsule, QRectF(x, capsule.top(), textWidth + 1, capsule.height())),
+        Qt::AlignLeft | Qt::AlignVCenter, label);
     Symbols::paint(painter,
-        QRectF(x + textWidth + spacing, capsule.center().y() - arrowPx / 2.0, arrowPx, arrowPx),
+        visualRect(painter, capsule,
+            QRectF(x + textWidth + spacing, capsule.center().y() - arrowPx / 2.0, arrowPx, arrowPx)),
         QStringLiteral("arrow.right"), Qt::white);
 }

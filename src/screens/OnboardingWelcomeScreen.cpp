@@ -130,11 +130,12 @@ void OnboardingView::paintWelcome(QPainter &painter) const
         painter.save();
         enter(painter, progress(bullets[i].step), 8);
         Symbols::paint(painter,
-            QRectF(row.left(), row.top() + (symbolHeight - 16) / 2, bulletSymbolFrame, 16),
+            visualRect(
+                painter, row, QRectF(row.left(), row.top() + (symbolHeight - 16) / 2, bulletSymbolFrame, 16)),
             QLatin1String(bullets[i].symbol), accent);
         painter.setFont(systemFont(14));
         painter.setPen(mutedText);
-        painter.drawText(row.adjusted(bulletSymbolFrame + rowSpacing, 0, 0, 0),
+        painter.drawText(visualRect(painter, row, row.adjusted(bulletSymbolFrame + rowSpacing, 0, 0, 0)),
             Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, bullets[i].line);
         painter.restore();
     }

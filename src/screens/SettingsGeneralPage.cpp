@@ -130,6 +130,7 @@ QWidget *SettingsView::makeGeneralPage()
             m_viewModel->clearHistory();
     });
     QLabel *caption = secondaryLabel(tr("Pinned colors will be preserved."), 11);
+    //: Heading of the settings about the stored history
     QFormLayout *data = formFor(section(tr("Data")));
     data->addRow(tr("History limit"), m_historyLimitPicker);
     data->addRow(m_clearHistoryButton);

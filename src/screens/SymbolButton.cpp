@@ -5,6 +5,7 @@
 #include "screens/Theme.h"
 
 #include <QPainter>
+#include <QStyle>
 
 SymbolButton::SymbolButton(const QString &text, Style style, QWidget *parent)
     : PaintedButton(parent)
@@ -89,15 +90,19 @@ void SymbolButton::paintEvent(QPaintEvent *)
     const QRect inner = rect().marginsRemoved(m_style.padding);
     int x = m_style.centred ? rect().x() + (rect().width() - contentWidth) / 2 : inner.x();
     const qreal centreY = rect().height() / 2.0;
+    // Laid out left to right, then mirrored as a whole in a right-to-left interface: the symbol
+    // leads the text in either direction.
+    const Qt::LayoutDirection direction = layoutDirection();
     if (hasSymbol) {
-        Symbols::paint(painter,
-            QRectF(x, centreY - m_style.symbolSize / 2.0, m_style.symbolSize, m_style.symbolSize),
-            m_style.symbol, foreground);
+        const QRect symbolRect(
+            x, qRound(centreY - m_style.symbolSize / 2.0), m_style.symbolSize, m_style.symbolSize);
+        Symbols::paint(
+            painter, QStyle::visualRect(direction, rect(), symbolRect), m_style.symbol, foreground);
         x += m_style.symbolSize + m_style.spacing;
     }
     if (textWidth) {
         painter.setPen(foreground);
-        painter.drawText(QRect(x, 0, textWidth + 1, height()),
-            Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
+        painter.drawText(QStyle::visualRect(direction, rect(), QRect(x, 0, textWidth + 1, height())),
+            Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextSingleLine, text());
     }
 }

@@ -12,6 +12,14 @@ QString resourcePath(const QString &name)
     return QStringLiteral(":/symbols/") + name + QStringLiteral(".svg");
 }
 
+// Symbols that point along the reading direction (back, forward) turn round in a right-to-left
+// interface; the others (a pin, a gear) keep their drawing.
+bool pointsAlongReading(const QString &name)
+{
+    return name.startsWith(u"chevron.left") || name.startsWith(u"chevron.right")
+        || name.startsWith(u"arrow.left") || name.startsWith(u"arrow.right");
+}
+
 } // namespace
 
 namespace Symbols {
@@ -29,6 +37,10 @@ void paint(QPainter &painter, const QRectF &rect, const QString &name, const QCo
         return;
     const qreal side = qMin(rect.width(), rect.height());
     const QRectF target(rect.center().x() - side / 2, rect.center().y() - side / 2, side, side);
+    if (painter.layoutDirection() == Qt::RightToLeft && pointsAlongReading(name)) {
+        painter.drawImage(target, tinted.toImage().mirrored(true, false));
+        return;
+    }
     painter.drawPixmap(target, tinted, QRectF(tinted.rect()));
 }
 

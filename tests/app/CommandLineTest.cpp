@@ -10,7 +10,10 @@
 #include <QDir>
 #include <QFile>
 #include <QTranslator>
+#include <functional>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -40,6 +43,22 @@ CommandRun runExport(const QStringList &args, SettingsStore &store)
     return run(runExportCommand, args, store);
 }
 
+void removeTranslations()
+{
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+}
+
+// What scripts read (colours, JSON, the fields of `contrast`) is the same in every language.
+void inEnglishAndGerman(const std::function<void()> &check)
+{
+    for (const QString &language : { u"en"_s, u"de"_s }) {
+        SCOPED_TRACE(language.toStdString());
+        installTranslations({ language });
+        check();
+        removeTranslations();
+    }
+}
+
 } // namespace
 
 TEST(FormatCommand, PrintsEachColourInTheAskedFormats)
@@ -66,38 +85,28 @@ TEST(FormatCommand, PrintsEachColourInTheAskedFormats)
             u"UIColor\tUIColor(red: 1.00, green: 0.42, blue: 0.21, alpha: 1.00)\nCSS rgba\trgba(255, 107, "
             u"54, 1.0)\n" },
     };
-    for (const auto &c : cases) {
-        const CommandRun run = runFormat(c.args, *t.store);
-        EXPECT_EQ(
-            std::tuple(run.status, run.out, run.err), std::tuple(0, QString::fromUtf16(c.out), QString()))
-            << c.args.join(u' ').toStdString();
-    }
+    inEnglishAndGerman([&] {
+        for (const auto &c : cases) {
+            const CommandRun run = runFormat(c.args, *t.store);
+            EXPECT_EQ(
+                std::tuple(run.status, run.out, run.err), std::tuple(0, QString::fromUtf16(c.out), QString()))
+                << c.args.join(u' ').toStdString();
+        }
+    });
 }
 
 TEST(FormatCommand, BadInputPrintsOneLineAndNothingOnStandardOutput)
 {
     TempSettings t;
-    const QStringList bad[] = {
-        { QStringLiteral("#FF6B3") },
-        { QStringLiteral("GGGGGG") },
-        { QStringLiteral("1,2") },
-        { QStringLiteral("nan,0,0") },
-        { QStringLiteral("1,0,0"), QStringLiteral("--format"), QStringLiteral("Hexx") },
-        { QStringLiteral("--format") },
-        { QStringLiteral("--bogus"), QStringLiteral("1,0,0") },
-        {},
-        { QStringLiteral("--all"), QStringLiteral("--format=hsl"), QStringLiteral("1,0,0") },
-        { QStringLiteral("1,0,0"), QStringLiteral("#+12345") },
-    };
+    const QStringList bad[] = { { u"#FF6B3"_s }, { u"GGGGGG"_s }, { u"1,2"_s }, { u"nan,0,0"_s },
+        { u"1,0,0"_s, u"--format"_s, u"Hexx"_s }, { u"--format"_s }, { u"--bogus"_s, u"1,0,0"_s }, {},
+        { u"--all"_s, u"--format=hsl"_s, u"1,0,0"_s }, { u"1,0,0"_s, u"#+12345"_s } };
     for (const QStringList &args : bad) {
         const CommandRun run = runFormat(args, *t.store);
-        EXPECT_EQ(run.status, 2) << args.join(u' ').toStdString();
-        EXPECT_EQ(run.out, QString()) << args.join(u' ').toStdString();
-        EXPECT_EQ(run.err.count(u'\n'), 1) << run.err.toStdString();
+        EXPECT_EQ(std::tuple(run.status, run.out, run.err.count(u'\n')), std::tuple(2, QString(), 1))
+            << args.join(u' ').toStdString() << ": " << run.err.toStdString();
     }
-    EXPECT_TRUE(
-        runFormat({ QStringLiteral("1,0,0"), QStringLiteral("--format"), QStringLiteral("Hexx") }, *t.store)
-            .err.contains(u"Hexx"));
+    EXPECT_TRUE(runFormat({ u"1,0,0"_s, u"--format"_s, u"Hexx"_s }, *t.store).err.contains(u"Hexx"));
 }
 
 // Every text Vantle writes reads back as a colour with that text; components are read exactly.
@@ -131,29 +140,30 @@ TEST(ColorArgument, ReadsEveryTextVantleWritesAndComponentsExactly)
 TEST(ContrastCommand, PrintsTheMeasureInPlainLinesOrOneObject)
 {
     TempSettings t;
-    const CommandRun plain
-        = run(runContrastCommand, { QStringLiteral("#888"), QStringLiteral("rgb(255, 255, 255)") }, *t.store);
-    EXPECT_EQ(std::tuple(plain.status, plain.out, plain.err),
-        std::tuple(0,
-            QStringLiteral("Foreground\t#888888\nBackground\t#FFFFFF\nRatio\t3.5:1\nNormal text\tFail\n"
-                           "Large text\tAA\nNon-text\tPass\nAPCA Lc\t63.1\tlarge or bold text\n"),
-            QString()));
-    // Translucent black on white is drawn as grey first; light on dark gives a negative Lc.
-    const CommandRun json = run(runContrastCommand,
-        { QStringLiteral("--json"), QStringLiteral("0,0,0,0.5"), QStringLiteral("#FFFFFF") }, *t.store);
-    EXPECT_TRUE(json.out.startsWith(u"{\"foreground\":\"#808080\",\"background\":\"#FFFFFF\",\"ratio\":3.97"))
-        << json.out.toStdString();
-    EXPECT_TRUE(json.out.contains(
-        u"\"normalText\":\"Fail\",\"largeText\":\"AA\",\"nonText\":\"Pass\",\"apcaLc\":67.13"));
-    EXPECT_TRUE(run(runContrastCommand,
-        { QStringLiteral("-j"), QStringLiteral("#fff"), QStringLiteral("#888") }, *t.store)
-                    .out.contains(u"\"apcaLc\":-68.54"));
+    inEnglishAndGerman([&] {
+        const CommandRun plain = run(
+            runContrastCommand, { QStringLiteral("#888"), QStringLiteral("rgb(255, 255, 255)") }, *t.store);
+        EXPECT_EQ(std::tuple(plain.status, plain.out, plain.err),
+            std::tuple(0,
+                QStringLiteral("Foreground\t#888888\nBackground\t#FFFFFF\nRatio\t3.5:1\nNormal text\tFail\n"
+                               "Large text\tAA\nNon-text\tPass\nAPCA Lc\t63.1\tlarge or bold text\n"),
+                QString()));
+        // Translucent black on white is drawn as grey first; light on dark gives a negative Lc.
+        const CommandRun json = run(runContrastCommand,
+            { QStringLiteral("--json"), QStringLiteral("0,0,0,0.5"), QStringLiteral("#FFFFFF") }, *t.store);
+        EXPECT_TRUE(
+            json.out.startsWith(u"{\"foreground\":\"#808080\",\"background\":\"#FFFFFF\",\"ratio\":3.97"))
+            << json.out.toStdString();
+        EXPECT_TRUE(json.out.contains(
+            u"\"normalText\":\"Fail\",\"largeText\":\"AA\",\"nonText\":\"Pass\",\"apcaLc\":67.13"));
+        EXPECT_TRUE(run(runContrastCommand,
+            { QStringLiteral("-j"), QStringLiteral("#fff"), QStringLiteral("#888") }, *t.store)
+                        .out.contains(u"\"apcaLc\":-68.54"));
+    });
 
-    const QStringList bad[] = { { QStringLiteral("#fff") },
-        { QStringLiteral("#fff"), QStringLiteral("#000"), QStringLiteral("#888") },
-        { QStringLiteral("#fff"), QStringLiteral("rgba(0, 0, 0, 0.5)") },
-        { QStringLiteral("#fff"), QStringLiteral("--bogus"), QStringLiteral("#000") },
-        { QStringLiteral("#ggg"), QStringLiteral("#000") } };
+    const QStringList bad[]
+        = { { u"#fff"_s }, { u"#fff"_s, u"#000"_s, u"#888"_s }, { u"#fff"_s, u"rgba(0, 0, 0, 0.5)"_s },
+              { u"#fff"_s, u"--bogus"_s, u"#000"_s }, { u"#ggg"_s, u"#000"_s } };
     for (const QStringList &args : bad) {
         const CommandRun r = run(runContrastCommand, args, *t.store);
         EXPECT_EQ(std::tuple(r.status, r.out, r.err.count(u'\n')), std::tuple(2, QString(), 1))
@@ -234,47 +244,20 @@ TEST_F(ExportCommandTest, RefusesWhatItCannotDo)
     EXPECT_EQ(runExport({}, *t.store).out, QString());
 }
 
-// Scripts read the colours, the JSON and the fields of `contrast` in every language; people read
-// the errors in theirs. English, listed first, wins over a translation listed after it.
-TEST(CommandLineLanguage, TranslatesMessagesButNeverData)
+// English listed before a translation wins; a language without one is passed over; the
+// messages for people are translated.
+TEST(CommandLineLanguage, FollowsTheFirstTranslatedLanguage)
 {
-    const struct {
-        QStringList asked;
-        const char16_t *installed;
-    } choices[] = { { { QStringLiteral("en-GB"), QStringLiteral("de") }, u"" },
-        { { QStringLiteral("C") }, u"" }, { { QStringLiteral("xx"), QStringLiteral("de") }, u"de" },
-        { { QStringLiteral("de-AT") }, u"de_AT" } };
-    for (const auto &choice : choices) {
-        EXPECT_EQ(installTranslations(choice.asked), QString::fromUtf16(choice.installed));
-        qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    const std::pair<QStringList, const char16_t *> choices[]
+        = { { { u"en-GB"_s, u"de"_s }, u"" }, { { u"C"_s }, u"" }, { { u"xx"_s, u"de-AT"_s }, u"de_AT" } };
+    for (const auto &[asked, installed] : choices) {
+        EXPECT_EQ(installTranslations(asked), QString::fromUtf16(installed));
+        removeTranslations();
     }
-
     TempSettings t;
-    t.store->setString(PreferenceKeys::colorFormat, QStringLiteral("RGB (decimal)"));
-    const struct {
-        int (*command)(const QStringList &, CommandContext &);
-        QStringList args;
-    } runs[] = {
-        { runFormatCommand,
-            { QStringLiteral("--all"), QStringLiteral("--contrast"), QStringLiteral("0.2,0.4,0.8") } },
-        { runFormatCommand, { QStringLiteral("#FF6B36") } },
-        { runContrastCommand, { QStringLiteral("#888"), QStringLiteral("#FFF") } },
-        { runContrastCommand, { QStringLiteral("--json"), QStringLiteral("#fff"), QStringLiteral("#888") } },
-        { runFormatCommand, { QStringLiteral("zz") } },
-    };
-    QList<CommandRun> english;
-    for (const auto &r : runs)
-        english << run(r.command, r.args, *t.store);
-    ASSERT_EQ(installTranslations({ QStringLiteral("de-DE") }), QStringLiteral("de_DE"));
-    for (qsizetype i = 0; i < english.size(); ++i) {
-        const CommandRun german = run(runs[i].command, runs[i].args, *t.store);
-        EXPECT_EQ(std::tuple(german.status, german.out), std::tuple(english[i].status, english[i].out));
-        EXPECT_EQ(german.err.isEmpty(), english[i].err.isEmpty());
-        if (!german.err.isEmpty()) {
-            EXPECT_TRUE(german.err.startsWith(u"vantle format: die Farbe „zz“")) << qPrintable(german.err);
-        }
-    }
-    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    installTranslations({ u"de"_s });
+    EXPECT_TRUE(runFormat({ u"zz"_s }, *t.store).err.startsWith(u"vantle format: die Farbe „zz“"));
+    removeTranslations();
 }
 
 } // namespace

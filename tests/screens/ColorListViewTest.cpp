@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "screens/ColorListView.h"
+#include "app/Translations.h"
 #include "history/ColorListViewModel.h"
 #include "model/ColorHistoryCodec.h"
 #include "screens/ColorDetailView.h"
@@ -15,6 +16,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTest>
+#include <QTranslator>
 #include <gtest/gtest.h>
 
 namespace {
@@ -236,4 +238,16 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         EXPECT_EQ(name && name->isVisibleTo(view.get()) ? std::optional(name->text()) : std::nullopt,
             c.expected && !c.expected->isEmpty() ? c.expected : std::nullopt);
     }
+}
+
+// Arabic lays the popup out right to left, as its translation says (no setting of ours): the
+// footer's Quit comes left of Settings. Without the translation the order is back.
+TEST_F(ColorListViewTest, ArabicMirrorsThePopup)
+{
+    ASSERT_EQ(installTranslations({ QStringLiteral("ar-EG") }), QStringLiteral("ar_EG"));
+    build({ makeColor(1.0, 0.42, 0.21) });
+    EXPECT_EQ(view->layoutDirection(), Qt::RightToLeft);
+    EXPECT_LT(child("quitButton")->geometry().right(), child("settingsButton")->geometry().left());
+    qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator *>());
+    EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
 }

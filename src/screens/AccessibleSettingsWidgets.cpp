@@ -4,7 +4,9 @@
 #include "screens/OnboardingView.h"
 #include "screens/SettingsTabButton.h"
 
+#include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QPointer>
 #include <array>
@@ -34,6 +36,71 @@ public:
 
 private:
     SettingsTabButton *button() const { return static_cast<SettingsTabButton *>(widget()); }
+};
+
+// A drop-down (the default format, the history limit): named by its label as every other
+// control is, with the chosen entry as its text, so a reader says "Default format, combo box,
+// Hex". Qt on Linux would name it by the chosen entry alone. Its one child is the list of
+// entries, and it opens on the reader's press.
+class AccessibleChoice : public QAccessibleWidget, public QAccessibleTextInterface {
+public:
+    explicit AccessibleChoice(QComboBox *box)
+        : QAccessibleWidget(box, QAccessible::ComboBox)
+    {
+    }
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface *>(this)
+                                                  : QAccessibleWidget::interface_cast(type);
+    }
+    QString text(QAccessible::Text type) const override
+    {
+        const QString name = QAccessibleWidget::text(type);
+        if (type == QAccessible::Value || (type == QAccessible::Name && name.isEmpty()))
+            return box()->currentText();
+        return name;
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = box()->view()->isVisible();
+        return state;
+    }
+    int childCount() const override { return 1; }
+    QAccessibleInterface *child(int index) const override
+    {
+        return index == 0 ? QAccessible::queryAccessibleInterface(box()->view()) : nullptr;
+    }
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        return child && child->object() == box()->view() ? 0 : -1;
+    }
+    QStringList actionNames() const override { return { showMenuAction(), pressAction() }; }
+    void doAction(const QString &) override { box()->showPopup(); }
+
+    // The chosen entry, read-only, as a reader reads the text of a drop-down.
+    QString text(int start, int end) const override { return box()->currentText().mid(start, end - start); }
+    int characterCount() const override { return int(box()->currentText().size()); }
+    int cursorPosition() const override { return 0; }
+    void setCursorPosition(int) override { }
+    int selectionCount() const override { return 0; }
+    void selection(int, int *start, int *end) const override { *start = *end = 0; }
+    void addSelection(int, int) override { }
+    void removeSelection(int) override { }
+    void setSelection(int, int, int) override { }
+    QRect characterRect(int) const override { return {}; }
+    int offsetAtPoint(const QPoint &) const override { return -1; }
+    void scrollToSubstring(int, int) override { }
+    QString attributes(int, int *start, int *end) const override
+    {
+        *start = 0;
+        *end = characterCount();
+        return {};
+    }
+
+private:
+    QComboBox *box() const { return static_cast<QComboBox *>(widget()); }
 };
 
 QString onboardingText(const char *text)
@@ -198,6 +265,8 @@ QAccessibleInterface *accessibleSettingsWidget(const QString &className, QObject
         return new AccessibleTab(static_cast<SettingsTabButton *>(object));
     if (className == QLatin1String("QWidget") && object->objectName() == QLatin1String("settingsTabBar"))
         return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::PageTabList);
+    if (className == QLatin1String("QComboBox"))
+        return new AccessibleChoice(static_cast<QComboBox *>(object));
     if (className == QLatin1String("OnboardingView"))
         return new AccessibleOnboarding(static_cast<OnboardingView *>(object));
     // A screen reader announces a window by its role: the settings as a dialog, the welcome as

@@ -11,14 +11,14 @@ import pyatspi  # noqa: E402
 from atspi import Session  # noqa: E402
 
 GENERAL_TAB_ORDER = [  # from the selected tab on, what each Tab press reaches
-    ("combo box", "Hex"),  # a combo box is named by its value; its label is its relation
+    ("combo box", "Default format"),  # named by its label; the chosen entry is its text
     ("push button", "Pick color"),
     ("push button", "Clear the Pick color shortcut"),
     ("push button", "Toggle popup"),
     ("push button", "Clear the Toggle popup shortcut"),
     ("check box", "Show colored dot for last picked color"),
     ("check box", "Launch at login"),
-    ("combo box", "50"),
+    ("combo box", "History limit"),
     ("push button", "Clear History"),
     ("page tab", "General"),
 ]
@@ -54,7 +54,9 @@ with Session(settings={"onboardingShown": "true"}) as s:
 
     # The recorder: Return listens, a combination is recorded, then read after the name.
     s.key("Tab")
-    s.expect_focus("back to the first control", role="combo box", name="Hex")
+    s.expect_focus("back to the first control", role="combo box", name="Default format")
+    chosen = s.find(role="combo box", name="Default format").queryText()
+    s.check("the drop-down reads its entry", chosen.getText(0, -1) == "Hex", chosen.getText(0, -1))
     s.key("Tab")
     s.expect_focus("the pick recorder", role="push button", name="Pick color")
     s.key("space")

@@ -200,6 +200,10 @@ TEST(PseudoLayout, EveryScreenHoldsItsTexts)
         window->present();
         if (confirmation)
             window->view()->getStarted();
+        const auto last
+            = confirmation ? OnboardingView::Step::Button2Visible : OnboardingView::Step::ButtonVisible;
+        if (qEnvironmentVariableIsSet("VANTLE_TEST_SHOTS")) // the picture once everything has come in
+            (void)QTest::qWaitFor([&] { return window->view()->progress(last) >= 1; }, 8000);
         // Its texts are painted: the buttons, measured from their texts, stay inside.
         EXPECT_TRUE(QRectF(window->view()->rect()).contains(window->view()->startUsingButtonRect()));
         EXPECT_TRUE(QRectF(window->view()->rect()).contains(window->view()->getStartedButtonRect()));
@@ -242,12 +246,14 @@ TEST(PseudoLayout, EveryScreenHoldsItsTexts)
         SCOPED_TRACE(s.screen);
         QWidget *window = s.open();
         ASSERT_TRUE(window && QTest::qWaitForWindowExposed(window, 20000));
+        QApplication::processEvents(); // the layouts a screen change asked for
         // VANTLE_TEST_SHOTS=DIR keeps a picture of each screen (once faded in) for a person to look at.
         if (const QString shots = qEnvironmentVariable("VANTLE_TEST_SHOTS"); !shots.isEmpty()) {
             (void)QTest::qWaitFor([&] {
                 const QList<QWidget *> all = window->findChildren<QWidget *>();
                 return std::none_of(all.begin(), all.end(), [](QWidget *w) { return w->graphicsEffect(); });
             });
+            window->repaint();
             window->screen()->grabWindow(0).save(
                 shots + u'/' + QLatin1String(s.screen) + QStringLiteral(".png"));
         }

@@ -47,19 +47,13 @@ public:
         const QString text = QString::fromUtf8(source);
         if (text == u"QT_LAYOUT_DIRECTION")
             return QStringLiteral("LTR");
-        static const QRegularExpression kept(QStringLiteral(R"(%\d|%n|#[0-9A-Fa-f]{6}|<[^>]*>|&\w+;|\n)"));
-        QString out;
-        const auto accent = [&](QStringView part) {
-            for (const QChar c : part)
-                out += c.isLetter() ? QString(c) + u'\u0302' + u'\u0323' : QString(c);
-        };
-        qsizetype from = 0;
-        for (const QRegularExpressionMatch &m : kept.globalMatch(text)) {
-            accent(QStringView(text).sliced(from, m.capturedStart() - from));
-            out += m.captured();
-            from = m.capturedEnd();
-        }
-        accent(QStringView(text).sliced(from));
+        // A letter gets its accents unless it belongs to a placeholder, a colour, markup or an entity.
+        static const QRegularExpression parts(
+            QStringLiteral(R"(%\d|%n|#[0-9A-Fa-f]{6}|<[^>]*>|&\w+;|(\p{L}))"));
+        QString out = text;
+        for (qsizetype shift = 0; const QRegularExpressionMatch &m : parts.globalMatch(text))
+            if (m.capturedLength(1))
+                out.insert(m.capturedEnd() + shift, u"\u0302\u0323"), shift += 2;
         out += u' ';
         for (qsizetype i = 0; i < (text.size() * 4 + 9) / 10; ++i)
             out += QString(u"xy"[i % 2]) + u'\u030C' + u'\u0323';

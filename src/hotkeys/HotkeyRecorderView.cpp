@@ -79,8 +79,12 @@ HotkeyRecorderView::HotkeyRecorderView(const QString &label, SettingsStore &stor
     QFont captionFont = m_caption->font();
     captionFont.setPixelSize(13);
     m_caption->setFont(captionFont);
+    // Where a language's caption and field do not both fit the row, the caption wraps: the
+    // field, what the person clicks and reads, keeps its whole text.
+    m_caption->setWordWrap(true);
 
     m_field->setFlat(true);
+    m_field->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_field->setCursor(Qt::PointingHandCursor);
     m_field->setAccessibleName(label);
     m_field->setFocusPolicy(Qt::StrongFocus);

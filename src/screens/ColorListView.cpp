@@ -137,12 +137,14 @@ QWidget *ColorListView::buildEmptyState()
     stack->addWidget(
         new SymbolLabel(QStringLiteral("eyedropper"), 32, &Theme::tertiaryText, empty), 0, Qt::AlignHCenter);
     auto *title = new ElidedLabel(tr("No colors yet"), Theme::font(13), &Theme::secondaryText, empty);
-    title->setAlignment(Qt::AlignCenter);
-    stack->addWidget(title);
     auto *hint = new ElidedLabel(
         tr("Click Pick Color to get started"), Theme::font(11), &Theme::tertiaryText, empty);
-    hint->setAlignment(Qt::AlignCenter);
-    stack->addWidget(hint);
+    // A language that needs more than the popup's width goes on to a second line.
+    for (ElidedLabel *label : { title, hint }) {
+        label->setAlignment(Qt::AlignCenter);
+        label->setWrapping(true);
+        stack->addWidget(label);
+    }
     return empty;
 }
 

@@ -130,6 +130,10 @@ int ElidedLabel::heightForWidth(int width) const
 {
     if (!m_wrapping)
         return QWidget::heightForWidth(width);
+    // A text that needs no second line is exactly as tall as an unwrapped label: wrapping where
+    // a language needs it leaves the English look alone.
+    if (neededWidth(font(), m_text) <= width)
+        return QFontMetrics(font()).height();
     QTextLayout layout(m_text, font());
     WrappedText wrapped;
     layOut(layout, width, wrapped);

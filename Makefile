@@ -3,9 +3,9 @@
 BUILD_DIR ?= build
 BUILD_TYPE ?= RelWithDebInfo
 JOBS ?= $(shell nproc)
-# The desktop tests drive real X servers side by side on small machines: one that fails is run
-# once more, and fails the suite only if it fails again (its first failure is still printed).
-CTEST_FLAGS ?= --repeat until-pass:2
+# Extra ctest options, such as `-R app_` for a part of the suite. Nothing is retried: a test
+# that fails once fails the suite.
+CTEST_FLAGS ?=
 CMAKE_FLAGS ?=
 PREFIX ?= /usr/local
 

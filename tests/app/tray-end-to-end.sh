@@ -23,6 +23,8 @@ on_failure() {
     xwininfo -root -tree | grep -iE '"(trayer|vantle)"' >&2
     kill -0 "${VANTLE_TRAY_PID:-0}" 2>/dev/null || echo "trayer is not running; it said:" >&2
     tail -n 20 "${VANTLE_TRAY_LOG:-/dev/null}" >&2
+    kill -0 "${VANTLE_WM_PID:-0}" 2>/dev/null || echo "openbox is not running; it said:" >&2
+    tail -n 20 "${VANTLE_WM_LOG:-/dev/null}" >&2
 }
 # The loupe shows once it holds the pointer and the keyboard.
 wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; }

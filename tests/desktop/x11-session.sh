@@ -51,7 +51,9 @@ trap cleanup EXIT
 # Let Xvfb pick a free display and tell us its number, so parallel tests never collide.
 fifo_dir=$(mktemp -d)
 mkfifo "$fifo_dir/display"
-Xvfb -displayfd 3 -screen 0 "$size" -nolisten tcp 3>"$fifo_dir/display" >/dev/null 2>&1 &
+# -noreset: the server resets when its last client leaves (the readiness probe below), and a
+# client connecting during that reset fails to open the display.
+Xvfb -displayfd 3 -screen 0 "$size" -nolisten tcp -noreset 3>"$fifo_dir/display" >/dev/null 2>&1 &
 pids+=($!)
 read -r -t 20 display_number <"$fifo_dir/display" || { echo "Xvfb did not start" >&2; exit 1; }
 export DISPLAY=":$display_number"
@@ -78,7 +80,9 @@ start_until() {
     exit 1
 }
 if [[ $wm == 1 ]] && command -v openbox >/dev/null; then
-    start_until "xprop -root _NET_SUPPORTING_WM_CHECK | grep -q window" openbox --sm-disable
+    # "window id" and not just "window": on a new server xprop answers "no such atom on any window".
+    start_until "xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'" openbox --sm-disable
+    export VANTLE_WM_PID=${pids[-1]} VANTLE_WM_LOG=$fifo_dir/openbox.log
 fi
 if [[ $tray == 1 ]] && command -v trayer >/dev/null; then
     # Qt docks an icon whenever the tray appears, so trayer's window existing is enough here

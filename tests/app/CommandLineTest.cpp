@@ -7,7 +7,6 @@
 #include "services/PreferenceKeys.h"
 #include "support/TempSettings.h"
 
-#include <QDir>
 #include <QFile>
 #include <QTranslator>
 #include <functional>

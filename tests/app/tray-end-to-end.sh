@@ -1,14 +1,17 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Vantle as a person meets it, inside the private X desktop of tests/desktop/x11-session.sh
-# (openbox, trayer, private session bus): start, tray icon, `vantle pick` onto the clipboard, the
-# dot in the tray, the popup from the tray and from `vantle toggle`, a second start, and quitting.
+# (openbox, trayer, private session bus): start, tray icon, a second start, the shortcuts at a
+# person's pace (keys held 80 ms, many picks in a row ended in every way with the welcome window
+# open, both shortcuts while the popup holds the keyboard, a pick from the popup's own button),
+# `vantle pick` onto the clipboard, the dot in the tray, the popup from the tray and from
+# `vantle toggle`, and quitting.
 #   VANTLE_BIN=... x11-session.sh tray-end-to-end.sh [SHOT_DIR]
 set -euo pipefail
 
 shots=${1:-}
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
-need_tools import convert
+need_tools import convert xsetroot
 # Fresh settings but for the dot in the tray, which this test looks at, and a history long
 # enough that the popup's list must scroll rather than run over the tray icon.
 printf '[General]\nshowColorDot=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
@@ -19,6 +22,7 @@ done | paste -sd, | sed 's/^/[/; s/$/]/' >"$XDG_CONFIG_HOME/Vantle/colorHistory.
 
 # What a failure leaves to read: Vantle's messages, the windows of the tray and of Vantle.
 on_failure() {
+    shot failure
     tail -n 20 "$home/vantle.log" >&2
     xwininfo -root -tree | grep -iE '"(trayer|vantle)"' >&2
     kill -0 "${VANTLE_TRAY_PID:-0}" 2>/dev/null || echo "trayer is not running; it said:" >&2
@@ -26,8 +30,7 @@ on_failure() {
     kill -0 "${VANTLE_WM_PID:-0}" 2>/dev/null || echo "openbox is not running; it said:" >&2
     tail -n 20 "${VANTLE_WM_LOG:-/dev/null}" >&2
 }
-# The loupe shows once it holds the pointer and the keyboard.
-wait_for_loupe() { wait_for 20 loupe_shown || fail "no loupe came up"; }
+press() { xdotool key --delay 80 "$1"; } # a person's press: each key held 80 ms
 # The tray icon: the window trayer embedded for us.
 tray_icon() {
     local tray
@@ -39,10 +42,6 @@ icon_shows() { # icon_shows HEX: the tray icon has pixels of that colour
     local pixels # read whole first: grep -q would end import early, a failure under pipefail
     pixels=$(import -window "$(tray_icon)" -depth 8 txt:- 2>/dev/null) && grep -qi "#$1" <<<"$pixels"
 }
-
-# A desktop in one colour to pick from.
-xsetroot -solid '#FF6B36'
-echo "sentinel" | xclip -selection clipboard
 
 "$vantle" 2>>"$home/vantle.log" &
 pid=$! && pids+=("$pid")
@@ -58,10 +57,70 @@ wait_for 10 popup_shown || fail "a second start did not bring the popup up"
 timeout 20 "$vantle" toggle || fail "vantle toggle failed"
 wait_for 10 popup_hidden || fail "vantle toggle did not close the popup"
 
+# Twelve picks in a row, the welcome window open throughout, each ended another way; a new
+# desktop colour for each, so every copy is told from the one before. A cancelled pick must leave
+# the clipboard alone: checked once the next loupe shows, when Vantle has done all it would.
+ends=(click Return space Escape click right-click Return click Escape space click Return)
+kept=
+for i in "${!ends[@]}"; do
+    colour=$(printf '#%02X%02X%02X' $((20 * i + 10)) $((200 - 15 * i)) $((90 + 7 * i)))
+    xsetroot -solid "$colour"
+    xdotool mousemove $((60 + 20 * i)) "$(scaled 700)" # clear of the welcome window
+    press alt+shift+c
+    wait_for 10 loupe_shown || fail "press $((i + 1)) of the pick shortcut opened no loupe"
+    [[ -z $kept ]] || clipboard_is "$kept" || fail "cancelled pick $i changed the clipboard"
+    echo "sentinel $i" | xclip -selection clipboard
+    case ${ends[$i]} in
+        click) xdotool click 1 ;;
+        right-click) xdotool click 3 ;;
+        *) press "${ends[$i]}" ;;
+    esac
+    wait_for 10 loupe_hidden || fail "pick $((i + 1)) (${ends[$i]}) did not end"
+    kept=
+    case ${ends[$i]} in
+        Escape | right-click) kept="sentinel $i" ;;
+        *) wait_for 10 clipboard_is "$colour" \
+            || fail "pick $((i + 1)) (${ends[$i]}) copied \"$(xclip -o -selection clipboard)\", not $colour" ;;
+    esac
+done
+
+# The popup takes the keyboard while it is open: its shortcut still closes it, and the pick
+# shortcut still picks (the popup makes way).
+# Another client holds the keyboard when a grab of ours finds it AlreadyGrabbed (1).
+keyboard_taken() {
+    python3 -c 'import ctypes as c; x = c.CDLL("libX11.so.6"); x.XOpenDisplay.restype = c.c_void_p
+d = c.c_void_p(x.XOpenDisplay(None)); x.XDefaultRootWindow.restype = c.c_ulong
+status = x.XGrabKeyboard(d, c.c_ulong(x.XDefaultRootWindow(d)), 0, 1, 1, 0); x.XUngrabKeyboard(d, 0)
+x.XCloseDisplay(d); exit(status != 1)'
+}
+for key in alt+shift+x alt+shift+c; do
+    press alt+shift+x
+    wait_for 10 popup_shown || fail "Alt+Shift+X did not open the popup"
+    wait_for 10 keyboard_taken || fail "the open popup did not take the keyboard"
+    press $key
+    wait_for 10 popup_hidden || fail "$key left the open popup up"
+done
+wait_for 10 loupe_shown || fail "Alt+Shift+C did nothing while the popup was open"
+press Escape
+wait_for 10 loupe_hidden || fail "Escape did not end the pick"
+
+# The popup's own Pick Color button: the popup goes before the loupe reads the screen, so a
+# click where the popup was picks the desktop, not the popup.
+xsetroot -solid '#2E8B57'
+press alt+shift+x
+wait_for 10 popup_shown || fail "the popup did not open"
+read -r px py pw ph < <(popup_geometry)
+# The button spans the popup's width just below its header.
+xdotool mousemove $((px + pw / 2)) $((py + $(scaled 62))) click 1
+wait_for 10 loupe_shown || fail "the popup's Pick Color button opened no loupe"
+xdotool mousemove $((px + pw / 2)) $((py + ph / 2)) click 1
+wait_for 10 clipboard_is '#2E8B57' || fail "a pick where the popup was copied \"$(xclip -o -selection clipboard)\""
+
 # `vantle pick` from another process, then a click on the desktop: the loupe takes the click, the
-# text the clipboard. (Picks by shortcut, ended in every way, are shortcut-presses.sh's.)
+# text the clipboard.
+xsetroot -solid '#FF6B36'
 timeout 20 "$vantle" pick || fail "vantle pick failed"
-wait_for_loupe
+wait_for 20 loupe_shown || fail "no loupe came up"
 xdotool mousemove 100 700 click 1
 wait_for 10 clipboard_is '#FF6B36' || fail "clipboard holds \"$(xclip -o -selection clipboard)\", not #FF6B36"
 shot after-pick

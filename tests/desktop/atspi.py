@@ -2,12 +2,10 @@
 """Reads Vantle as a screen reader does: the accessibility bus of the private X desktop of
 x11-session.sh, Vantle's tree in the AT-SPI registry, the focused object after real key presses.
 
-    from atspi import Session
-    with Session() as s:          # starts the accessibility bus and Vantle with a new profile
+    with Session() as s:  # the accessibility bus and Vantle with a new profile
         s.key("alt+shift+x")
-        s.wait(lambda: s.find(role="push button", name="Pick Color"))
         s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color")
-    # exits 1 listing every failed check, 77 when the bus or pyatspi is missing
+        s.finish()  # exits 1 listing every failed check; 77 when the bus or pyatspi is missing
 """
 import os
 import shutil
@@ -34,9 +32,8 @@ def describe(acc):
 
 
 class Session:
-    def __init__(self, settings=None, files=None):
+    def __init__(self, files=None):
         """files: {path under the config folder Vantle/: text}, e.g. a seeded history."""
-        self.settings = settings or {}
         self.files = files or {}
         self.failures = []
         self.procs = []
@@ -54,8 +51,6 @@ class Session:
                    QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_ACCESSIBILITY="1")
         os.makedirs(f"{self.home}/config/Vantle")
         os.makedirs(f"{self.home}/run", mode=0o700)
-        if self.settings:
-            self.files["Vantle.conf"] = "[General]\n" + "".join(f"{k}={v}\n" for k, v in self.settings.items())
         for name, text in self.files.items():
             with open(f"{self.home}/config/Vantle/{name}", "w") as seeded:
                 seeded.write(text)
@@ -115,8 +110,8 @@ class Session:
                 continue
         return None
 
-    def walk(self, root=None, showing_only=True):
-        """Every object under root (Vantle's windows by default), depth first."""
+    def walk(self, root=None):
+        """Every showing object under root (Vantle's windows by default), depth first."""
         root = root or self.app()
         if root is None:
             return
@@ -124,7 +119,7 @@ class Session:
         while stack:
             acc = stack.pop()
             try:
-                if showing_only and acc is not root and acc.getRole() != pyatspi.ROLE_APPLICATION:
+                if acc is not root and acc.getRole() != pyatspi.ROLE_APPLICATION:
                     if not acc.getState().contains(pyatspi.STATE_SHOWING):
                         continue
                 yield acc
@@ -137,18 +132,14 @@ class Session:
         return ((not role or acc.getRoleName() == role) and (name is None or acc.name == name)
                 and (prefix is None or (acc.name or "").startswith(prefix)))
 
-    def find_all(self, role=None, name=None, prefix=None, root=None):
-        found = []
+    def find(self, role=None, name=None, prefix=None, root=None):
         for acc in self.walk(root):
             try:
                 if self.matches(acc, role, name, prefix):
-                    found.append(acc)
+                    return acc
             except Exception:
                 continue
-        return found
-
-    def find(self, role=None, name=None, prefix=None, root=None):
-        return next(iter(self.find_all(role, name, prefix, root)), None)
+        return None
 
     def focused(self):
         """The focused object. While a menu is open the widget it opened from still reads as

@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <gtest/gtest.h>
 #include <memory>
 

@@ -7,7 +7,6 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QProcess>
-#include <QScreen>
 #include <QTest>
 #include <QWidget>
 #include <gtest/gtest.h>

@@ -276,14 +276,8 @@ int main(int argc, char **argv)
         QGuiApplication app(argc, argv); // fonts, for the size of the loupe's text
         return checkLoupe(QString::fromLocal8Bit(argv[2]), QPoint(std::atoi(argv[3]), std::atoi(argv[4])));
     }
-    if (argc != 9 || QByteArray(argv[1]) != "target") {
-        std::fprintf(stderr,
-            "usage: %s target X Y W H LEFT RIGHT FILE | wait-grab SECONDS | pattern"
-            " | pattern-hex X Y | check-loupe SHOT HX HY | set-profile INDEX [FILE]"
-            " | lut-profile FROM TO\n",
-            argv[0]);
-        return 2;
-    }
+    if (argc != 9 || QByteArray(argv[1]) != "target")
+        return 2; // the commands are listed at the top of SamplerDesktopHelper.cpp
     QApplication app(argc, argv);
     Target target(QColor(QString::fromLatin1(argv[6])), QColor(QString::fromLatin1(argv[7])),
         QString::fromLocal8Bit(argv[8]));

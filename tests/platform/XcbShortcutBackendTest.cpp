@@ -7,7 +7,6 @@
 #include "services/Preferences.h"
 #include "support/TempSettings.h"
 
-#include <QGuiApplication>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTest>

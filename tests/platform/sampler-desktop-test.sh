@@ -54,13 +54,9 @@ TABLE
 # the cells beyond the screen are black.
 "$helper" pattern || fail "could not paint the pattern on the root window"
 # expect_loupe HX HY: waits until a screenshot shows the right loupe for that hotspot.
+loupe_shows() { import -window root "$work/shot.png" && "$helper" check-loupe "$work/shot.png" "$@" >"$work/check"; }
 expect_loupe() {
-    for _ in $(seq 40); do
-        import -window root "$work/shot.png" 2>/dev/null || true
-        "$helper" check-loupe "$work/shot.png" "$1" "$2" >"$work/check" 2>&1 && return 0
-        sleep 0.1
-    done
-    fail "the loupe at $1,$2 does not show the magnified desktop: $(cat "$work/check")"
+    wait_for 10 loupe_shows "$1" "$2" || fail "the loupe at $1,$2 is not the magnified desktop: $(cat "$work/check")"
 }
 xdotool mousemove 700 500
 start_pick hex
@@ -132,7 +128,6 @@ reference() { # reference PROFILE R G B: the sRGB colour as #RRGGBB, by transicc
 put_profile() { # put_profile MONITOR NAME|-
     [[ $2 == - ]] && "$helper" set-profile "$1" || "$helper" set-profile "$1" "$(profile_file "$2")"
 }
-clipboard_is() { [[ $(xclip -o -selection clipboard 2>/dev/null) == "$1" ]]; }
 # left monitor's profile | right monitor's | route | x | the pixel there
 while read -r left right route x pixel; do
     put_profile 0 "$left" && put_profile 1 "$right"

@@ -6,7 +6,6 @@
 #include "services/PreferenceKeys.h"
 #include "services/SettingsStore.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>

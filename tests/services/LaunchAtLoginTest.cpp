@@ -6,7 +6,6 @@
 #include "support/Fakes.h"
 #include "support/TempSettings.h"
 
-#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 

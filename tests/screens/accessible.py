@@ -1,11 +1,17 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""The popup as a screen reader reads it: the pick button, the section headings and the colour
+"""Vantle as a screen reader reads it, in one session from the first start.
+The welcome window: each screen's texts and its one button, named and focused, pressed from the
+keyboard; the last press closes the window and records the welcome.
+The popup: the pick button, the section headings and the colour
 rows named by name, value and pin; Tab and the arrows through them; a row's menu from the Menu
 key and Shift+F10; the rename sheet; the export menu; a colour's detail screen, each format line a
 button named by its format and text in Tab order, the contrast lines said as ratios, the comparison
 with another colour and its swap read again, a copy heard
 without taking the focus; Escape going back one level at a time and closing the popup last; the
-loupe's value heard as the pointer moves."""
+loupe's value heard as the pointer moves.
+The settings window: the page tab list and each page's controls, named, in Tab order; the shortcut
+recorder saying that it listens and then what it recorded; arrows between the tabs; Escape
+closing the window."""
 import json
 import os
 import subprocess
@@ -68,7 +74,7 @@ DETAIL = [
     ("label", "vs Black, 7.4 to 1, AAA"),
     # Compared with the newest other colour (Sunset is the oldest), as text on Sunset.
     ("heading", "Text and Background"),
-    ("combo box", "#3366CC"),  # named by its value, as every combo box
+    ("combo box", "#3366CC"),  # no label beside it: named by the colour it shows
     ("push button", "Swap text and background"),
     ("label", "Contrast ratio 1.9 to 1"),
     ("label", "Normal text: Fail, 1.9 to 1"),
@@ -78,14 +84,54 @@ DETAIL = [
     *[("push button", line) for line in LINES],
 ]
 
+SCREENS = [  # (what is read, the button that Return presses there)
+    ([("label", "Welcome to vantle"),
+      ("label", "Pick any color from anywhere on your screen with one click."),
+      ("label", "The color value is copied to your clipboard instantly in your preferred format."),
+      ("label", "Pin your favorite colors and build a palette you can export anytime."),
+      ("push button", "Close")], "Get Started"),
+    ([("label", "You're all set."),
+      ("label", "Look for the eyedropper icon in your system tray.")], "Start Using vantle"),
+]
+GENERAL_TAB_ORDER = [  # from the selected tab on, what each Tab press reaches
+    ("combo box", "Default format"),  # named by its label; the chosen entry is its text
+    ("push button", "Pick color"),
+    ("push button", "Clear the Pick color shortcut"),
+    ("push button", "Toggle popup"),
+    ("push button", "Clear the Toggle popup shortcut"),
+    ("check box", "Show colored dot for last picked color"),
+    ("check box", "Launch at login"),
+    ("combo box", "History limit"),
+    ("push button", "Clear History"),
+    ("page tab", "General"),
+]
+PAGES = [  # (tab, what its page shows)
+    ("About", [("page tab list", ""), ("page tab", "About")]),
+    ("More Brindlework", [("page tab", "More Brindlework")]),
+]
 
-with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": json.dumps(HISTORY)}) as s:
-    time.sleep(2)
+
+def description(s, name):
+    acc = s.find(role="push button", name=name)
+    return acc.description if acc is not None else None
+
+
+with Session(files={"colorHistory.json": json.dumps(HISTORY)}) as s:
+    s.check("announced as a window", s.wait(lambda: s.find(role="frame", name="Welcome to vantle"), 10), s.dump())
+    for table, button in SCREENS:
+        s.expect_tree(button, table + [("push button", button)])
+        s.expect_focus(f"focus on {button}", role="push button", name=button)
+        actions = s.actions(s.find(role="push button", name=button))
+        s.check(f"{button} has a press action", "Press" in actions, str(actions))
+        time.sleep(2.5)  # the button enters last; Return presses it once it is there
+        s.key("Return")
+    s.check("the welcome window closes",
+            bool(s.wait(lambda: s.find(role="push button", name="Start Using vantle") is None, 5)))
+
     # The pointer rests where the rows will show: the popup opening under it keeps its focus.
     s.pointer(150, 190)
     s.key("alt+shift+x")
-    s.wait(lambda: s.find(role="push button", name="Pick Color"), 10)
-    s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color")
+    s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color", timeout=10)
     s.expect_tree("popup", TREE)
     badge = s.find(role="label", name="3")
     s.check("the count says what it counts", badge is not None and badge.description == "colors")
@@ -175,7 +221,7 @@ with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": j
     s.key("alt+shift+x")
     s.expect_focus("the popup opens once more on Pick Color", role="push button", name="Pick Color")
     s.key("Return")
-    time.sleep(0.5)
+    s.wait(lambda: s.find(role="notification", prefix="#"), 5)
     for x, y in [(200, 300), (400, 500)]:
         subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
         s.check(f"the loupe's value at {x},{y} is heard",
@@ -183,4 +229,50 @@ with Session(settings={"onboardingShown": "true"}, files={"colorHistory.json": j
     s.key("Escape")
     s.check("the loupe's value goes with the loupe",
             bool(s.wait(lambda: s.find(role="notification", prefix="#") is None, 2)), s.dump())
+
+    # The settings from the popup's Settings button.
+    s.key("alt+shift+x")
+    s.expect_focus("the popup opens for the settings", role="push button", name="Pick Color")
+    s.key("Tab", "Tab", "space")
+    window = s.wait(lambda: s.find(role="dialog", name="Vantle Settings"), 10)
+    s.check("settings open", window is not None, s.dump())
+    s.expect_tree("tab list", [("page tab list", ""), ("page tab", "General"), ("page tab", "About"),
+                               ("page tab", "More Brindlework"), ("label", "Default format"),
+                               ("label", "History limit")])
+    general = s.find(role="page tab", name="General")
+    s.check("General is the selected tab",
+            general is not None and general.getState().contains(pyatspi.STATE_SELECTED))
+    s.expect_focus("focus starts on the selected tab", role="page tab", name="General")
+    for role, name in GENERAL_TAB_ORDER:
+        s.key("Tab")
+        s.expect_focus(f"Tab reaches {role} '{name}'", role=role, name=name)
+
+    # The recorder: Return listens, a combination is recorded, then read after the name.
+    s.key("Tab")
+    s.expect_focus("back to the first control", role="combo box", name="Default format")
+    chosen = s.find(role="combo box", name="Default format").queryText()
+    s.check("the drop-down reads its entry", chosen.getText(0, -1) == "Hex", chosen.getText(0, -1))
+    s.key("Tab")
+    s.expect_focus("the pick recorder", role="push button", name="Pick color")
+    s.key("space")
+    s.check("the recorder says it listens", description(s, "Pick color") == "Press shortcut…",
+            str(description(s, "Pick color")))
+    s.key("ctrl+alt+k")
+    recorded = s.wait(lambda: "K" in (description(s, "Pick color") or "") and description(s, "Pick color"), 3)
+    s.check("the recorder says the combination", bool(recorded), str(description(s, "Pick color")))
+
+    # Arrows move between the tabs and select them.
+    s.key("shift+Tab", "shift+Tab")
+    s.expect_focus("Shift+Tab back to the tab", role="page tab", name="General")
+    for tab, table in PAGES:
+        s.key("Right")
+        s.expect_focus(f"Right reaches {tab}", role="page tab", name=tab)
+        s.key("space")
+        s.expect_tree(tab, table)
+        acc = s.find(role="page tab", name=tab)
+        s.check(f"{tab} is selected", acc is not None and acc.getState().contains(pyatspi.STATE_SELECTED))
+
+    s.key("Escape")
+    s.check("Escape closes the settings",
+            bool(s.wait(lambda: "Vantle Settings" not in s.dump(), 3)), s.dump())
     s.finish()

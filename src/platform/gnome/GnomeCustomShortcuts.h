@@ -5,8 +5,9 @@
 
 #include <QList>
 #include <QString>
+#include <memory>
 
-typedef struct _GSettings GSettings;
+class GnomeKeybindings;
 
 // "<Alt><Shift>c": a stored shortcut in the accelerator notation of GNOME's keyboard settings
 // (modifiers in the order Ctrl, Alt, Shift, Super, then the keysym name); empty for no shortcut.
@@ -22,7 +23,8 @@ QString gnomeShortcutCommand(const QString &programPath, const QString &subcomma
 // so a press arrives as that request, not as `activated`. Only our own paths are ever added to
 // or removed from the list of custom shortcuts: the person's others stay as they are.
 //
-// Without the schemas (no gnome-settings-daemon installed) nothing is registered. Entries are
+// GNOME's settings are reached through the GNOME module (GnomeKeybindings). Without it, or
+// without the schemas (no gnome-settings-daemon installed), nothing is registered. Entries are
 // removed as their shortcuts are unregistered (at quit too, so that a press with Vantle gone
 // runs no failing command), and the destructor waits until the desktop has the last change.
 class GnomeCustomShortcuts final : public GlobalShortcutBackend {
@@ -32,7 +34,7 @@ public:
     ~GnomeCustomShortcuts() override;
 
     // Whether GNOME's custom shortcut schemas are installed.
-    bool isAvailable() const { return m_list != nullptr; }
+    bool isAvailable() const { return m_settings != nullptr; }
 
     void registerShortcut(const GlobalShortcut &shortcut) override;
     void unregisterShortcut(int id) override;
@@ -45,6 +47,6 @@ private:
     void setListed(const QString &path, bool isListed);
 
     QString m_programPath;
-    GSettings *m_list = nullptr;
+    std::unique_ptr<GnomeKeybindings> m_settings;
     QList<Entry> m_entries;
 };

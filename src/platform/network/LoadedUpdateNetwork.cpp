@@ -1,24 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/network/LoadedUpdateNetwork.h"
 
-#include <QFileInfo>
+#include "platform/LoadedModule.h"
+
 #include <QTimer>
-#include <dlfcn.h>
 
 namespace {
 
 constexpr char moduleFileName[] = "vantle-network.so";
 constexpr char entryPoint[] = "vantleMakeUpdateNetwork";
 using EntryPoint = UpdateNetwork *(*)();
-
-// The folder of the code this function is part of: the desktop part once installed.
-QString ownFolder()
-{
-    Dl_info info {};
-    if (::dladdr(reinterpret_cast<void *>(&ownFolder), &info) == 0 || !info.dli_fname)
-        return {};
-    return QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absolutePath();
-}
 
 } // namespace
 
@@ -33,15 +24,13 @@ UpdateNetwork *LoadedUpdateNetwork::loaded()
     if (m_tried)
         return m_network.get();
     m_tried = true;
-    const QByteArray path = (ownFolder() + QLatin1Char('/') + QLatin1String(moduleFileName)).toLocal8Bit();
-    void *module = ::dlopen(path.constData(), RTLD_NOW | RTLD_LOCAL);
-    auto make = module ? reinterpret_cast<EntryPoint>(::dlsym(module, entryPoint)) : nullptr;
-    if (make)
+    QString error;
+    if (auto make = reinterpret_cast<EntryPoint>(loadedModuleEntry(moduleFileName, entryPoint, &error)))
         m_network.reset(make());
     else
         qWarning("vantle: the network part of Vantle cannot be loaded (%s); updates cannot be checked. "
                  "Reinstalling Vantle puts it back.",
-            ::dlerror());
+            qPrintable(error));
     return m_network.get();
 }
 

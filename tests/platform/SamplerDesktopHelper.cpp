@@ -17,15 +17,14 @@
 #include <QFile>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTextStream>
 #include <QThread>
 #include <QWidget>
-#include <QtGui/qguiapplication_platform.h>
 #include <xcb/xcb.h>
 
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -127,39 +126,27 @@ int checkLoupe(const QString &shotFile, const QPoint &hotspot)
     return wrong == 0 && checked > 0 ? 0 : 1;
 }
 
-class Target : public QWidget {
-public:
-    Target(QColor left, QColor right, QString file)
-        : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint)
-        , m_left(left)
-        , m_right(right)
-        , m_file(std::move(file))
-    {
-    }
+struct Target : QWidget {
+    QColor left, right;
+    QString file;
+    bool announced = false;
 
-protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.fillRect(QRect(0, 0, width() / 2, height()), m_left);
-        painter.fillRect(QRect(width() / 2, 0, width() - width() / 2, height()), m_right);
-        if (!m_announced) {
-            m_announced = true;
+        painter.fillRect(QRect(0, 0, width() / 2, height()), left);
+        painter.fillRect(QRect(width() / 2, 0, width() - width() / 2, height()), right);
+        if (!std::exchange(announced, true)) {
             std::printf("ready\n");
             std::fflush(stdout);
         }
     }
-    void mousePressEvent(QMouseEvent *event) override
+    void mousePressEvent(QMouseEvent *) override
     {
-        QFile file(m_file);
-        if (file.open(QIODevice::Append))
-            QTextStream(&file) << "press " << event->position().x() << ' ' << event->position().y() << '\n';
+        QFile presses(file);
+        if (presses.open(QIODevice::Append))
+            presses.write("press\n");
     }
-
-private:
-    QColor m_left, m_right;
-    QString m_file;
-    bool m_announced = false;
 };
 
 // Another client's pointer grab shows as AlreadyGrabbed when we try one ourselves.
@@ -231,8 +218,11 @@ int main(int argc, char **argv)
     if (argc != 9 || QByteArray(argv[1]) != "target")
         return 2; // the commands are listed at the top of SamplerDesktopHelper.cpp
     QApplication app(argc, argv);
-    Target target(QColor(QString::fromLatin1(argv[6])), QColor(QString::fromLatin1(argv[7])),
-        QString::fromLocal8Bit(argv[8]));
+    Target target;
+    target.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
+    target.left = QColor(QString::fromLatin1(argv[6]));
+    target.right = QColor(QString::fromLatin1(argv[7]));
+    target.file = QString::fromLocal8Bit(argv[8]);
     target.setGeometry(std::atoi(argv[2]), std::atoi(argv[3]), std::atoi(argv[4]), std::atoi(argv[5]));
     target.show();
     return app.exec();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The data-control clipboard on a real compositor: headless sway, where no surface ever has
-// keyboard focus (no input devices), exactly like a tray program after a global shortcut. Runs
-// inside tests/desktop/sway-session.sh; wl-paste is the other program reading what we copied.
+// The data-control clipboard in headless sway (tests/desktop/sway-session.sh), where no surface
+// ever has the keyboard, as for a tray program after a global shortcut; wl-paste reads it.
 #include "platform/DesktopSession.h"
 #include "platform/QtClipboard.h"
 #include "platform/wayland/WaylandDataControlClipboard.h"

@@ -9,8 +9,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
 work=$home
 
 # Left half #3A7BD5, right half #D5603A: x 100..299 and 300..499, y 100..399.
-"$helper" target 100 100 400 300 '#3A7BD5' '#D5603A' "$work/presses" >"$work/target.out" &
-pids+=($!)
+"$helper" target 100 100 400 300 '#3A7BD5' '#D5603A' "$work/presses" >"$work/target.out" & pids+=($!)
 wait_for 10 grep -q ready "$work/target.out" || fail "the target window did not appear"
 
 # start_pick FORMAT: starts the sampler and waits until it holds the pointer grab.
@@ -53,18 +52,13 @@ TABLE
 # moves (the old and new place are painted again), and at the corner, where the loupe flips and
 # the cells beyond the screen are black.
 "$helper" pattern || fail "could not paint the pattern on the root window"
-# expect_loupe HX HY: waits until a screenshot shows the right loupe for that hotspot.
 loupe_shows() { import -window root "$work/shot.png" && "$helper" check-loupe "$work/shot.png" "$@" >"$work/check"; }
-expect_loupe() {
-    wait_for 10 loupe_shows "$1" "$2" || fail "the loupe at $1,$2 is not the magnified desktop: $(cat "$work/check")"
-}
 xdotool mousemove 700 500
 start_pick hex
-expect_loupe 700 500
-xdotool mousemove 905 333
-expect_loupe 905 333
-xdotool mousemove 1277 797
-expect_loupe 1277 797
+for at in "700 500" "905 333" "1277 797"; do
+    xdotool mousemove $at
+    wait_for 10 loupe_shows $at || fail "the loupe at $at is not the magnified desktop: $(cat "$work/check")"
+done
 xdotool key Escape
 finish_pick 1
 
@@ -89,11 +83,9 @@ for scale in 1 1.25 1.5 2; do
 done
 
 # Colour-managed picks by shortcut, popup button, `vantle pick` and `vantle pick --print`, on two
-# monitors (the screen split in halves by RandR). Each row puts the profiles of colord's
-# collection on the root window as a colour manager does ("-": none,
-# "bad": a profile cut short, Crayons: a named-colour profile, no display's) while the tray Vantle
-# runs, then picks. The text is the sRGB colour that littleCMS's transicc gives for the pixel
-# under its monitor's profile; without a usable profile, the pixel as it is.
+# monitors (RandR halves). Each row puts colord's profiles on the root window as a colour manager
+# does ("-": none, "bad": cut short, Crayons: a named-colour profile) while the tray Vantle runs,
+# then picks: transicc's sRGB colour for the pixel under its monitor's profile, or the pixel.
 need_tools transicc xrandr xclip python3
 icc=/usr/share/color/icc/colord
 [[ -r $icc/SwappedRedAndGreen.icc ]] || { echo "SKIP: colord-data is not installed" >&2; exit 77; }
@@ -101,12 +93,10 @@ head -c 600 "$icc/AdobeRGB1998.icc" >"$work/bad.icc" # a profile cut short
 xrandr --setmonitor Left 640/169x800/254+0+0 screen >/dev/null
 xrandr --setmonitor Right 640/169x800/254+640+0 none >/dev/null
 # #8040C8 on the left monitor (x 440..639), red on the right one (x 640..839).
-"$helper" target 440 500 400 200 '#8040C8' '#FF0000' "$work/presses" >"$work/target2.out" &
-pids+=($!)
+"$helper" target 440 500 400 200 '#8040C8' '#FF0000' "$work/presses" >"$work/target2.out" & pids+=($!)
 wait_for 10 grep -q ready "$work/target2.out" || fail "the second target window did not appear"
 printf '[General]\nonboardingShown=true\n' >"$XDG_CONFIG_HOME/Vantle/Vantle.conf"
-QT_LOGGING_RULES="vantle.colourprofiles.info=true" "$vantle" 2>"$work/tray.log" &
-pid=$! && pids+=("$pid")
+QT_LOGGING_RULES="vantle.colourprofiles.info=true" "$vantle" 2>"$work/tray.log" & pid=$! pids+=($!)
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/vantle-windows.sh"
 # Its sampler has read the monitors' profiles (none yet): from now on it must follow changes.
 wait_for 20 grep -q 'monitor 2 (Right): no profile' "$work/tray.log" \

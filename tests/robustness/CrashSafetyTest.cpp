@@ -19,14 +19,10 @@
 
 namespace {
 
-// The preferences a user has set, which every save must carry along unchanged.
-const QList<std::pair<QString, QString>> presetValues = {
-    { PreferenceKeys::colorFormat, QStringLiteral("HSL") },
-    { PreferenceKeys::pickKeyCode, QStringLiteral("8") },
-    { PreferenceKeys::pickModifiers, QStringLiteral("786432") },
-    { PreferenceKeys::pickKeyChar, QStringLiteral("C") },
-    { PreferenceKeys::historyLimit, QStringLiteral("500") },
-};
+// Preferences a user has set, which every save must carry along unchanged.
+const QList<std::pair<QString, QString>> presetValues
+    = { { PreferenceKeys::colorFormat, QStringLiteral("HSL") },
+          { PreferenceKeys::pickKeyChar, QStringLiteral("C") } };
 
 void collectReports(QProcess &helper, QSet<QString> &saved, bool &ready)
 {

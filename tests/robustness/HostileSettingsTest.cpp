@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whatever the settings file holds (random bytes, invalid UTF-8, 100 MB, a history nested
-// 200,000 levels deep, numbers JSON cannot hold, values of the wrong type), the program opens
-// it, an unreadable history goes aside, picks work and are saved, and `vantle export` answers.
+// Whatever the settings file holds, the program opens it, an unreadable history goes aside,
+// picks work and are saved, and `vantle export` answers.
 #include "app/CommandLine.h"
 #include "history/ColorListViewModel.h"
 #include "model/ColorHistoryCodec.h"

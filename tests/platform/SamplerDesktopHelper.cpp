@@ -81,16 +81,10 @@ int paintPattern()
 int checkLoupe(const QString &shotFile, const QPoint &hotspot)
 {
     const QImage shot = QImage(shotFile).convertToFormat(QImage::Format_RGB32);
-    if (shot.isNull()) {
-        std::printf("cannot read %s\n", qPrintable(shotFile));
-        return 1;
-    }
-    const QColor hotColor(patternAt(hotspot.x(), hotspot.y()));
-    const QString text = hotColor.name(QColor::HexRgb).toUpper();
     const SamplerLoupe loupe(1);
     const int zoom = SamplerGeometry::defaultZoom;
     const int diameter = loupe.lensDiameter();
-    const QSize box = loupe.boxSize(text);
+    const QSize box = loupe.boxSize(QColor(patternAt(hotspot.x(), hotspot.y())).name().toUpper());
     const QRect place = SamplerGeometry::loupePlacement(shot.rect(), hotspot, box, loupe.gap());
     const QPoint lens = place.topLeft() + QPoint((box.width() - diameter) / 2, 0);
     const QPoint lensCentre = lens + QPoint(diameter / 2, diameter / 2);
@@ -102,8 +96,7 @@ int checkLoupe(const QString &shotFile, const QPoint &hotspot)
         for (int i = -half; i <= half; ++i) {
             const QPoint cell = hotCell + QPoint(i * zoom, j * zoom);
             // Only cells wholly inside the round lens, clear of its rim.
-            const QPointF middle = QPointF(cell) + QPointF(zoom / 2.0, zoom / 2.0);
-            const QPointF offset = middle - QPointF(lensCentre);
+            const QPointF offset = QPointF(cell) + QPointF(zoom / 2.0, zoom / 2.0) - QPointF(lensCentre);
             if (std::hypot(offset.x(), offset.y()) + zoom * 0.75 > diameter / 2.0 - 3)
                 continue;
             const QPoint source = hotspot + QPoint(i, j);
@@ -114,9 +107,7 @@ int checkLoupe(const QString &shotFile, const QPoint &hotspot)
             for (const QPoint inside : insides) {
                 ++checked;
                 const QRgb actual = shot.pixel(cell + inside) | 0xff000000u;
-                if (actual == expected)
-                    continue;
-                if (++wrong == 1)
+                if (actual != expected && ++wrong == 1)
                     std::printf("cell (%d, %d) shows %s, not %s; ", i, j, qPrintable(QColor(actual).name()),
                         qPrintable(QColor(expected).name()));
             }

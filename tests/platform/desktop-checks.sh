@@ -38,9 +38,8 @@ paste() { # what the paste target receives at Ctrl+Shift+V
     wait_for 5 test -s "$work/pasted"
     cat "$work/pasted"
 }
-vantle_window() { # vantle_window AWK-CONDITION: one of Vantle's windows on screen meets it
-    drive windows | awk "tolower(\$6) ~ /^vantle/ && $1 {found = 1; print} END {exit !found}"
-}
+# vantle_window AWK-CONDITION: one of Vantle's windows on screen meets it
+vantle_window() { drive windows | awk "tolower(\$6) ~ /^vantle/ && $1 {found = 1; print} END {exit !found}"; }
 popup_open() { vantle_window '$3 > 200'; }
 popup_closed() { ! popup_open; }
 picker_gone() { ! drive picker-shown; }

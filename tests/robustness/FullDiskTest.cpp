@@ -15,14 +15,6 @@
 
 namespace {
 
-bool run(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    return process.waitForFinished(20000) && process.exitStatus() == QProcess::NormalExit
-        && process.exitCode() == 0;
-}
-
 QByteArray readAll(const QString &path)
 {
     QFile file(path);
@@ -42,14 +34,15 @@ TEST(TinyDisk, PicksStayInMemoryAndTheOldFileUntilASaveCanSucceed)
     const QString disk = outer.filePath(QStringLiteral("disk"));
     ASSERT_TRUE(QDir().mkpath(disk));
     const auto mount = [&](const char *options) {
-        return run(QStringLiteral("mount"),
-            { QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"), QLatin1String(options),
-                QStringLiteral("vantle-test"), disk });
+        return 0
+            == QProcess::execute(QStringLiteral("mount"),
+                { QStringLiteral("-t"), QStringLiteral("tmpfs"), QStringLiteral("-o"), QLatin1String(options),
+                    QStringLiteral("vantle-test"), disk });
     };
     if (!mount("size=64k,mode=700"))
         GTEST_SKIP() << "mounting a tiny tmpfs needs root (and CAP_SYS_ADMIN in a container)";
     const std::shared_ptr<void> unmount(nullptr, [&](void *) {
-        run(QStringLiteral("umount"), { QStringLiteral("-l"), disk });
+        QProcess::execute(QStringLiteral("umount"), { QStringLiteral("-l"), disk });
     });
     const QString filler = disk + QStringLiteral("/filler");
     const auto remount = [&](const char *options) { ASSERT_TRUE(mount(options)); };

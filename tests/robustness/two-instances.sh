@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Two Vantles started at the same instant, 20 times (10 on the session bus, 10 without one, on
-# the fallback socket): each time exactly one keeps running, the other hands over and ends,
-# and the settings the survivor writes at launch are all on disk.
+# Two Vantles started at once, 20 times (half on the session bus, half on the fallback socket):
+# one keeps running, the other hands over and ends, and the survivor's launch writes are on disk.
 #   VANTLE_BIN=... x11-session.sh two-instances.sh
 set -euo pipefail
 

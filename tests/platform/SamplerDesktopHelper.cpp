@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Helpers for the sampler's desktop test, run under a private X server:
-//   target X Y W H COLOR_LEFT COLOR_RIGHT FILE   a window split into two colours at an exact
-//                                                position; every button press that reaches it
-//                                                is appended to FILE; prints "ready" once shown
-//   wait-grab SECONDS                            exits 0 once another client holds the pointer grab
-//   pattern                                      paints the root window with patternAt(x, y), the
-//                                                way most X clients store pixels: top byte zero
-//   pattern-hex X Y                              prints patternAt(X, Y) as #RRGGBB
-//   check-loupe SHOT HX HY                       exits 0 when the screenshot SHOT shows the loupe
-//                                                for hotspot (HX, HY) over the pattern, every cell
-//                                                the magnified pattern pixel (beyond the screen:
-//                                                black); otherwise prints what differs
-//   set-profile INDEX [FILE]                     puts FILE's bytes on the root window as the
-//                                                colour profile of monitor INDEX (from 0); without
-//                                                FILE removes that monitor's profile
-//   lut-profile FROM TO                          writes TO, an RGB display profile that holds
-//                                                FROM's colours in a table (A2B0), as calibration
-//                                                tools write them
+//   target X Y W H COLOR_LEFT COLOR_RIGHT FILE  a window in two colours; prints "ready" once shown,
+//                                               appends each button press that reaches it to FILE
+//   wait-grab SECONDS                           exits 0 once another client holds the pointer grab
+//   pattern | pattern-hex X Y                   paints the root window with patternAt(x, y) | prints
+//                                               patternAt(X, Y) as #RRGGBB
+//   check-loupe SHOT HX HY                      exits 0 when the screenshot shows the loupe for
+//                                               hotspot (HX, HY), every cell its pattern pixel
+//   set-profile INDEX [FILE]                    puts FILE's bytes (none: removes them) on the root
+//                                               window as monitor INDEX's colour profile
 #include "platform/x11/SamplerGeometry.h"
 #include "platform/x11/SamplerLoupe.h"
 
@@ -25,17 +17,14 @@
 #include <QFile>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTextStream>
 #include <QThread>
 #include <QWidget>
-#include <QtGui/qguiapplication_platform.h>
 #include <xcb/xcb.h>
-
-#include <lcms2.h>
 
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -47,14 +36,21 @@ QRgb patternAt(int x, int y)
     return qRgb((x * 37 + y * 3) & 0xff, (y * 53 + x * 5) & 0xff, ((x ^ y) * 29 + 17) & 0xff);
 }
 
+xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
+const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+
+// Ends the connection once the server has handled every request.
+int disconnect()
+{
+    free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    xcb_disconnect(connection);
+    return 0;
+}
+
 // Sets the root window's background to the pattern. X leaves the top byte of a depth-24 pixel
 // undefined; like most clients we leave it zero, which is what the sampler reads back.
 int paintPattern()
 {
-    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
-    if (xcb_connection_has_error(connection))
-        return 1;
-    const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
     const int width = screen->width_in_pixels;
     const int height = screen->height_in_pixels;
     const xcb_pixmap_t pixmap = xcb_generate_id(connection);
@@ -77,12 +73,7 @@ int paintPattern()
     }
     xcb_change_window_attributes(connection, screen->root, XCB_CW_BACK_PIXMAP, &pixmap);
     xcb_clear_area(connection, 0, screen->root, 0, 0, 0, 0);
-    // The root keeps its own reference to the background: the pattern outlives us.
-    xcb_free_pixmap(connection, pixmap);
-    xcb_free_gc(connection, gc);
-    free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr)); // a round trip
-    xcb_disconnect(connection);
-    return 0;
+    return disconnect(); // the root keeps its own reference to the background: it outlives us
 }
 
 // The loupe is checked where SamplerLoupe and SamplerGeometry put it (scale 1, default zoom,
@@ -90,16 +81,10 @@ int paintPattern()
 int checkLoupe(const QString &shotFile, const QPoint &hotspot)
 {
     const QImage shot = QImage(shotFile).convertToFormat(QImage::Format_RGB32);
-    if (shot.isNull()) {
-        std::printf("cannot read %s\n", qPrintable(shotFile));
-        return 1;
-    }
-    const QColor hotColor(patternAt(hotspot.x(), hotspot.y()));
-    const QString text = hotColor.name(QColor::HexRgb).toUpper();
     const SamplerLoupe loupe(1);
     const int zoom = SamplerGeometry::defaultZoom;
     const int diameter = loupe.lensDiameter();
-    const QSize box = loupe.boxSize(text);
+    const QSize box = loupe.boxSize(QColor(patternAt(hotspot.x(), hotspot.y())).name().toUpper());
     const QRect place = SamplerGeometry::loupePlacement(shot.rect(), hotspot, box, loupe.gap());
     const QPoint lens = place.topLeft() + QPoint((box.width() - diameter) / 2, 0);
     const QPoint lensCentre = lens + QPoint(diameter / 2, diameter / 2);
@@ -111,8 +96,7 @@ int checkLoupe(const QString &shotFile, const QPoint &hotspot)
         for (int i = -half; i <= half; ++i) {
             const QPoint cell = hotCell + QPoint(i * zoom, j * zoom);
             // Only cells wholly inside the round lens, clear of its rim.
-            const QPointF middle = QPointF(cell) + QPointF(zoom / 2.0, zoom / 2.0);
-            const QPointF offset = middle - QPointF(lensCentre);
+            const QPointF offset = QPointF(cell) + QPointF(zoom / 2.0, zoom / 2.0) - QPointF(lensCentre);
             if (std::hypot(offset.x(), offset.y()) + zoom * 0.75 > diameter / 2.0 - 3)
                 continue;
             const QPoint source = hotspot + QPoint(i, j);
@@ -123,11 +107,8 @@ int checkLoupe(const QString &shotFile, const QPoint &hotspot)
             for (const QPoint inside : insides) {
                 ++checked;
                 const QRgb actual = shot.pixel(cell + inside) | 0xff000000u;
-                if (actual == expected)
-                    continue;
-                if (++wrong <= 5)
-                    std::printf("cell (%d, %d) at %d,%d shows %s, expected %s\n", i, j, (cell + inside).x(),
-                        (cell + inside).y(), qPrintable(QColor(actual).name()),
+                if (actual != expected && ++wrong == 1)
+                    std::printf("cell (%d, %d) shows %s, not %s; ", i, j, qPrintable(QColor(actual).name()),
                         qPrintable(QColor(expected).name()));
             }
         }
@@ -136,46 +117,33 @@ int checkLoupe(const QString &shotFile, const QPoint &hotspot)
     return wrong == 0 && checked > 0 ? 0 : 1;
 }
 
-class Target : public QWidget {
-public:
-    Target(QColor left, QColor right, QString file)
-        : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint)
-        , m_left(left)
-        , m_right(right)
-        , m_file(std::move(file))
-    {
-    }
+struct Target : QWidget {
+    QColor left, right;
+    QString file;
+    bool announced = false;
 
-protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.fillRect(QRect(0, 0, width() / 2, height()), m_left);
-        painter.fillRect(QRect(width() / 2, 0, width() - width() / 2, height()), m_right);
-        if (!m_announced) {
-            m_announced = true;
+        painter.fillRect(QRect(0, 0, width() / 2, height()), left);
+        painter.fillRect(QRect(width() / 2, 0, width() - width() / 2, height()), right);
+        if (!std::exchange(announced, true)) {
             std::printf("ready\n");
             std::fflush(stdout);
         }
     }
-    void mousePressEvent(QMouseEvent *event) override
+    void mousePressEvent(QMouseEvent *) override
     {
-        QFile file(m_file);
-        if (file.open(QIODevice::Append))
-            QTextStream(&file) << "press " << event->position().x() << ' ' << event->position().y() << '\n';
+        QFile presses(file);
+        if (presses.open(QIODevice::Append))
+            presses.write("press\n");
     }
-
-private:
-    QColor m_left, m_right;
-    QString m_file;
-    bool m_announced = false;
 };
 
 // Another client's pointer grab shows as AlreadyGrabbed when we try one ourselves.
 int waitForGrab(double seconds)
 {
-    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    const xcb_window_t root = screen->root;
     QElapsedTimer clock;
     clock.start();
     while (clock.elapsed() < seconds * 1000) {
@@ -185,15 +153,12 @@ int waitForGrab(double seconds)
             nullptr);
         const bool heldElsewhere = reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
         std::free(reply);
-        if (heldElsewhere) {
-            xcb_disconnect(connection);
+        if (heldElsewhere)
             return 0;
-        }
         xcb_ungrab_pointer(connection, XCB_CURRENT_TIME);
         xcb_flush(connection);
         QThread::msleep(20);
     }
-    xcb_disconnect(connection);
     return 1;
 }
 
@@ -208,10 +173,7 @@ int setProfile(int index, const char *file)
             return 1;
         bytes = profile.readAll();
     }
-    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
-    if (xcb_connection_has_error(connection))
-        return 1;
-    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    const xcb_window_t root = screen->root;
     const QByteArray name
         = index == 0 ? QByteArray("_ICC_PROFILE") : "_ICC_PROFILE_" + QByteArray::number(index);
     xcb_intern_atom_reply_t *atom = xcb_intern_atom_reply(
@@ -222,37 +184,7 @@ int setProfile(int index, const char *file)
     else
         xcb_delete_property(connection, root, atom->atom);
     std::free(atom);
-    free(xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr)); // a round trip
-    xcb_disconnect(connection);
-    return 0;
-}
-
-int lutProfile(const char *from, const char *to)
-{
-    const cmsHPROFILE source = cmsOpenProfileFromFile(from, "r");
-    const cmsHPROFILE lab = cmsCreateLab2Profile(nullptr);
-    if (!source || !lab)
-        return 1;
-    cmsHTRANSFORM toLab
-        = cmsCreateTransform(source, TYPE_RGB_16, lab, TYPE_LabV2_16, INTENT_RELATIVE_COLORIMETRIC, 0);
-    const cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
-    cmsSetProfileVersion(profile, 2.4);
-    cmsSetDeviceClass(profile, cmsSigDisplayClass);
-    cmsSetColorSpace(profile, cmsSigRgbData);
-    cmsSetPCS(profile, cmsSigLabData);
-    cmsPipeline *table = cmsPipelineAlloc(nullptr, 3, 3);
-    cmsStage *grid = cmsStageAllocCLut16bit(nullptr, 33, 3, 3, nullptr);
-    cmsStageSampleCLut16bit(
-        grid,
-        [](const cmsUInt16Number in[], cmsUInt16Number out[], void *transform) {
-            cmsDoTransform(static_cast<cmsHTRANSFORM>(transform), in, out, 1);
-            return cmsInt32Number(1);
-        },
-        toLab, 0);
-    cmsPipelineInsertStage(table, cmsAT_BEGIN, grid);
-    cmsWriteTag(profile, cmsSigAToB0Tag, table);
-    cmsWriteTag(profile, cmsSigMediaWhitePointTag, cmsD50_XYZ());
-    return cmsSaveProfileToFile(profile, to) ? 0 : 1;
+    return disconnect();
 }
 
 } // namespace
@@ -263,8 +195,6 @@ int main(int argc, char **argv)
         return waitForGrab(std::atof(argv[2]));
     if ((argc == 3 || argc == 4) && QByteArray(argv[1]) == "set-profile")
         return setProfile(std::atoi(argv[2]), argc == 4 ? argv[3] : nullptr);
-    if (argc == 4 && QByteArray(argv[1]) == "lut-profile")
-        return lutProfile(argv[2], argv[3]);
     if (argc == 2 && QByteArray(argv[1]) == "pattern")
         return paintPattern();
     if (argc == 4 && QByteArray(argv[1]) == "pattern-hex") {
@@ -279,8 +209,11 @@ int main(int argc, char **argv)
     if (argc != 9 || QByteArray(argv[1]) != "target")
         return 2; // the commands are listed at the top of SamplerDesktopHelper.cpp
     QApplication app(argc, argv);
-    Target target(QColor(QString::fromLatin1(argv[6])), QColor(QString::fromLatin1(argv[7])),
-        QString::fromLocal8Bit(argv[8]));
+    Target target;
+    target.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
+    target.left = QColor(QString::fromLatin1(argv[6]));
+    target.right = QColor(QString::fromLatin1(argv[7]));
+    target.file = QString::fromLocal8Bit(argv[8]);
     target.setGeometry(std::atoi(argv[2]), std::atoi(argv[3]), std::atoi(argv[4]), std::atoi(argv[5]));
     target.show();
     return app.exec();

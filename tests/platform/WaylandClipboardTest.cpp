@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The data-control clipboard on a real compositor: headless sway, where no surface ever has
-// keyboard focus (no input devices), exactly like a tray program after a global shortcut. Runs
-// inside tests/desktop/sway-session.sh; wl-paste is the other program reading what we copied.
+// The data-control clipboard in headless sway (tests/desktop/sway-session.sh), where no surface
+// ever has the keyboard, as for a tray program after a global shortcut; wl-paste reads it.
 #include "platform/DesktopSession.h"
 #include "platform/QtClipboard.h"
 #include "platform/wayland/WaylandDataControlClipboard.h"
@@ -13,38 +12,23 @@
 
 namespace {
 
-struct Pasted {
-    bool finished = false;
-    int exitCode = -1;
-    QByteArray text;
-};
-
-// Runs a reader while our event loop keeps serving the selection (a blocking wait would starve it).
-Pasted run(const QString &program, const QStringList &arguments)
+// Runs a command to its end while our event loop keeps serving the selection (a blocking wait
+// would starve it); its output, or "hung" when it never ended.
+QByteArray run(const QString &command)
 {
     QProcess process;
-    process.start(program, arguments);
-    Pasted result;
-    result.finished = process.waitForStarted(10000)
-        && QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20000);
-    if (!result.finished) {
+    process.start(QStringLiteral("sh"), { QStringLiteral("-c"), command });
+    if (!QTest::qWaitFor([&] { return process.state() == QProcess::NotRunning; }, 20000)) {
         process.kill();
         process.waitForFinished(5000);
-        return result;
+        return "hung";
     }
-    result.exitCode = process.exitCode();
-    result.text = process.readAllStandardOutput();
-    return result;
+    return process.readAllStandardOutput();
 }
 
-QByteArray paste(const QString &mimeType = QString())
+QByteArray paste(const QString &mimeType = QStringLiteral("text/plain;charset=utf-8"))
 {
-    QStringList arguments { QStringLiteral("--no-newline") };
-    if (!mimeType.isEmpty())
-        arguments << QStringLiteral("--type") << mimeType;
-    const Pasted pasted = run(QStringLiteral("wl-paste"), arguments);
-    EXPECT_TRUE(pasted.finished) << "wl-paste hung";
-    return pasted.text;
+    return run(QStringLiteral("wl-paste --no-newline --type '%1'").arg(mimeType));
 }
 
 class WaylandClipboard : public testing::Test {
@@ -64,16 +48,11 @@ protected:
 
 TEST_F(WaylandClipboard, CopiesWithoutFocusInEveryTextTypeAndTheNextCopyReplaces)
 {
-    const QString texts[] = { QStringLiteral("#FF8000"), QStringLiteral("hsl(30°, 100%, 50%)"),
-        QStringLiteral("rgb(255, 128, 0)") };
-    for (const QString &text : texts) {
-        SCOPED_TRACE(text.toStdString());
+    for (const QString &text : { QStringLiteral("hsl(30°, 100%, 50%)"), QStringLiteral("#FF8000") }) {
         ASSERT_TRUE(clipboard->setText(text));
-        EXPECT_EQ(QString::fromUtf8(paste()), text);
         for (const QString &type : WaylandDataControlClipboard::textMimeTypes())
             EXPECT_EQ(QString::fromUtf8(paste(type)), text) << type.toStdString();
-        const QByteArray listed = run(QStringLiteral("wl-paste"), { QStringLiteral("--list-types") }).text;
-        EXPECT_EQ(QString::fromLatin1(listed).split(QLatin1Char('\n'), Qt::SkipEmptyParts).size(),
+        EXPECT_EQ(run(QStringLiteral("wl-paste --list-types")).count('\n'),
             WaylandDataControlClipboard::textMimeTypes().size());
     }
 }
@@ -82,7 +61,7 @@ TEST_F(WaylandClipboard, AnotherProgramTakesTheClipboardAndWeTakeItBack)
 {
     ASSERT_TRUE(clipboard->setText(QStringLiteral("#FF8000")));
     // wl-copy stays in the background serving its text until someone takes the clipboard back.
-    ASSERT_EQ(run(QStringLiteral("wl-copy"), { QStringLiteral("theirs") }).exitCode, 0);
+    run(QStringLiteral("wl-copy theirs"));
     EXPECT_TRUE(QTest::qWaitFor([] { return paste() == "theirs"; }, 10000));
     ASSERT_TRUE(clipboard->setText(QStringLiteral("#0080FF")));
     EXPECT_EQ(paste(), "#0080FF");
@@ -95,12 +74,8 @@ TEST_F(WaylandClipboard, SurvivesReadersThatGoAwayMidTransfer)
     for (int i = 0; i < 200000; ++i)
         big += QStringLiteral("#FF8000 ");
     ASSERT_TRUE(clipboard->setText(big));
-    for (int reader = 0; reader < 3; ++reader) {
-        const Pasted partial = run(QStringLiteral("sh"),
-            { QStringLiteral("-c"), QStringLiteral("wl-paste --no-newline | head -c 100") });
-        ASSERT_TRUE(partial.finished);
-        EXPECT_EQ(partial.text, big.left(100).toUtf8());
-    }
+    for (int reader = 0; reader < 3; ++reader)
+        EXPECT_EQ(run(QStringLiteral("wl-paste --no-newline | head -c 100")), big.left(100).toUtf8());
     // Still here (a SIGPIPE would have ended this process) and still serving all of it.
     EXPECT_EQ(paste().size(), big.toUtf8().size());
     ASSERT_TRUE(clipboard->setText(QStringLiteral("#FF8000")));
@@ -125,8 +100,7 @@ TEST(WaylandCompositorGone, CopiesFailQuietlyOnceTheCompositorHasQuit)
     auto clipboard = WaylandDataControlClipboard::connect();
     ASSERT_TRUE(clipboard);
     ASSERT_TRUE(clipboard->setText(QStringLiteral("#FF8000")));
-    // sway may go before it answers, so swaymsg's status says nothing.
-    ASSERT_TRUE(run(QStringLiteral("swaymsg"), { QStringLiteral("exit") }).finished);
+    run(QStringLiteral("swaymsg exit")); // sway may go before it answers: its status says nothing
     EXPECT_TRUE(QTest::qWaitFor([&] { return !clipboard->setText(QStringLiteral("#0080FF")); }, 10000));
     // The hung-up connection must not keep waking the event loop (a tray program would spin).
     int wakeUps = 0;

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Test helper, not a test: saves the colour history in a loop the way the program does (read
-// the stored history, add a colour, write it back through the settings store) and reports on
-// standard output every save the store said reached the disk:
-//   ready
-//   saved <UUID>
-// The crash-safety test kills it with SIGKILL at random moments.
+// HistorySaver SETTINGS_FILE: saves the colour history in a loop as the program does (read, add
+// a colour, write back through the settings store), printing "ready", then "saved <UUID>" for
+// each save the store said reached the disk. The crash-safety test kills it at random moments.
 #include "model/ColorHistoryCodec.h"
 #include "model/PickedColor.h"
 #include "services/PreferenceKeys.h"
@@ -14,20 +11,14 @@
 
 int main(int argc, char **argv)
 {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: %s SETTINGS_FILE\n", argv[0]);
+    if (argc != 2)
         return 2;
-    }
     SettingsStore store(QString::fromLocal8Bit(argv[1]));
-    QList<PickedColor> colors;
-    if (const std::optional<QByteArray> stored = store.dataForKey(PreferenceKeys::colorHistory)) {
-        const std::optional<QList<PickedColor>> decoded = decodeColorHistory(*stored);
-        if (!decoded) {
-            std::fprintf(stderr, "the stored history cannot be read\n");
-            return 1;
-        }
-        colors = *decoded;
-    }
+    const std::optional<QList<PickedColor>> stored
+        = decodeColorHistory(store.dataForKey(PreferenceKeys::colorHistory).value_or("[]"));
+    if (!stored)
+        return 1; // the test finds the damaged history itself
+    QList<PickedColor> colors = *stored;
     std::printf("ready\n");
     std::fflush(stdout);
     for (int i = 0; i < 100000; ++i) {

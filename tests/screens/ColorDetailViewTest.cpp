@@ -6,22 +6,20 @@
 #include "screens/FormatLine.h"
 #include "support/Fakes.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QTest>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 // A detail screen whose delayed resets are collected, so a test decides when 1.5 s have passed.
 struct DetailHarness {
+    static void nothing() { }
+    void copied(const PickedColor &c, ColorFormat f) { copies.append({ c.id, f }); }
     explicit DetailHarness(const PickedColor &color, const QList<PickedColor> &history = {})
-        : view(
-            color, history,
-            [this](const PickedColor &c, ColorFormat f) {
-                copies.append({ c.id, f });
-            },
-            [this] { ++backs; })
+        : view(color, history, std::bind_front(&DetailHarness::copied, this), nothing)
     {
         view.setScheduler([this](int milliseconds, std::function<void()> job) {
             EXPECT_EQ(milliseconds, 1500);
@@ -35,15 +33,13 @@ struct DetailHarness {
     QList<ColorFormat> checked() const
     {
         QList<ColorFormat> result;
-        for (const ColorFormat format : allColorFormats) {
+        for (const ColorFormat format : allColorFormats)
             if (view.line(format)->markSymbol() == u"checkmark")
                 result.append(format);
-        }
         return result;
     }
 
     QList<std::pair<QUuid, ColorFormat>> copies;
-    int backs = 0;
     QList<std::function<void()>> pending;
     ColorDetailView view;
 };
@@ -82,19 +78,17 @@ TEST(ColorDetailView, ClickCopiesThatFormatAndOnlyTheNewestResetClearsTheMark)
 // than trusted to the size hints; the code initialisers, wider than the popup, over two lines.
 TEST(ColorDetailView, TheLongestTextsAreDrawnWholeInThePopupsWidth)
 {
-    const PickedColor white
-        = makeColor(1, 1, 1, false, QStringLiteral("Warm sunset orange for the spring banner"));
+    const PickedColor white = makeColor(1, 1, 1, false, u"Warm sunset orange for the spring banner"_s);
     DetailHarness harness(
-        white, { white, makeColor(0, 0, 0, false, QStringLiteral("Deep night blue for the winter banner")) });
+        white, { white, makeColor(0, 0, 0, false, u"Deep night blue for the winter banner"_s) });
     harness.view.setFixedWidth(ColorListView::viewWidth);
     harness.view.adjustSize();
     for (const ElidedLabel *label : harness.view.findChildren<ElidedLabel *>()) {
         SCOPED_TRACE(label->text().toStdString());
-        if (label->hasHeightForWidth()) {
+        if (label->hasHeightForWidth())
             EXPECT_LE(label->heightForWidth(label->width()), label->height());
-        } else {
+        else
             EXPECT_LE(QFontMetricsF(label->shownFont()).horizontalAdvance(label->text()), label->width());
-        }
     }
 }
 
@@ -116,20 +110,13 @@ TEST(ColorDetailView, ComparesWithThePreviousPickFromTheKeyboard)
 
     DetailHarness harness(white, history);
     ContrastComparisonView *comparison = harness.view.comparison();
-    auto results = [](const char *ratio, const char *normal, const char *large, const char *nonText,
-                       const char *apca) {
-        const QString spoken = QString::fromLatin1(ratio) + QStringLiteral(" to 1");
-        return QStringList { QStringLiteral("Contrast ratio ") + spoken,
-            QStringLiteral("Normal text: %1, %2").arg(QLatin1String(normal), spoken),
-            QStringLiteral("Large text: %1, %2").arg(QLatin1String(large), spoken),
-            QStringLiteral("Non-text: %1, %2").arg(QLatin1String(nonText), spoken), QLatin1String(apca) };
-    };
-    EXPECT_EQ(
-        comparison->spokenResults(), results("21.0", "AAA", "AAA", "Pass", "APCA: Lc 106.0, body text"));
-    // Pinned black, then past the separator to the recent grey.
-    QTest::keyClick(comparison->otherMenu(), Qt::Key_Down);
     EXPECT_EQ(comparison->spokenResults(),
-        results("3.5", "Fail", "AA", "Pass", "APCA: Lc 63.1, large or bold text"));
+        QStringList({ u"Contrast ratio 21.0 to 1"_s, u"Normal text: AAA, 21.0 to 1"_s,
+            u"Large text: AAA, 21.0 to 1"_s, u"Non-text: Pass, 21.0 to 1"_s,
+            u"APCA: Lc 106.0, body text"_s }));
+    // Pinned black, then past the separator to the recent grey (its grades are ContrastPair's).
+    QTest::keyClick(comparison->otherMenu(), Qt::Key_Down);
+    EXPECT_EQ(comparison->spokenResults().last(), u"APCA: Lc 63.1, large or bold text");
     QTest::keyClick(comparison->swapButton(), Qt::Key_Space);
     EXPECT_EQ(comparison->pair().foreground, (OpaqueColor { 1, 1, 1 }));
     EXPECT_EQ(comparison->spokenResults().last(), u"APCA: Lc -68.5, large or bold text");

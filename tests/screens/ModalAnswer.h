@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QLabel>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -36,19 +35,16 @@ struct ModalAnswer : QObject {
         wasShown = true;
         if (whileShown)
             whileShown();
-        texts << dialog->windowTitle();
-        if (auto *box = qobject_cast<QMessageBox *>(dialog))
-            texts << box->text() << box->informativeText();
+        texts << dialog->windowTitle(); // a message box's texts are in its labels
         for (QLabel *label : dialog->findChildren<QLabel *>())
             texts << label->text();
         if (m_answer == QLatin1String("Escape")) {
             QTest::keyClick(dialog, Qt::Key_Escape);
             return;
         }
-        for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
+        for (QPushButton *button : dialog->findChildren<QPushButton *>())
             if (button->text() == m_answer)
                 QTest::mouseClick(button, Qt::LeftButton);
-        }
     }
 
     std::function<void()> whileShown; // runs before the answer, while the dialog is up

@@ -24,6 +24,8 @@
 #include <QtWidgets>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 // Letters carry a circumflex above and a dot below, and a tail of accented letters makes the
 // text 40% longer; placeholders, colour texts, markup and entities stay as they are.
 struct PseudoTranslator : QTranslator {
@@ -32,7 +34,7 @@ struct PseudoTranslator : QTranslator {
     {
         const QString text = QString::fromUtf8(source);
         if (text == u"QT_LAYOUT_DIRECTION")
-            return QStringLiteral("LTR");
+            return u"LTR"_s;
         static const QRegularExpression parts(
             QStringLiteral(R"(%\d|%n|#[0-9A-Fa-f]{6}|<[^>]*>|&\w+;|(\p{L}))"));
         QString out = text + u' ';
@@ -65,7 +67,7 @@ static bool isCut(QWidget *w, QString &text)
         return text = box->title(), box->minimumSizeHint().width() > width;
     if (auto *button = qobject_cast<QAbstractButton *>(w))
         return text = button->text(),
-               !button->layout() && text.contains(QRegularExpression(QStringLiteral("\\w")))
+               !button->layout() && text.contains(QRegularExpression(u"\\w"_s))
                    && button->sizeHint().width() > width;
     auto *combo = qobject_cast<QComboBox *>(w);
     if (!combo)
@@ -81,27 +83,26 @@ static QStringList faults(QWidget *window)
 {
     QStringList found;
     const auto describe = [](const QWidget *w, const QString &text) {
-        return QStringLiteral("%1 %2 \"%3\"")
-            .arg(QLatin1String(w->metaObject()->className()), w->objectName(), text);
+        return u"%1 %2 \"%3\""_s.arg(QLatin1String(w->metaObject()->className()), w->objectName(), text);
     };
     if (!window->screen()->availableGeometry().contains(window->frameGeometry()))
-        found << QStringLiteral("off the screen: ") + describe(window, window->windowTitle());
+        found << u"off the screen: "_s + describe(window, window->windowTitle());
     QHash<QWidget *, QList<QWidget *>> texts; // by parent
     for (QWidget *w : window->findChildren<QWidget *>()) {
         QString text;
         if (!w->isVisibleTo(window) || w->size().isEmpty())
             continue;
         if (isCut(w, text))
-            found << QStringLiteral("cut: ") + describe(w, text);
+            found << u"cut: "_s + describe(w, text);
         if (text.isNull())
             continue; // not a text control
         QWidget *parent = w->parentWidget();
         // The content of a scrolling area is larger than its viewport on purpose.
         if (parent->objectName() != u"qt_scrollarea_viewport" && !parent->rect().contains(w->geometry()))
-            found << QStringLiteral("outside its parent: ") + describe(w, text);
+            found << u"outside its parent: "_s + describe(w, text);
         for (QWidget *sibling : texts.value(parent))
             if (sibling->geometry().intersects(w->geometry()))
-                found << QStringLiteral("overlaps %1: %2").arg(describe(sibling, {}), describe(w, text));
+                found << u"overlaps %1: %2"_s.arg(describe(sibling, {}), describe(w, text));
         texts[parent] << w;
     }
     return found;

@@ -88,6 +88,17 @@ PAGES = [  # (tab, what its page shows)
 ]
 
 
+def step(keys, label, role, name, timeout=3.0):
+    """Presses the keys (a space between two), then expects the focus on the object named."""
+    s.key(*keys.split(" "))
+    s.expect_focus(label, role=role, name=name, timeout=timeout)
+
+
+def shows(label, timeout=3, gone=False, **target):
+    """Waits for the object (with gone=True: for its absence)."""
+    s.check(label, bool(s.wait(lambda: (s.find(**target) is None) == gone, timeout)), s.dump())
+
+
 def description(s, name):
     acc = s.find(role="push button", name=name)
     return acc.description if acc is not None else None
@@ -102,13 +113,11 @@ with Session(files={"colorHistory.json": json.dumps(HISTORY)}) as s:
         s.check(f"{button} has a press action", "Press" in actions, str(actions))
         time.sleep(2.5)  # the button enters last; Return presses it once it is there
         s.key("Return")
-    s.check("the welcome window closes",
-            bool(s.wait(lambda: s.find(role="push button", name="Start Using vantle") is None, 5)))
+    shows("the welcome window closes", 5, True, role="push button", name="Start Using vantle")
 
     # The pointer rests where the rows will show: the popup opening under it keeps its focus.
     s.pointer(150, 190)
-    s.key("alt+shift+x")
-    s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color", timeout=10)
+    step("alt+shift+x", "focus starts on Pick Color", "push button", "Pick Color", timeout=10)
     s.expect_tree("popup", TREE)
     badge = s.find(role="label", name="3")
     s.check("the count says what it counts", badge is not None and badge.description == "colors")
@@ -117,100 +126,71 @@ with Session(files={"colorHistory.json": json.dumps(HISTORY)}) as s:
             sunset is not None and s.actions(sunset) == ["Press", "ShowMenu"],
             str(s.actions(sunset) if sunset else None))
     for role, name in TAB_ORDER:
-        s.key("Tab")
-        s.expect_focus(f"Tab reaches {role} '{name}'", role=role, name=name)
-    s.key("shift+Tab", "shift+Tab", "shift+Tab")
-    s.expect_focus("Shift+Tab back to the list's row", role="list item", name=ROWS[0])
+        step("Tab", f"Tab reaches {role} '{name}'", role, name)
+    step("shift+Tab shift+Tab shift+Tab", "Shift+Tab back to the list's row", "list item", ROWS[0])
     for keys, row in [(["End"], -1), (["Home"], 0), (["Down", "Down"], -1), (["Up", "Up"], 0)]:
-        s.key(*keys)
-        s.expect_focus(f"{'+'.join(keys)} walks to row {row}", role="list item", name=ROWS[row])
+        step(" ".join(keys), f"{'+'.join(keys)} walks to row {row}", "list item", ROWS[row])
     s.check("one highlight: only one thing reads as focused",
             len([a for a in s.walk() if a.getState().contains(pyatspi.STATE_FOCUSED)]) == 1)
 
     # The row's menu, from either key; Escape goes back to the row.
     for key in MENU_KEYS:
-        s.key(key)
-        s.expect_focus(f"{key} opens the menu on its first entry", role="menu item", name=ROW_MENU[0])
+        step(key, f"{key} opens the menu on its first entry", "menu item", ROW_MENU[0])
         menu = s.find(role="menu", name=SUNSET) or s.find(role="popup menu", name=SUNSET)
         s.check(f"{key}: the menu is named by the row", menu is not None, s.dump())
         s.expect_tree(f"{key} menu", [("menu item", item) for item in ROW_MENU])
-        s.key("Escape")
-        s.expect_focus(f"Escape from the {key} menu back to the row", role="list item", name=SUNSET)
+        step("Escape", f"Escape from the {key} menu back to the row", "list item", SUNSET)
 
     # Rename…: a sheet with its named field; Escape back to the row.
-    s.key("Menu", "Down", "Down", "Return")
-    s.expect_focus("Rename… focuses the name field", role="text", name="Color name")
+    step("Menu Down Down Return", "Rename… focuses the name field", "text", "Color name")
     s.expect_tree("rename sheet", [("dialog", "Rename Color"), ("push button", "Cancel"), ("push button", "Save")])
-    s.key("Escape")
-    s.expect_focus("Escape from the sheet back to the row", role="list item", name=SUNSET)
+    step("Escape", "Escape from the sheet back to the row", "list item", SUNSET)
 
     # Deleting a row leaves the focus on the row that takes its place.
-    s.key("Down", "Menu", "Down", "Down", "Down", "Return")
-    s.expect_focus("after Delete the focus is on the next row", role="list item", name=ROWS[2])
+    step("Down Menu Down Down Down Return", "after Delete the focus is on the next row", "list item", ROWS[2])
     s.key("Up")
 
     # Export: a named menu on the first entry that can run; Escape back to the button.
-    s.key("shift+Tab")
-    s.expect_focus("Shift+Tab from the first row to Pick Color", role="push button", name="Pick Color")
-    s.key("shift+Tab", "shift+Tab")
-    s.expect_focus("Shift+Tab around to Export", role="push button", name="Export colors")
-    s.key("space")
-    s.expect_focus("the export menu opens on its first entry", role="menu item", name="Export Pinned as Text")
+    step("shift+Tab", "Shift+Tab from the first row to Pick Color", "push button", "Pick Color")
+    step("shift+Tab shift+Tab", "Shift+Tab around to Export", "push button", "Export colors")
+    step("space", "the export menu opens on its first entry", "menu item", "Export Pinned as Text")
     s.expect_tree("export menu", [("menu item", "Export All as JSON")])
-    s.key("Escape")
-    s.expect_focus("Escape from the menu back to Export", role="push button", name="Export colors")
+    step("Escape", "Escape from the menu back to Export", "push button", "Export colors")
 
     # Escape on the list closes the popup, the last level.
     s.key("Escape")
-    s.check("Escape closes the popup last",
-            bool(s.wait(lambda: s.find(role="push button", name="Pick Color") is None, 3)), s.dump())
+    shows("Escape closes the popup last", gone=True, role="push button", name="Pick Color")
 
     # The detail screen from the keyboard; a copy there keeps the focus on its line.
-    s.key("alt+shift+x")
-    s.expect_focus("the popup opens again on Pick Color", role="push button", name="Pick Color")
-    s.key("Tab", "Return")
-    s.expect_focus("Tab reaches the first line", role="push button", name=LINES[0])
+    step("alt+shift+x", "the popup opens again on Pick Color", "push button", "Pick Color")
+    step("Tab Return", "Tab reaches the first line", "push button", LINES[0])
     s.expect_tree("detail", DETAIL)
-    s.key(*["Tab"] * 8)
-    s.expect_focus("eight Tabs reach the last line", role="push button", name=LINES[-1])
-    s.key("Tab")
-    s.expect_focus("Tab from the last line to the compared colour", role="combo box", name="#3366CC")
-    s.key("Tab")
-    s.expect_focus("Tab to the swap", role="push button", name="Swap text and background")
+    step(" ".join(["Tab"] * 8), "eight Tabs reach the last line", "push button", LINES[-1])
+    step("Tab", "Tab from the last line to the compared colour", "combo box", "#3366CC")
+    step("Tab", "Tab to the swap", "push button", "Swap text and background")
     s.key("space")
-    s.check("a swap reads the results again",
-            bool(s.wait(lambda: s.find(role="label", name="APCA: Lc -22.1, dividers and disabled parts only"), 3)),
-            s.dump())
-    s.key("Tab")
-    s.expect_focus("Tab from the comparison to Back", role="push button", name="Back")
+    shows("a swap reads the results again", role="label", name="APCA: Lc -22.1, dividers and disabled parts only")
+    step("Tab", "Tab from the comparison to Back", "push button", "Back")
     s.key("Tab", "Return")
-    note = s.wait(lambda: s.find(role="notification", name="Copied #FF6B36"), 3)
-    s.check("the copy capsule is heard", note is not None, s.dump())
+    shows("the copy capsule is heard", role="notification", name="Copied #FF6B36")
     s.expect_focus("Tab reaches the first line", role="push button", name=LINES[0])
+    step("Escape", "Escape from the detail back to the row", "list item", SUNSET)
     s.key("Escape")
-    s.expect_focus("Escape from the detail back to the row", role="list item", name=SUNSET)
-    s.key("Escape")
-    s.check("Escape closes the popup from the row",
-            bool(s.wait(lambda: s.find(role="push button", name="Pick Color") is None, 3)), s.dump())
+    shows("Escape closes the popup from the row", gone=True, role="push button", name="Pick Color")
 
     # A pick from the keyboard: the loupe's value is heard as the pointer moves; Escape ends it.
-    s.key("alt+shift+x")
-    s.expect_focus("the popup opens once more on Pick Color", role="push button", name="Pick Color")
+    step("alt+shift+x", "the popup opens once more on Pick Color", "push button", "Pick Color")
     s.key("Return")
     s.wait(lambda: s.find(role="notification", prefix="#"), 5)
     subprocess.run(["xdotool", "mousemove", "400", "500"], check=True)
-    s.check("the loupe's value is heard as it moves",
-            s.wait(lambda: s.find(role="notification", prefix="#"), 2) is not None, s.dump())
+    shows("the loupe's value is heard as it moves", 2, role="notification", prefix="#")
     s.key("Escape")
-    s.check("the loupe's value goes with the loupe",
-            bool(s.wait(lambda: s.find(role="notification", prefix="#") is None, 2)), s.dump())
+    shows("the loupe's value goes with the loupe", 2, True, role="notification", prefix="#")
 
     # The settings from the popup's Settings button.
-    s.key("alt+shift+x")
-    s.expect_focus("the popup opens for the settings", role="push button", name="Pick Color")
+    step("alt+shift+x", "the popup opens for the settings", "push button", "Pick Color")
     s.key("Tab", "Tab", "space")
-    window = s.wait(lambda: s.find(role="dialog", name="Vantle Settings"), 10)
-    s.check("settings open", window is not None, s.dump())
+    shows("settings open", 10, role="dialog", name="Vantle Settings")
     s.expect_tree("tab list", [("page tab list", ""), ("page tab", "General"), ("page tab", "About"),
                                ("page tab", "More Brindlework"), ("label", "Default format"),
                                ("label", "History limit")])
@@ -219,16 +199,13 @@ with Session(files={"colorHistory.json": json.dumps(HISTORY)}) as s:
             general is not None and general.getState().contains(pyatspi.STATE_SELECTED))
     s.expect_focus("focus starts on the selected tab", role="page tab", name="General")
     for role, name in GENERAL_TAB_ORDER:
-        s.key("Tab")
-        s.expect_focus(f"Tab reaches {role} '{name}'", role=role, name=name)
+        step("Tab", f"Tab reaches {role} '{name}'", role, name)
 
     # The recorder: Return listens, a combination is recorded, then read after the name.
-    s.key("Tab")
-    s.expect_focus("back to the first control", role="combo box", name="Default format")
+    step("Tab", "back to the first control", "combo box", "Default format")
     chosen = s.find(role="combo box", name="Default format").queryText()
     s.check("the drop-down reads its entry", chosen.getText(0, -1) == "Hex", chosen.getText(0, -1))
-    s.key("Tab")
-    s.expect_focus("the pick recorder", role="push button", name="Pick color")
+    step("Tab", "the pick recorder", "push button", "Pick color")
     s.key("space")
     s.check("the recorder says it listens", description(s, "Pick color") == "Press shortcut…",
             str(description(s, "Pick color")))
@@ -237,11 +214,9 @@ with Session(files={"colorHistory.json": json.dumps(HISTORY)}) as s:
     s.check("the recorder says the combination", bool(recorded), str(description(s, "Pick color")))
 
     # Arrows move between the tabs and select them.
-    s.key("shift+Tab", "shift+Tab")
-    s.expect_focus("Shift+Tab back to the tab", role="page tab", name="General")
+    step("shift+Tab shift+Tab", "Shift+Tab back to the tab", "page tab", "General")
     for tab, table in PAGES:
-        s.key("Right")
-        s.expect_focus(f"Right reaches {tab}", role="page tab", name=tab)
+        step("Right", f"Right reaches {tab}", "page tab", tab)
         s.key("space")
         s.expect_tree(tab, table)
         acc = s.find(role="page tab", name=tab)

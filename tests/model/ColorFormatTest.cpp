@@ -46,9 +46,8 @@ TEST(ColorFormat, WorkedExamplesInEveryFormat)
         EXPECT_EQ(c.formatted(ColorFormat::css), QLatin1String(e.css));
         EXPECT_EQ(c.formatted(ColorFormat::uiColor), QLatin1String(e.uiColor));
         // SwiftUI is the UIColor text without alpha.
-        QString swiftUI = QString::fromLatin1(e.uiColor);
-        swiftUI = u"Color"_s + swiftUI.mid(7, swiftUI.indexOf(u", alpha"_s) - 7) + QLatin1Char(')');
-        EXPECT_EQ(c.formatted(ColorFormat::swiftUI), swiftUI);
+        EXPECT_EQ(c.formatted(ColorFormat::swiftUI),
+            QString::fromLatin1(e.uiColor).section(u", alpha"_s, 0, 0).mid(2) + u')');
     }
 }
 

@@ -38,10 +38,8 @@ struct ModalAnswer : QObject {
         texts << dialog->windowTitle(); // a message box's texts are in its labels
         for (QLabel *label : dialog->findChildren<QLabel *>())
             texts << label->text();
-        if (m_answer == QLatin1String("Escape")) {
-            QTest::keyClick(dialog, Qt::Key_Escape);
-            return;
-        }
+        if (m_answer == QLatin1String("Escape"))
+            return QTest::keyClick(dialog, Qt::Key_Escape);
         for (QPushButton *button : dialog->findChildren<QPushButton *>())
             if (button->text() == m_answer)
                 QTest::mouseClick(button, Qt::LeftButton);

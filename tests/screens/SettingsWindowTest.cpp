@@ -99,7 +99,6 @@ TEST(SettingsView, LoweringTheHistoryLimitAsksBeforeRemovingColors)
         shell.store().setInteger(historyLimit, row.limit);
         shell.pick(3, true);
         shell.pick(row.recent);
-        ASSERT_EQ(shell.model->recentColors().size(), row.recent);
         SettingsView *view = shell.open();
 
         ModalAnswer alert(QString::fromLatin1(row.answer ? row.answer : "Cancel"));
@@ -131,7 +130,6 @@ TEST(SettingsView, RecordedShortcutIsRegisteredWithTheDesktop)
     ASSERT_TRUE(view->popoverRecorder()->isRecording());
     EXPECT_TRUE(shell.backend.registered.isEmpty()) << "no grab may take the press being recorded";
 
-    shell.backend.calls.clear();
     QKeyEvent press(QEvent::KeyPress, Qt::Key_P, Qt::ControlModifier | Qt::AltModifier, 33, 0, 0, u"p"_s);
     QApplication::sendEvent(view->popoverRecorder()->field(), &press);
 

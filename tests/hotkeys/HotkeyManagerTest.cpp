@@ -40,9 +40,8 @@ TEST(HotkeyManager, ReregisterReleasesBothThenRegistersPickBeforePopover)
 
 TEST(HotkeyManager, UnsetOrUnregistrableShortcutsRegisterNothing)
 {
-    // Unset, beyond 32 bits, negative modifiers.
-    for (const StoredShortcut &popover :
-        { StoredShortcut { -1, 655360 }, { 4294967296LL, 655360 }, { 7, -1 } }) {
+    const StoredShortcut bad[] = { { -1, 655360 }, { 4294967296LL, 655360 }, { 7, -1 } }; // unset, > 32 bits
+    for (const StoredShortcut &popover : bad) {
         Fixture f;
         popoverShortcut.write(*f.settings.store, popover);
         f.manager.reregisterAll();

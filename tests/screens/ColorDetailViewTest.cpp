@@ -51,8 +51,7 @@ TEST(ColorDetailView, ClickCopiesThatFormatAndOnlyTheNewestResetClearsTheMark)
     const PickedColor color = makeColor(1.0, 0.42, 0.21);
     DetailHarness harness(color);
     harness.click(ColorFormat::hex);
-    ASSERT_EQ(harness.copies.size(), 1);
-    EXPECT_EQ(harness.copies[0], std::pair(color.id, ColorFormat::hex));
+    EXPECT_EQ(harness.copies, (QList { std::pair(color.id, ColorFormat::hex) }));
     EXPECT_EQ(harness.checked(), QList<ColorFormat> { ColorFormat::hex });
 
     harness.click(ColorFormat::rgb);
@@ -73,9 +72,8 @@ TEST(ColorDetailView, ClickCopiesThatFormatAndOnlyTheNewestResetClearsTheMark)
     EXPECT_EQ(harness.view.copiedFormat(), std::nullopt);
 }
 
-// White has the longest value in every format, here with a 40-character name and compared with
-// another long name, in the popup's width: every text is drawn whole, measured afresh rather
-// than trusted to the size hints; the code initialisers, wider than the popup, over two lines.
+// White (the longest value in every format) with a 40-character name, compared with another long
+// name, in the popup's width: every text drawn whole, measured afresh; code texts wrap to two lines.
 TEST(ColorDetailView, TheLongestTextsAreDrawnWholeInThePopupsWidth)
 {
     const PickedColor white = makeColor(1, 1, 1, false, u"Warm sunset orange for the spring banner"_s);
@@ -103,8 +101,8 @@ TEST(ColorDetailView, ComparesWithThePreviousPickFromTheKeyboard)
     white.timestamp = 20;
     black.timestamp = 10;
     const QList<PickedColor> history { grey, white, black }; // newest first
-    for (const auto &[shown, other] :
-        { std::pair(grey, white), std::pair(white, black), std::pair(black, grey) })
+    // The closest pick before (not black, also before); for the oldest, the newest.
+    for (const auto &[shown, other] : { std::pair(grey, white), std::pair(black, grey) })
         EXPECT_EQ(ContrastComparisonView::defaultOther(shown, history)->id, other.id);
     EXPECT_EQ(DetailHarness(grey).view.comparison()->otherMenu(), nullptr); // nothing to compare with
 

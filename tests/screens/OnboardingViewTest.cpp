@@ -65,9 +65,7 @@ TEST_F(Onboarding, ClosingOrDroppingTheViewStopsEveryAnimation)
     EXPECT_TRUE(view->isAnimating());
     view->hide();
     EXPECT_FALSE(view->isAnimating());
-    const qreal shimmer = view->shimmerPhase();
-    driver.advanceTo(1300 + 3000);
-    EXPECT_EQ(view->shimmerPhase(), shimmer);
+    driver.advanceTo(1300 + 3000); // the shimmer too would run on the driver
     EXPECT_FALSE(driver.isRunning());
 
     auto dropped = std::make_unique<OnboardingView>(*settings.store, [] {});

@@ -28,8 +28,7 @@ using namespace PreferenceKeys;
 
 namespace {
 
-// Everything the settings window is handed by the application shell, with test stand-ins for the
-// desktop facilities.
+// Everything the application shell hands the settings window, with stand-ins for the desktop's.
 struct Shell : FakeHistoryFacilities {
     Shell()
     {
@@ -127,7 +126,6 @@ TEST(SettingsView, RecordedShortcutIsRegisteredWithTheDesktop)
     SettingsView *view = shell.open();
 
     QTest::mouseClick(view->popoverRecorder()->field(), Qt::LeftButton);
-    ASSERT_TRUE(view->popoverRecorder()->isRecording());
     EXPECT_TRUE(shell.backend.registered.isEmpty()) << "no grab may take the press being recorded";
 
     QKeyEvent press(QEvent::KeyPress, Qt::Key_P, Qt::ControlModifier | Qt::AltModifier, 33, 0, 0, u"p"_s);

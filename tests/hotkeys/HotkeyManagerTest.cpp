@@ -16,16 +16,8 @@ struct Fixture {
     Fixture()
         : manager(*settings.store, backend)
     {
-        setPick(8, 655360);
-        setPopover(7, 655360);
-    }
-    void setPick(qint64 keyCode, qint64 modifiers)
-    {
-        pickShortcut.write(*settings.store, { keyCode, modifiers });
-    }
-    void setPopover(qint64 keyCode, qint64 modifiers)
-    {
-        popoverShortcut.write(*settings.store, { keyCode, modifiers });
+        pickShortcut.write(*settings.store, { 8, 655360 });
+        popoverShortcut.write(*settings.store, { 7, 655360 });
     }
 
     TempSettings settings;
@@ -39,7 +31,7 @@ TEST(HotkeyManager, ReregisterReleasesBothThenRegistersPickBeforePopover)
 {
     Fixture f;
     f.manager.reregisterAll();
-    f.setPick(9, 262144);
+    pickShortcut.write(*f.settings.store, { 9, 262144 });
     f.manager.reregisterAll();
     EXPECT_EQ(f.backend.calls,
         QStringList({ "register 1 8 655360", "register 2 7 655360", "unregister 1", "unregister 2",
@@ -48,16 +40,12 @@ TEST(HotkeyManager, ReregisterReleasesBothThenRegistersPickBeforePopover)
 
 TEST(HotkeyManager, UnsetOrUnregistrableShortcutsRegisterNothing)
 {
-    struct Row {
-        qint64 keyCode;
-        qint64 modifiers;
-    };
-    for (const Row row : { Row { -1, 655360 }, Row { -7, 0 }, Row { 4294967296LL, 655360 }, Row { 7, -1 } }) {
+    const StoredShortcut bad[] = { { -1, 655360 }, { 4294967296LL, 655360 }, { 7, -1 } }; // unset, > 32 bits
+    for (const StoredShortcut &popover : bad) {
         Fixture f;
-        f.setPopover(row.keyCode, row.modifiers);
+        popoverShortcut.write(*f.settings.store, popover);
         f.manager.reregisterAll();
-        EXPECT_EQ(f.backend.calls, QStringList({ "register 1 8 655360" }))
-            << row.keyCode << " " << row.modifiers;
+        EXPECT_EQ(f.backend.calls, QStringList({ "register 1 8 655360" })) << popover.keyCode;
     }
 }
 

@@ -3,10 +3,8 @@
 #include "app/Translations.h"
 #include "history/ColorListViewModel.h"
 #include "model/ColorHistoryCodec.h"
-#include "screens/ColorDetailView.h"
 #include "screens/ColorRowView.h"
 #include "screens/ElidedLabel.h"
-#include "screens/RenameColorSheet.h"
 #include "services/PreferenceKeys.h"
 #include "support/Fakes.h"
 #include "support/TempSettings.h"
@@ -19,36 +17,33 @@
 #include <QTranslator>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ColorListViewTest : public ::testing::Test, public FakeHistoryFacilities {
 public: // the case tables below reach in from lambdas
-    void build(const QList<PickedColor> &colors, const QString &format = QStringLiteral("Hex"))
+    static void nothing() { }
+    void build(const QList<PickedColor> &colors, const QString &format = u"Hex"_s)
     {
         settings.store->setString(PreferenceKeys::colorFormat, format);
         settings.store->setData(PreferenceKeys::colorHistory, *encodeColorHistory(colors));
         model = std::make_unique<ColorListViewModel>(
             *settings.store, sampler, clipboard, confirmation, dialogs);
-        view = std::make_unique<ColorListView>(
-            *model, *settings.store, [] {}, [] {});
+        view = std::make_unique<ColorListView>(*model, *settings.store, nothing, nothing);
         view->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(view.get()));
     }
 
     QWidget *child(const char *name) const { return view->findChild<QWidget *>(QLatin1String(name)); }
 
-    bool shown(const char *name) const
-    {
-        const QWidget *widget = child(name);
-        return widget && widget->isVisibleTo(view.get());
-    }
+    bool shown(const char *name) const { return child(name) && child(name)->isVisibleTo(view.get()); }
 
     ColorRowView *rowFor(const QUuid &id) const
     {
-        for (ColorRowView *row : view->rows())
-            if (row->color().id == id)
-                return row;
-        return nullptr;
+        const QList<ColorRowView *> rows = view->rows();
+        const auto row = std::ranges::find(rows, id, [](const ColorRowView *r) { return r->color().id; });
+        return row == rows.end() ? nullptr : *row;
     }
 
     // A real right click, through the window, as the desktop delivers it.
@@ -62,21 +57,18 @@ public: // the case tables below reach in from lambdas
 
     static void clickAction(QMenu *menu, const QString &text)
     {
-        for (QAction *action : menu->actions()) {
-            if (action->text() == text) {
-                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
-                return;
-            }
-        }
-        ADD_FAILURE() << "no menu item " << text.toStdString();
+        ASSERT_NE(menu, nullptr);
+        const QList<QAction *> actions = menu->actions();
+        const auto action = std::ranges::find(actions, text, &QAction::text);
+        ASSERT_NE(action, actions.end()) << text.toStdString();
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(*action).center());
     }
 
     std::optional<PickedColor> stored(const QUuid &id) const
     {
-        for (const PickedColor &color : model->colors())
-            if (color.id == id)
-                return color;
-        return std::nullopt;
+        const QList<PickedColor> colors = model->colors();
+        const auto color = std::ranges::find(colors, id, &PickedColor::id);
+        return color == colors.end() ? std::nullopt : std::optional(*color);
     }
 
     TempSettings settings;
@@ -105,16 +97,12 @@ TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
         EXPECT_EQ(shown("recentHeader"), c.recent);
         EXPECT_EQ(shown("emptyState"), c.empty);
         // Every colour counts, pinned or not.
-        EXPECT_EQ(view->findChild<QWidget *>(QStringLiteral("countBadge"))->accessibleName(),
-            QString::number(c.colors.size()));
-        EXPECT_EQ(view->rows().size(), c.colors.size());
+        EXPECT_EQ(child("countBadge")->accessibleName(), QString::number(c.colors.size()));
         // Pinned rows come first, each section in history order.
-        QList<QUuid> expected, actual;
-        for (const PickedColor &color : model->pinnedColors() + model->recentColors())
-            expected.append(color.id);
+        QList<PickedColor> rows;
         for (const ColorRowView *row : view->rows())
-            actual.append(row->color().id);
-        EXPECT_EQ(actual, expected);
+            rows << row->color();
+        EXPECT_EQ(rows, model->pinnedColors() + model->recentColors());
 
         QList<bool> enabled;
         for (const QAction *action : view->exportMenu()->actions())
@@ -126,8 +114,8 @@ TEST_F(ColorListViewTest, SectionsCountBadgeAndExportEntriesFollowTheHistory)
 TEST_F(ColorListViewTest, ClickOnRowCopiesInPreferredFormatAndOpensDetail)
 {
     const PickedColor first = makeColor(1.0, 0.42, 0.21);
-    const PickedColor second = makeColor(0.2, 0.4, 0.8, false, QStringLiteral("Sky"));
-    build({ first, second }, QStringLiteral("RGB"));
+    const PickedColor second = makeColor(0.2, 0.4, 0.8, false, u"Sky"_s);
+    build({ first, second }, u"RGB"_s);
     ASSERT_EQ(rowFor(second.id)->valueText(), second.formatted(ColorFormat::rgb));
 
     QTest::mouseClick(rowFor(second.id), Qt::LeftButton);
@@ -136,87 +124,63 @@ TEST_F(ColorListViewTest, ClickOnRowCopiesInPreferredFormatAndOpensDetail)
     ASSERT_NE(view->detailView(), nullptr);
     EXPECT_EQ(view->detailView()->color(), second);
     EXPECT_TRUE(view->detailView()->isVisible());
-    EXPECT_FALSE(child("pickButton")->isVisible());
 
-    // A copy of one format on the detail screen goes through the model too.
-    view->detailView()->copy(ColorFormat::hsl);
-    EXPECT_EQ(clipboard.current(), second.formatted(ColorFormat::hsl));
     // The detail keeps the colour as opened; the list behind it is fresh when the user comes back.
-    model->renameColor(second, QStringLiteral("Later"));
+    model->renameColor(second, u"Later"_s);
     model->togglePin(second);
     EXPECT_EQ(view->detailView()->color(), second);
 
-    QTest::mouseClick(
-        view->detailView()->findChild<QAbstractButton *>(QStringLiteral("backButton")), Qt::LeftButton);
+    QTest::mouseClick(view->detailView()->findChild<QAbstractButton *>(u"backButton"_s), Qt::LeftButton);
     EXPECT_EQ(view->detailView(), nullptr);
-    EXPECT_EQ(view->selectedColor(), std::nullopt);
     EXPECT_TRUE(child("pickButton")->isVisible());
     EXPECT_TRUE(shown("pinnedHeader"));
-    EXPECT_EQ(view->rows().first()->color().name, QStringLiteral("Later"));
+    EXPECT_EQ(view->rows().first()->color().name, u"Later"_s);
 }
 
+// Copying from the menu stays on the list.
 TEST_F(ColorListViewTest, ContextMenuItemsCallTheModel)
 {
     const struct {
         const char *item;
-        bool pinned;
-        std::function<void(ColorListViewTest &, const PickedColor &)> check;
-    } cases[] = {
-        { "Copy", false,
-            [](ColorListViewTest &t, const PickedColor &c) {
-                EXPECT_EQ(t.clipboard.texts, QStringList { c.formatted(ColorFormat::hsl) });
-                EXPECT_EQ(t.view->detailView(), nullptr); // copying from the menu stays on the list
-            } },
-        { "Pin", false,
-            [](ColorListViewTest &t, const PickedColor &c) { EXPECT_TRUE(t.stored(c.id)->isPinned); } },
-        { "Delete", false,
-            [](ColorListViewTest &t, const PickedColor &c) {
-                EXPECT_FALSE(t.stored(c.id));
-                EXPECT_EQ(t.view->rows().size(), 1);
-            } },
-    };
+        bool copied;
+        std::optional<bool> pinned; // none: deleted
+    } cases[] = { { "Copy", true, false }, { "Pin", false, true }, { "Delete", false, std::nullopt } };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.item);
-        const PickedColor color = makeColor(0.9, 0.1, 0.5, c.pinned);
-        build({ color, makeColor(0.1, 0.1, 0.1) }, QStringLiteral("HSL"));
-        QMenu *menu = openContextMenu(rowFor(color.id));
-        ASSERT_NE(menu, nullptr);
-        clickAction(menu, QLatin1String(c.item));
-        c.check(*this, color);
-        QTRY_VERIFY(!QApplication::activePopupWidget());
+        const PickedColor color = makeColor(0.9, 0.1, 0.5);
+        build({ color, makeColor(0.1, 0.1, 0.1) }, u"HSL"_s);
         clipboard.texts.clear();
+        clickAction(openContextMenu(rowFor(color.id)), QLatin1String(c.item));
+        QTRY_VERIFY(!QApplication::activePopupWidget());
+        EXPECT_EQ(
+            clipboard.texts, c.copied ? QStringList { color.formatted(ColorFormat::hsl) } : QStringList());
+        const auto after = stored(color.id);
+        EXPECT_EQ(after ? std::optional(after->isPinned) : std::nullopt, c.pinned);
+        EXPECT_EQ(view->rows().size(), c.pinned ? 2 : 1);
+        EXPECT_EQ(view->detailView(), nullptr);
     }
 }
 
 TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
 {
-    using Close = std::function<void(RenameColorSheet *)>;
-    const Close saveButton
-        = [](RenameColorSheet *sheet) { QTest::mouseClick(sheet->saveButton(), Qt::LeftButton); };
-    const Close cancelButton
-        = [](RenameColorSheet *sheet) { QTest::mouseClick(sheet->cancelButton(), Qt::LeftButton); };
-    const Close returnKey
-        = [](RenameColorSheet *sheet) { QTest::keyClick(sheet->nameField(), Qt::Key_Return); };
-    const Close escapeKey
-        = [](RenameColorSheet *sheet) { QTest::keyClick(sheet->nameField(), Qt::Key_Escape); };
     const struct {
         const char *what;
         std::optional<QString> name;
         QString typed; // replaces the field's text
-        Close close;
+        QString close; // a button or a key
         std::optional<QString> expected;
     } cases[] = {
-        { "new name by Return", std::nullopt, QStringLiteral("Sky"), returnKey, QStringLiteral("Sky") },
-        { "empty clears", QStringLiteral("Old"), QString(), saveButton, std::nullopt },
-        { "blanks are kept", QStringLiteral("Old"), QStringLiteral("   "), returnKey, QStringLiteral("   ") },
-        { "Cancel keeps", QStringLiteral("Old"), QStringLiteral("New"), cancelButton, QStringLiteral("Old") },
-        { "Escape keeps", std::nullopt, QStringLiteral("New"), escapeKey, std::nullopt },
+        { "new name by Return", std::nullopt, u"Sky"_s, u"Return"_s, u"Sky"_s },
+        { "empty clears", u"Old"_s, QString(), u"Save"_s, std::nullopt },
+        { "blanks are kept", u"Old"_s, u"   "_s, u"Return"_s, u"   "_s },
+        { "Cancel keeps", u"Old"_s, u"New"_s, u"Cancel"_s, u"Old"_s },
+        { "Escape keeps", std::nullopt, u"New"_s, u"Escape"_s, std::nullopt },
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.what);
         const PickedColor color = makeColor(1.0, 0.42, 0.21, false, c.name);
-        build({ color }, QStringLiteral("CSS rgba"));
-        clickAction(openContextMenu(view->rows().first()), QStringLiteral("Rename…"));
+        build({ color }, u"CSS rgba"_s);
+        clickAction(openContextMenu(view->rows().first()), u"Rename…"_s);
         RenameColorSheet *sheet = nullptr;
         QTRY_VERIFY((sheet = view->findChild<RenameColorSheet *>()) && sheet->isVisible());
         // A sheet inside the popup, not a window of its own that would close it.
@@ -224,17 +188,20 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
         EXPECT_EQ(sheet->nameField()->text(), c.name.value_or(QString()));
 
         QLineEdit *field = sheet->nameField();
-        field->setFocus();
         field->selectAll();
         QTest::keyClick(field, Qt::Key_Backspace);
         QTest::keyClicks(field, c.typed);
         const QPointer<RenameColorSheet> guard(sheet);
-        c.close(sheet);
+        if (c.close == u"Save" || c.close == u"Cancel")
+            QTest::mouseClick(
+                c.close == u"Save" ? sheet->saveButton() : sheet->cancelButton(), Qt::LeftButton);
+        else
+            QTest::keyClick(field, c.close == u"Return" ? Qt::Key_Return : Qt::Key_Escape);
         QTRY_VERIFY(!guard);
         EXPECT_EQ(stored(color.id)->name, c.expected);
         // Back on the list, which shows the name as stored.
         EXPECT_TRUE(shown("pickButton"));
-        const auto *name = rowFor(color.id)->findChild<ElidedLabel *>(QStringLiteral("nameLabel"));
+        const auto *name = rowFor(color.id)->findChild<ElidedLabel *>(u"nameLabel"_s);
         EXPECT_EQ(name && name->isVisibleTo(view.get()) ? std::optional(name->text()) : std::nullopt,
             c.expected && !c.expected->isEmpty() ? c.expected : std::nullopt);
     }
@@ -244,7 +211,7 @@ TEST_F(ColorListViewTest, RenameSheetPassesTheTextExactlyAsTyped)
 // footer's Quit comes left of Settings. Without the translation the order is back.
 TEST_F(ColorListViewTest, ArabicMirrorsThePopup)
 {
-    ASSERT_EQ(installTranslations({ QStringLiteral("ar-EG") }), QStringLiteral("ar_EG"));
+    ASSERT_EQ(installTranslations({ u"ar-EG"_s }), u"ar_EG"_s);
     build({ makeColor(1.0, 0.42, 0.21) });
     EXPECT_EQ(view->layoutDirection(), Qt::RightToLeft);
     EXPECT_LT(child("quitButton")->geometry().right(), child("settingsButton")->geometry().left());

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QLabel>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -36,19 +35,13 @@ struct ModalAnswer : QObject {
         wasShown = true;
         if (whileShown)
             whileShown();
-        texts << dialog->windowTitle();
-        if (auto *box = qobject_cast<QMessageBox *>(dialog))
-            texts << box->text() << box->informativeText();
-        for (QLabel *label : dialog->findChildren<QLabel *>())
+        for (QLabel *label : dialog->findChildren<QLabel *>()) // a message box's texts too
             texts << label->text();
-        if (m_answer == QLatin1String("Escape")) {
-            QTest::keyClick(dialog, Qt::Key_Escape);
-            return;
-        }
-        for (QPushButton *button : dialog->findChildren<QPushButton *>()) {
+        if (m_answer == QLatin1String("Escape"))
+            return QTest::keyClick(dialog, Qt::Key_Escape);
+        for (QPushButton *button : dialog->findChildren<QPushButton *>())
             if (button->text() == m_answer)
                 QTest::mouseClick(button, Qt::LeftButton);
-        }
     }
 
     std::function<void()> whileShown; // runs before the answer, while the dialog is up

@@ -42,7 +42,6 @@ TEST_F(Onboarding, ButtonsWorkOnlyOnceShownAndOnlyGetStartedWrites)
     press(view->getStartedButtonRect());
     EXPECT_EQ(view->currentScreen(), 1);
     ASSERT_EQ(writes.count(), 1);
-    EXPECT_EQ(writes.at(0).at(0).toString(), PreferenceKeys::onboardingShown);
     EXPECT_TRUE(settings.reopen()->boolForKey(PreferenceKeys::onboardingShown));
     // Pressing the welcome button's place again does not go back or write again.
     press(view->getStartedButtonRect());
@@ -66,9 +65,7 @@ TEST_F(Onboarding, ClosingOrDroppingTheViewStopsEveryAnimation)
     EXPECT_TRUE(view->isAnimating());
     view->hide();
     EXPECT_FALSE(view->isAnimating());
-    const qreal shimmer = view->shimmerPhase();
-    driver.advanceTo(1300 + 3000);
-    EXPECT_EQ(view->shimmerPhase(), shimmer);
+    driver.advanceTo(1300 + 3000); // the shimmer too would run on the driver
     EXPECT_FALSE(driver.isRunning());
 
     auto dropped = std::make_unique<OnboardingView>(*settings.store, [] {});

@@ -6,11 +6,13 @@
 #include <QTextDocument>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 // Release notes come from the network: they are shown, never obeyed.
 TEST(ReleaseNotesView, NotesAreShownWithoutTheirStylesOrResources)
 {
     QTemporaryDir dir;
-    const QString picture = dir.filePath(QStringLiteral("local.png"));
+    const QString picture = dir.filePath(u"local.png"_s);
     QImage(8, 8, QImage::Format_RGB32).save(picture);
     const QUrl pictureUrl = QUrl::fromLocalFile(picture);
 
@@ -20,15 +22,14 @@ TEST(ReleaseNotesView, NotesAreShownWithoutTheirStylesOrResources)
         QString plainText;
     };
     const Row rows[] = {
-        { "plain text keeps its angle brackets", QStringLiteral("Faster when width < 100 & height > 2"),
-            QStringLiteral("Faster when width < 100 & height > 2") },
+        { "plain text keeps its angle brackets", u"Faster when width < 100 & height > 2"_s,
+            u"Faster when width < 100 & height > 2"_s },
         { "styles that hide text are dropped",
             QStringLiteral(
                 "<style>p { display:none }</style><p style=\"font-size:1px\">Sends your history away</p>"),
-            QStringLiteral("Sends your history away") },
+            u"Sends your history away"_s },
         { "local files named by images are not read",
-            QStringLiteral("<ul><li>New</li></ul><img src=\"%1\">").arg(pictureUrl.toString()),
-            QStringLiteral("New") },
+            u"<ul><li>New</li></ul><img src=\"%1\">"_s.arg(pictureUrl.toString()), u"New"_s },
     };
     for (const Row &row : rows) {
         SCOPED_TRACE(row.what);
@@ -37,7 +38,7 @@ TEST(ReleaseNotesView, NotesAreShownWithoutTheirStylesOrResources)
         view.setNotes(row.notes);
         view.grab(); // lays the document out, which is when resources would be loaded
         EXPECT_TRUE(view.toPlainText().contains(row.plainText)) << view.toPlainText().toStdString();
-        EXPECT_FALSE(view.toHtml().contains(QStringLiteral("font-size:1px")));
+        EXPECT_FALSE(view.toHtml().contains(u"font-size:1px"_s));
         const QVariant loaded = view.document()->resource(QTextDocument::ImageResource, pictureUrl);
         EXPECT_LE(loaded.value<QImage>().width(), 1) << "the 8-pixel local picture was read";
         EXPECT_TRUE(loaded.value<QByteArray>().isEmpty());

@@ -1,17 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Vantle as a screen reader reads it, in one session from the first start.
-The welcome window: each screen's texts and its one button, named and focused, pressed from the
-keyboard; the last press closes the window and records the welcome.
-The popup: the pick button, the section headings and the colour
-rows named by name, value and pin; Tab and the arrows through them; a row's menu from the Menu
-key and Shift+F10; the rename sheet; the export menu; a colour's detail screen, each format line a
-button named by its format and text in Tab order, the contrast lines said as ratios, the comparison
-with another colour and its swap read again, a copy heard
-without taking the focus; Escape going back one level at a time and closing the popup last; the
-loupe's value heard as the pointer moves.
-The settings window: the page tab list and each page's controls, named, in Tab order; the shortcut
-recorder saying that it listens and then what it recorded; arrows between the tabs; Escape
-closing the window."""
+"""Vantle as a screen reader reads it, in one session from the first start: the welcome, the
+popup (rows, menus, rename, export, a colour's detail and comparison, the copy capsule, the
+loupe's value) and the settings, named, in Tab order, from the keyboard alone."""
 import json
 import os
 import subprocess
@@ -37,78 +27,49 @@ HISTORY = [
 SUNSET = "Sunset, #FF6B36, pinned"
 ROWS = [SUNSET, "#2E8B57, pinned", "#3366CC"]  # as shown: pinned first, then the recent ones
 
-TREE = [  # what the open popup shows
-    ("push button", "Pick Color"),
-    ("heading", "PINNED"),
-    ("heading", "RECENT"),
-    *[("list item", row) for row in ROWS],
-    ("label", "3"),
-    ("push button", "Settings"),
-    ("push button", "Export colors"),
-    ("push button", "Quit vantle"),
-]
-TAB_ORDER = [  # from Pick Color on, what each Tab press reaches: the list is one stop
-    ("list item", ROWS[0]),
-    ("push button", "Settings"),
-    ("push button", "Export colors"),
-    ("push button", "Quit vantle"),
-]
+# What the open popup shows besides its Tab stops; from Pick Color on, what each Tab reaches (the list is one).
+TREE = [("heading", "PINNED"), ("heading", "RECENT"), *[("list item", row) for row in ROWS], ("label", "3")]
+TAB_ORDER = [("list item", ROWS[0]), ("push button", "Settings"), ("push button", "Export colors"),
+             ("push button", "Quit vantle")]
 ROW_MENU = ["Copy", "Unpin", "Rename…", "Delete"]  # Sunset's menu
 MENU_KEYS = ["Menu", "shift+F10"]  # both open a row's menu on its first entry
-LINES = [  # Sunset's detail, in Tab order from the first line; "…" ends a prefix
-    "Hex, #FF6B36",
-    "Hex (lowercase), #ff6b36",
-    "RGB, rgb(255, 107, 54)",
-    "RGB (decimal), …",
-    "HSL, hsl(…",
-    "HSB/HSV, …",
-    "SwiftUI Color, Color(red: 1.00…",
-    "UIColor, UIColor(red: 1.00…",
-    "CSS rgba, rgba(…",
-]
-DETAIL = [
-    ("push button", "Back"),
-    ("label", "Sunset"),
-    ("heading", "Contrast Ratios"),
-    ("label", "vs White, 2.8 to 1, Fail"),
-    ("label", "vs Black, 7.4 to 1, AAA"),
-    # Compared with the newest other colour (Sunset is the oldest), as text on Sunset.
-    ("heading", "Text and Background"),
-    ("combo box", "#3366CC"),  # no label beside it: named by the colour it shows
-    ("push button", "Swap text and background"),
-    ("label", "Contrast ratio 1.9 to 1"),
-    ("label", "Normal text: Fail, 1.9 to 1"),
-    ("label", "Large text: Fail, 1.9 to 1"),
-    ("label", "Non-text: Fail, 1.9 to 1"),
-    ("label", "APCA: Lc 20.7, dividers and disabled parts only"),
-    *[("push button", line) for line in LINES],
-]
+# Three of Sunset's nine format lines (one class, named alike), the last one last; "…" ends a prefix.
+LINES = ["Hex, #FF6B36", "RGB, rgb(255, 107, 54)", "CSS rgba, rgba(…"]
+# Besides the Tab stops (Back, the lines, the compared colour, the swap): one of each kind of text; the
+# badges and the graded sentences are one class each, their words ColorDetailView's tests.
+DETAIL = [("label", "Sunset"), ("heading", "Contrast Ratios"), ("label", "vs Black, 7.4 to 1, AAA"),
+          ("heading", "Text and Background"), ("label", "Contrast ratio 1.9 to 1"),  # with the newest other colour
+          ("label", "APCA: Lc 20.7, dividers and disabled parts only"), ("push button", LINES[1])]
 
 SCREENS = [  # (what is read, the button that Return presses there)
-    ([("label", "Welcome to vantle"),
-      ("label", "Pick any color from anywhere on your screen with one click."),
-      ("label", "The color value is copied to your clipboard instantly in your preferred format."),
-      ("label", "Pin your favorite colors and build a palette you can export anytime."),
+    ([("label", "Welcome to vantle"), ("label", "Pick any color from anywhere on your screen with one click."),
       ("push button", "Close")], "Get Started"),
-    ([("label", "You're all set."),
-      ("label", "Look for the eyedropper icon in your system tray.")], "Start Using vantle"),
+    ([("label", "You're all set.")], "Start Using vantle"),
 ]
 GENERAL_TAB_ORDER = [  # from the selected tab on, what each Tab press reaches
     ("combo box", "Default format"),  # named by its label; the chosen entry is its text
-    ("push button", "Pick color"),
-    ("push button", "Clear the Pick color shortcut"),
-    ("push button", "Toggle popup"),
-    ("push button", "Clear the Toggle popup shortcut"),
-    ("check box", "Show colored dot for last picked color"),
-    ("check box", "Launch at login"),
-    ("combo box", "History limit"),
-    ("push button", "Clear History"),
-    ("page tab", "General"),
+    ("push button", "Pick color"), ("push button", "Clear the Pick color shortcut"),
+    ("push button", "Toggle popup"), ("push button", "Clear the Toggle popup shortcut"),
+    ("check box", "Show colored dot for last picked color"), ("check box", "Launch at login"),
+    ("combo box", "History limit"), ("push button", "Clear History"), ("page tab", "General"),
 ]
-PAGES = [  # (tab, what its page shows)
-    ("About", [("page tab list", ""), ("page tab", "About")]),
-    ("More Brindlework", [("page tab", "More Brindlework")]),
-]
+PAGES = ["About", "More Brindlework"]
+
+
+def step(keys, label, role, name, timeout=3.0):
+    """Presses the keys (a space between two), then expects the focus on the object named."""
+    s.key(*keys.split(" "))
+    s.expect_focus(label, role=role, name=name, timeout=timeout)
+
+
+def shows(label, timeout=3, gone=False, **target):
+    """Waits for the object (with gone=True: for its absence)."""
+    s.check(label, bool(s.wait(lambda: (s.find(**target) is None) == gone, timeout)), s.dump())
+
+
+def selected(tab):
+    acc = s.find(role="page tab", name=tab)
+    s.check(f"{tab} is the selected tab", acc is not None and acc.getState().contains(pyatspi.STATE_SELECTED))
 
 
 def description(s, name):
@@ -125,135 +86,90 @@ with Session(files={"colorHistory.json": json.dumps(HISTORY)}) as s:
         s.check(f"{button} has a press action", "Press" in actions, str(actions))
         time.sleep(2.5)  # the button enters last; Return presses it once it is there
         s.key("Return")
-    s.check("the welcome window closes",
-            bool(s.wait(lambda: s.find(role="push button", name="Start Using vantle") is None, 5)))
+    shows("the welcome window closes", 5, True, role="push button", name="Start Using vantle")
 
     # The pointer rests where the rows will show: the popup opening under it keeps its focus.
     s.pointer(150, 190)
-    s.key("alt+shift+x")
-    s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color", timeout=10)
+    step("alt+shift+x", "focus starts on Pick Color", "push button", "Pick Color", timeout=10)
     s.expect_tree("popup", TREE)
     badge = s.find(role="label", name="3")
     s.check("the count says what it counts", badge is not None and badge.description == "colors")
     sunset = s.find(role="list item", name=SUNSET)
-    s.check("a row opens and offers its menu",
-            sunset is not None and s.actions(sunset) == ["Press", "ShowMenu"],
+    s.check("a row opens and offers its menu", sunset is not None and s.actions(sunset) == ["Press", "ShowMenu"],
             str(s.actions(sunset) if sunset else None))
     for role, name in TAB_ORDER:
-        s.key("Tab")
-        s.expect_focus(f"Tab reaches {role} '{name}'", role=role, name=name)
-    s.key("shift+Tab", "shift+Tab", "shift+Tab")
-    s.expect_focus("Shift+Tab back to the list's row", role="list item", name=ROWS[0])
+        step("Tab", f"Tab reaches {role} '{name}'", role, name)
+    step("shift+Tab shift+Tab shift+Tab", "Shift+Tab back to the list's row", "list item", ROWS[0])
     for keys, row in [(["End"], -1), (["Home"], 0), (["Down", "Down"], -1), (["Up", "Up"], 0)]:
-        s.key(*keys)
-        s.expect_focus(f"{'+'.join(keys)} walks to row {row}", role="list item", name=ROWS[row])
+        step(" ".join(keys), f"{'+'.join(keys)} walks to row {row}", "list item", ROWS[row])
     s.check("one highlight: only one thing reads as focused",
             len([a for a in s.walk() if a.getState().contains(pyatspi.STATE_FOCUSED)]) == 1)
 
     # The row's menu, from either key; Escape goes back to the row.
     for key in MENU_KEYS:
-        s.key(key)
-        s.expect_focus(f"{key} opens the menu on its first entry", role="menu item", name=ROW_MENU[0])
+        step(key, f"{key} opens the menu on its first entry", "menu item", ROW_MENU[0])
         menu = s.find(role="menu", name=SUNSET) or s.find(role="popup menu", name=SUNSET)
         s.check(f"{key}: the menu is named by the row", menu is not None, s.dump())
         s.expect_tree(f"{key} menu", [("menu item", item) for item in ROW_MENU])
-        s.key("Escape")
-        s.expect_focus(f"Escape from the {key} menu back to the row", role="list item", name=SUNSET)
+        step("Escape", f"Escape from the {key} menu back to the row", "list item", SUNSET)
 
     # Rename…: a sheet with its named field; Escape back to the row.
-    s.key("Menu", "Down", "Down", "Return")
-    s.expect_focus("Rename… focuses the name field", role="text", name="Color name")
+    step("Menu Down Down Return", "Rename… focuses the name field", "text", "Color name")
     s.expect_tree("rename sheet", [("dialog", "Rename Color"), ("push button", "Cancel"), ("push button", "Save")])
-    s.key("Escape")
-    s.expect_focus("Escape from the sheet back to the row", role="list item", name=SUNSET)
+    step("Escape", "Escape from the sheet back to the row", "list item", SUNSET)
 
     # Deleting a row leaves the focus on the row that takes its place.
-    s.key("Down", "Menu", "Down", "Down", "Down", "Return")
-    s.expect_focus("after Delete the focus is on the next row", role="list item", name=ROWS[2])
+    step("Down Menu Down Down Down Return", "after Delete the focus is on the next row", "list item", ROWS[2])
     s.key("Up")
 
     # Export: a named menu on the first entry that can run; Escape back to the button.
-    s.key("shift+Tab")
-    s.expect_focus("Shift+Tab from the first row to Pick Color", role="push button", name="Pick Color")
-    s.key("shift+Tab", "shift+Tab")
-    s.expect_focus("Shift+Tab around to Export", role="push button", name="Export colors")
-    s.key("space")
-    s.expect_focus("the export menu opens on its first entry", role="menu item", name="Export Pinned as Text")
+    step("shift+Tab", "Shift+Tab from the first row to Pick Color", "push button", "Pick Color")
+    step("shift+Tab shift+Tab", "Shift+Tab around to Export", "push button", "Export colors")
+    step("space", "the export menu opens on its first entry", "menu item", "Export Pinned as Text")
     s.expect_tree("export menu", [("menu item", "Export All as JSON")])
-    s.key("Escape")
-    s.expect_focus("Escape from the menu back to Export", role="push button", name="Export colors")
-
-    # Escape on the list closes the popup, the last level.
-    s.key("Escape")
-    s.check("Escape closes the popup last",
-            bool(s.wait(lambda: s.find(role="push button", name="Pick Color") is None, 3)), s.dump())
+    step("Escape", "Escape from the menu back to Export", "push button", "Export colors")
 
     # The detail screen from the keyboard; a copy there keeps the focus on its line.
-    s.key("alt+shift+x")
-    s.expect_focus("the popup opens again on Pick Color", role="push button", name="Pick Color")
-    s.key("Tab", "Return")
-    s.expect_focus("Tab reaches the first line", role="push button", name=LINES[0])
+    step("shift+Tab shift+Tab Return", "the row's detail opens on its first line", "push button", LINES[0])
     s.expect_tree("detail", DETAIL)
-    for line in LINES[1:]:
-        s.key("Tab")
-        s.expect_focus(f"Tab reaches '{line}'", role="push button", name=line)
-    s.key("Tab")
-    s.expect_focus("Tab from the last line to the compared colour", role="combo box", name="#3366CC")
-    s.key("Tab")
-    s.expect_focus("Tab to the swap", role="push button", name="Swap text and background")
+    step(" ".join(["Tab"] * 8), "eight Tabs reach the last line", "push button", LINES[-1])
+    # No label beside the compared colour (the newest other, Sunset being the oldest): named by the colour.
+    step("Tab", "Tab from the last line to the compared colour", "combo box", "#3366CC")
+    step("Tab", "Tab to the swap", "push button", "Swap text and background")
     s.key("space")
-    s.check("a swap reads the results again",
-            bool(s.wait(lambda: s.find(role="label", name="APCA: Lc -22.1, dividers and disabled parts only"), 3)),
-            s.dump())
-    s.key("Tab")
-    s.expect_focus("Tab from the comparison to Back", role="push button", name="Back")
+    shows("a swap reads the results again", role="label", name="APCA: Lc -22.1, dividers and disabled parts only")
+    step("Tab", "Tab from the comparison to Back", "push button", "Back")
     s.key("Tab", "Return")
-    note = s.wait(lambda: s.find(role="notification", name="Copied #FF6B36"), 3)
-    s.check("the copy capsule is heard", note is not None, s.dump())
+    shows("the copy capsule is heard", role="notification", name="Copied #FF6B36")
     s.expect_focus("Tab reaches the first line", role="push button", name=LINES[0])
+    step("Escape", "Escape from the detail back to the row", "list item", SUNSET)
     s.key("Escape")
-    s.expect_focus("Escape from the detail back to the row", role="list item", name=SUNSET)
-    s.key("Escape")
-    s.check("Escape closes the popup from the row",
-            bool(s.wait(lambda: s.find(role="push button", name="Pick Color") is None, 3)), s.dump())
+    shows("Escape closes the popup from the row", gone=True, role="push button", name="Pick Color")
 
     # A pick from the keyboard: the loupe's value is heard as the pointer moves; Escape ends it.
-    s.key("alt+shift+x")
-    s.expect_focus("the popup opens once more on Pick Color", role="push button", name="Pick Color")
+    step("alt+shift+x", "the popup opens once more on Pick Color", "push button", "Pick Color")
     s.key("Return")
     s.wait(lambda: s.find(role="notification", prefix="#"), 5)
-    for x, y in [(200, 300), (400, 500)]:
-        subprocess.run(["xdotool", "mousemove", str(x), str(y)], check=True)
-        s.check(f"the loupe's value at {x},{y} is heard",
-                s.wait(lambda: s.find(role="notification", prefix="#"), 2) is not None, s.dump())
+    subprocess.run(["xdotool", "mousemove", "400", "500"], check=True)
+    shows("the loupe's value is heard as it moves", 2, role="notification", prefix="#")
     s.key("Escape")
-    s.check("the loupe's value goes with the loupe",
-            bool(s.wait(lambda: s.find(role="notification", prefix="#") is None, 2)), s.dump())
+    shows("the loupe's value goes with the loupe", 2, True, role="notification", prefix="#")
 
     # The settings from the popup's Settings button.
-    s.key("alt+shift+x")
-    s.expect_focus("the popup opens for the settings", role="push button", name="Pick Color")
+    step("alt+shift+x", "the popup opens for the settings", "push button", "Pick Color")
     s.key("Tab", "Tab", "space")
-    window = s.wait(lambda: s.find(role="dialog", name="Vantle Settings"), 10)
-    s.check("settings open", window is not None, s.dump())
-    s.expect_tree("tab list", [("page tab list", ""), ("page tab", "General"), ("page tab", "About"),
-                               ("page tab", "More Brindlework"), ("label", "Default format"),
-                               ("label", "History limit")])
-    general = s.find(role="page tab", name="General")
-    s.check("General is the selected tab",
-            general is not None and general.getState().contains(pyatspi.STATE_SELECTED))
+    shows("settings open", 10, role="dialog", name="Vantle Settings")
+    s.expect_tree("tab list", [("page tab list", ""), ("label", "Default format"), ("label", "History limit")])
+    selected("General")
     s.expect_focus("focus starts on the selected tab", role="page tab", name="General")
     for role, name in GENERAL_TAB_ORDER:
-        s.key("Tab")
-        s.expect_focus(f"Tab reaches {role} '{name}'", role=role, name=name)
+        step("Tab", f"Tab reaches {role} '{name}'", role, name)
 
     # The recorder: Return listens, a combination is recorded, then read after the name.
-    s.key("Tab")
-    s.expect_focus("back to the first control", role="combo box", name="Default format")
+    step("Tab", "back to the first control", "combo box", "Default format")
     chosen = s.find(role="combo box", name="Default format").queryText()
     s.check("the drop-down reads its entry", chosen.getText(0, -1) == "Hex", chosen.getText(0, -1))
-    s.key("Tab")
-    s.expect_focus("the pick recorder", role="push button", name="Pick color")
+    step("Tab", "the pick recorder", "push button", "Pick color")
     s.key("space")
     s.check("the recorder says it listens", description(s, "Pick color") == "Press shortcut…",
             str(description(s, "Pick color")))
@@ -262,17 +178,12 @@ with Session(files={"colorHistory.json": json.dumps(HISTORY)}) as s:
     s.check("the recorder says the combination", bool(recorded), str(description(s, "Pick color")))
 
     # Arrows move between the tabs and select them.
-    s.key("shift+Tab", "shift+Tab")
-    s.expect_focus("Shift+Tab back to the tab", role="page tab", name="General")
-    for tab, table in PAGES:
-        s.key("Right")
-        s.expect_focus(f"Right reaches {tab}", role="page tab", name=tab)
+    step("shift+Tab shift+Tab", "Shift+Tab back to the tab", "page tab", "General")
+    for tab in PAGES:
+        step("Right", f"Right reaches {tab}", "page tab", tab)
         s.key("space")
-        s.expect_tree(tab, table)
-        acc = s.find(role="page tab", name=tab)
-        s.check(f"{tab} is selected", acc is not None and acc.getState().contains(pyatspi.STATE_SELECTED))
+        selected(tab)
 
     s.key("Escape")
-    s.check("Escape closes the settings",
-            bool(s.wait(lambda: "Vantle Settings" not in s.dump(), 3)), s.dump())
+    shows("Escape closes the settings", gone=True, role="dialog", name="Vantle Settings")
     s.finish()

@@ -1,11 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Vantle as a person meets it, inside the private X desktop of tests/desktop/x11-session.sh
-# (openbox, trayer, private session bus): start, tray icon, a second start, the shortcuts at a
-# person's pace (keys held 80 ms, many picks in a row ended in every way with the welcome window
-# open, both shortcuts while the popup holds the keyboard, a pick from the popup's own button),
-# `vantle pick` onto the clipboard, the dot in the tray, the popup from the tray and from
-# `vantle toggle`, and quitting.
+# Vantle as a person meets it from start to quit, on the desktop of tests/desktop/x11-session.sh.
 #   VANTLE_BIN=... x11-session.sh tray-end-to-end.sh [SHOT_DIR]
 set -euo pipefail
 
@@ -20,15 +15,10 @@ for i in $(seq 10 49); do
         "$i" "$i" "$((700000000 - i))"
 done | paste -sd, | sed 's/^/[/; s/$/]/' >"$XDG_CONFIG_HOME/Vantle/colorHistory.json"
 
-# What a failure leaves to read: Vantle's messages, the windows of the tray and of Vantle.
 on_failure() {
     shot failure
     tail -n 20 "$home/vantle.log" >&2
     xwininfo -root -tree | grep -iE '"(trayer|vantle)"' >&2
-    kill -0 "${VANTLE_TRAY_PID:-0}" 2>/dev/null || echo "trayer is not running; it said:" >&2
-    tail -n 20 "${VANTLE_TRAY_LOG:-/dev/null}" >&2
-    kill -0 "${VANTLE_WM_PID:-0}" 2>/dev/null || echo "openbox is not running; it said:" >&2
-    tail -n 20 "${VANTLE_WM_LOG:-/dev/null}" >&2
 }
 press() { xdotool key --delay 80 "$1"; } # a person's press: each key held 80 ms
 # The tray icon: the window trayer embedded for us.
@@ -125,11 +115,7 @@ xdotool mousemove 100 700 click 1
 wait_for 10 clipboard_is '#FF6B36' || fail "clipboard holds \"$(xclip -o -selection clipboard)\", not #FF6B36"
 shot after-pick
 [[ $("$vantle" export) == *"#FF6B36"* ]] || fail "the history does not hold the colour: $("$vantle" export)"
-if ! wait_for 10 icon_shows FF6B36; then
-    [[ -n $shots ]] && import -window "$(tray_icon)" "$shots/tray-icon.png"
-    shot no-dot
-    fail "the tray icon ($(tray_icon)) shows no dot in the picked colour"
-fi
+wait_for 10 icon_shows FF6B36 || fail "the tray icon ($(tray_icon)) shows no dot in the picked colour"
 
 # A click on the tray icon opens the popup; a second one closes it.
 read -r icon_w icon_h icon_x icon_y < <(geometry "$(tray_icon)")
@@ -187,7 +173,6 @@ settings_fit() {
     eval "$(xdotool getwindowgeometry --shell "$(xdotool search --onlyvisible --name '^Vantle Settings$' | head -n1)")"
     ((Y >= 20 && Y + HEIGHT <= screen_h))
 }
-wait_for 5 settings_fit || fail "the settings window runs off the screen: $(xdotool search --onlyvisible \
-    --name '^Vantle Settings$' | head -n1 | xargs xdotool getwindowgeometry | tr "\n" " ")"
+wait_for 5 settings_fit || fail "the settings window runs off the screen"
 shot small-screen
 echo "PASS"

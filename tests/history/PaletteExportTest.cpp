@@ -23,12 +23,10 @@ TEST(PaletteExportTest, TextLayout)
             "Sunset: rgba(255, 107, 54, 1.0)" },
         { "empty name is no name", { makeColor(1, 0.42, 0.21, false, QString()) }, ColorFormat::rgb,
             "rgb(255, 107, 54)" },
-        { "slash and quote unchanged", { makeColor(0.2, 0.4, 0.8, false, QStringLiteral("a/b \"c\"")) },
-            ColorFormat::hex, "a/b \"c\": #3366CC" },
-        { "blanks kept, UTF-8", { makeColor(0.2, 0.4, 0.8, false, QStringLiteral(" Bleu océan ")) },
-            ColorFormat::hexLower,
-            " Bleu oc\xc3\xa9"
-            "an : #3366cc" },
+        { "slash, quote and blanks unchanged, UTF-8",
+            { makeColor(0.2, 0.4, 0.8, false, QStringLiteral(" a/b \"océan\" ")) }, ColorFormat::hexLower,
+            " a/b \"oc\xc3\xa9"
+            "an\" : #3366cc" },
         { "empty list", {}, ColorFormat::hex, "" },
     };
     for (const Case &c : cases) {
@@ -57,7 +55,6 @@ TEST(PaletteExportTest, JsonLayout)
     EXPECT_TRUE(exportJSON({ makeColor(0, 0, 0, false, QStringLiteral("a/b \"c\" \\ \t")) })
                     .contains("    \"name\" : \"a\\/b \\\"c\\\" \\\\ \\t\",\n"));
     EXPECT_FALSE(exportJSON({ makeColor(1, 1, 1, false, QString()) }).contains("name"));
-    EXPECT_EQ(exportJSON({}), "[\n\n]");
     EXPECT_EQ(exportJSON({ sunset, makeColor(0, 0, 0, false, QString(QChar(0xD800))) }), "[]")
         << "half a surrogate pair";
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "services/DiskImageCleanup.h"
-#include "support/Fakes.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,14 +18,24 @@ QByteArray losetupJson(const QList<std::pair<QString, QString>> &devices)
     return "{\"loopdevices\": [" + entries.join(u',').toUtf8() + "]}";
 }
 
+// Answers losetup from `listing` and udisksctl with noise; records every call as "program arg arg…".
+struct FakeCommandRunner : CommandRunner {
+    std::optional<QByteArray> run(const QString &program, const QStringList &arguments, bool) override
+    {
+        calls << (QStringList { program } + arguments).join(u' ');
+        return program == u"losetup" ? listing : QByteArray("noise");
+    }
+    QByteArray listing;
+    QStringList calls;
+};
+
 // A private machine: a home folder with its own Trash, a mount table, folders standing in for
-// mounted volumes, and losetup and udisksctl played by a fake runner.
+// mounted volumes.
 struct Machine {
     Machine()
     {
         qputenv("HOME", home().toLocal8Bit());
         qputenv("XDG_DATA_HOME", (home() + QStringLiteral("/.local/share")).toLocal8Bit());
-        runner->outputs.insert(QStringLiteral("udisksctl"), "noise");
     }
     QString home() const { return root.filePath(QStringLiteral("home")); }
     void writeFile(const QString &path, const QByteArray &content) const
@@ -93,9 +102,8 @@ TEST(DiskImageCleanup, DetachesAndTrashesTheFirstImageHoldingTheProgram)
     machine.volume(QStringLiteral("photos"), QStringLiteral("/dev/loop3"), false);
     machine.volume(QStringLiteral("Vantle 1.0"), QStringLiteral("/dev/loop4p1"));
     machine.volume(QStringLiteral("Vantle copy"), QStringLiteral("/dev/loop5"));
-    machine.runner->outputs.insert(QStringLiteral("losetup"),
-        losetupJson({ { QStringLiteral("/dev/loop3"), unrelated }, { QStringLiteral("/dev/loop4"), first },
-            { QStringLiteral("/dev/loop5"), second } }));
+    machine.runner->listing = losetupJson({ { QStringLiteral("/dev/loop3"), unrelated },
+        { QStringLiteral("/dev/loop4"), first }, { QStringLiteral("/dev/loop5"), second } });
 
     ASSERT_TRUE(machine.cleanup().start()); // in the background
     const QString trashed = machine.home() + QStringLiteral("/.local/share/Trash/files/Vantle 1.0.img");

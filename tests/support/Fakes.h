@@ -8,11 +8,9 @@
 #include "hotkeys/GlobalShortcutBackend.h"
 #include "model/PickedColor.h"
 #include "services/Appcast.h"
-#include "services/CommandRunner.h"
 #include "services/LoginItemService.h"
 #include "services/UpdateUserInterface.h"
 
-#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -40,7 +38,6 @@ public:
         ++pickCount;
         pending = std::move(completion);
     }
-    bool isOpen() const { return bool(pending); }
     void finish(double red, double green, double blue, double alpha = 1.0)
     {
         answer(SampledColor { red, green, blue, alpha });
@@ -185,18 +182,4 @@ public:
     bool readyWasAutomatic = false;
     int progressReports = 0;
     bool downloading = false;
-};
-
-// Answers each program from `outputs` (a program missing there could not be started) and
-// records every call as "program arg arg…".
-class FakeCommandRunner : public CommandRunner {
-public:
-    std::optional<QByteArray> run(const QString &program, const QStringList &arguments, bool) override
-    {
-        calls << (QStringList { program } + arguments).join(QLatin1Char(' '));
-        return outputs.contains(program) ? std::optional(outputs.value(program)) : std::nullopt;
-    }
-
-    QHash<QString, QByteArray> outputs;
-    QStringList calls;
 };

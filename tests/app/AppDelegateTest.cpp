@@ -11,7 +11,6 @@
 #include "screens/SettingsView.h"
 #include "screens/SettingsWindow.h"
 #include "services/PreferenceKeys.h"
-#include "services/Preferences.h"
 #include "support/Fakes.h"
 #include "support/TempSettings.h"
 
@@ -63,25 +62,15 @@ TEST_F(AppDelegateTest, OnlyAnUnsetShortcutIsSeeded)
     }
 }
 
-TEST_F(AppDelegateTest, FirstLaunchGreetsAndTheNextFindsTheHistory)
+TEST_F(AppDelegateTest, OnlyTheFirstLaunchGreets)
 {
     launch();
-    EXPECT_EQ(Preferences::popoverShortcut.read(*settings.store),
-        (StoredShortcut { 7, 655360, QStringLiteral("X") }));
-    EXPECT_EQ(shortcuts.registered.size(), 2) << "the seeded shortcuts are live at once";
     ASSERT_NE(delegate->onboardingWindow(), nullptr);
     EXPECT_TRUE(delegate->onboardingWindow()->isVisible());
-    EXPECT_TRUE(loginItems.enabled) << "launch at login is on by default";
-    delegate->pickColor();
-    sampler.finish(1.0, 0.42, 0.21);
-    EXPECT_EQ(clipboard.current(), QStringLiteral("#FF6B36"));
     delegate.reset();
-
     settings.store->setBool(onboardingShown, true); // as the welcome's Get Started does
     launch();
-    EXPECT_EQ(delegate->onboardingWindow(), nullptr); // welcomed once
-    ASSERT_EQ(delegate->viewModel()->colors().size(), 1);
-    EXPECT_EQ(delegate->viewModel()->colors().first().formatted(ColorFormat::hex), QStringLiteral("#FF6B36"));
+    EXPECT_EQ(delegate->onboardingWindow(), nullptr);
 }
 
 TEST_F(AppDelegateTest, ShortcutsFireTheirReactionsAfterTheSignalAndQuitReleasesThem)

@@ -38,7 +38,6 @@ pid=$! && pids+=("$pid")
 wait_for 20 tray_icon || fail "no tray icon appeared"
 # The first run greets with the welcome window.
 wait_for 20 xdotool search --onlyvisible --name '^Welcome to vantle$' || fail "no welcome window"
-shot start
 
 # Second start: asks the first to toggle its popup and ends (one that kept running would meet the
 # timeout); simultaneous starts are two-instances.sh's.
@@ -113,7 +112,6 @@ timeout 20 "$vantle" pick || fail "vantle pick failed"
 wait_for 20 loupe_shown || fail "no loupe came up"
 xdotool mousemove 100 700 click 1
 wait_for 10 clipboard_is '#FF6B36' || fail "clipboard holds \"$(xclip -o -selection clipboard)\", not #FF6B36"
-shot after-pick
 [[ $("$vantle" export) == *"#FF6B36"* ]] || fail "the history does not hold the colour: $("$vantle" export)"
 wait_for 10 icon_shows FF6B36 || fail "the tray icon ($(tray_icon)) shows no dot in the picked colour"
 

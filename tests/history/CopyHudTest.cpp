@@ -11,9 +11,6 @@
 #include <QWidget>
 #include <gtest/gtest.h>
 
-// Runs on the offscreen platform with the other widget tests, and under a real X server with
-// a window manager (the desktop test), where the X-only checks run too.
-
 namespace {
 
 const QString sampleMessage = QStringLiteral("Copied #FF6B36");
@@ -124,7 +121,6 @@ TEST_F(CopyHudTest, NeverTakesFocusAndLetsClicksThrough)
             QStringLiteral("click"), QStringLiteral("1") });
     QTRY_COMPARE_WITH_TIMEOUT(editor.presses, 1, 10000);
     EXPECT_TRUE(window); // still showing: the click went through it
-    EXPECT_EQ(QApplication::activeWindow(), &editor);
     EXPECT_EQ(run(QStringLiteral("xdotool"), { QStringLiteral("getwindowfocus") }), editorId);
 }
 

@@ -38,19 +38,10 @@ TEST(PaletteExportTest, TextLayout)
 TEST(PaletteExportTest, JsonLayout)
 {
     EXPECT_EQ(exportJSON({ sunset, blue }),
-        "[\n"
-        "  {\n"
-        "    \"hex\" : \"#FF6B36\",\n"
-        "    \"hsl\" : \"hsl(16, 100%, 61%)\",\n"
-        "    \"name\" : \"Sunset\",\n"
-        "    \"rgb\" : \"rgb(255, 107, 54)\"\n"
-        "  },\n"
-        "  {\n"
-        "    \"hex\" : \"#3366CC\",\n"
-        "    \"hsl\" : \"hsl(220, 60%, 50%)\",\n"
-        "    \"rgb\" : \"rgb(51, 102, 204)\"\n"
-        "  }\n"
-        "]");
+        "[\n  {\n    \"hex\" : \"#FF6B36\",\n    \"hsl\" : \"hsl(16, 100%, 61%)\",\n"
+        "    \"name\" : \"Sunset\",\n    \"rgb\" : \"rgb(255, 107, 54)\"\n  },\n  {\n"
+        "    \"hex\" : \"#3366CC\",\n    \"hsl\" : \"hsl(220, 60%, 50%)\",\n"
+        "    \"rgb\" : \"rgb(51, 102, 204)\"\n  }\n]");
     // Slash, quote, backslash and control characters escaped; an empty name is no name.
     EXPECT_TRUE(exportJSON({ makeColor(0, 0, 0, false, QStringLiteral("a/b \"c\" \\ \t")) })
                     .contains("    \"name\" : \"a\\/b \\\"c\\\" \\\\ \\t\",\n"));

@@ -10,14 +10,6 @@
 
 namespace {
 
-QByteArray losetupJson(const QList<std::pair<QString, QString>> &devices)
-{
-    QStringList entries;
-    for (const auto &[device, file] : devices)
-        entries << QStringLiteral(R"({"name": "%1", "ro": true, "back-file": "%2"})").arg(device, file);
-    return "{\"loopdevices\": [" + entries.join(u',').toUtf8() + "]}";
-}
-
 // Answers losetup from `listing` and udisksctl with noise; records every call as "program arg arg…".
 struct FakeCommandRunner : CommandRunner {
     std::optional<QByteArray> run(const QString &program, const QStringList &arguments, bool) override
@@ -102,8 +94,10 @@ TEST(DiskImageCleanup, DetachesAndTrashesTheFirstImageHoldingTheProgram)
     machine.volume(QStringLiteral("photos"), QStringLiteral("/dev/loop3"), false);
     machine.volume(QStringLiteral("Vantle 1.0"), QStringLiteral("/dev/loop4p1"));
     machine.volume(QStringLiteral("Vantle copy"), QStringLiteral("/dev/loop5"));
-    machine.runner->listing = losetupJson({ { QStringLiteral("/dev/loop3"), unrelated },
-        { QStringLiteral("/dev/loop4"), first }, { QStringLiteral("/dev/loop5"), second } });
+    machine.runner->listing = QStringLiteral(R"({"loopdevices": [{"name": "/dev/loop3", "back-file": "%1"},
+        {"name": "/dev/loop4", "back-file": "%2"}, {"name": "/dev/loop5", "back-file": "%3"}]})")
+                                  .arg(unrelated, first, second)
+                                  .toUtf8();
 
     ASSERT_TRUE(machine.cleanup().start()); // in the background
     const QString trashed = machine.home() + QStringLiteral("/.local/share/Trash/files/Vantle 1.0.img");

@@ -77,19 +77,15 @@ TEST(SettingsStore, ValuesSurviveTheNextLaunchWithTheirTypes)
     EXPECT_EQ(s.stringForKey(skippedUpdateVersion), QStringLiteral("1.2.0"));
     const QByteArray blob = "[{\"name\":\"a/b \\\"q\\\" = ; # [x]\"}]\n\xc3\xa9\x00\xff";
     t.store->setData(colorHistory, blob);
-    t.store->setInteger(pickModifiers, 655360);
     t.store->setInteger(pickKeyCode, -1);
     t.store->setString(pickKeyChar, QStringLiteral("C"));
     t.store->setBool(showColorDot, true);
-    t.store->setBool(launchAtLogin, false);
 
     const auto next = t.reopen();
     EXPECT_EQ(next->dataForKey(colorHistory), blob);
-    EXPECT_EQ(next->integerForKey(pickModifiers), 655360);
     EXPECT_EQ(next->integerForKey(pickKeyCode), -1);
     EXPECT_EQ(next->stringForKey(pickKeyChar), QStringLiteral("C"));
     EXPECT_TRUE(next->boolForKey(showColorDot));
-    EXPECT_FALSE(next->boolForKey(launchAtLogin));
     EXPECT_EQ(next->dataForKey(pickKeyChar), std::nullopt); // a text value is not data
     // Data leaves the settings file for its own at the first write.
     EXPECT_EQ(contents(t.dir.filePath(QStringLiteral("colorHistory.json"))), blob);

@@ -18,19 +18,6 @@ using Choice = UpdateUserInterface::Choice;
 
 namespace {
 
-QByteArray appcast(const QString &version, const QString &url, qint64 length, const QString &signature)
-{
-    return QStringLiteral(R"(<?xml version="1.0" encoding="utf-8"?>
-<rss version="2.0" xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>
-<item><title>Vantle %1</title><sparkle:version>%1</sparkle:version>
-<description><![CDATA[<ul><li>Faster picking</li></ul>]]></description>
-<enclosure url="%2" length="%3" sparkle:edSignature="%4"/></item></channel></rss>)")
-        .arg(version, url)
-        .arg(length)
-        .arg(signature)
-        .toUtf8();
-}
-
 class UpdaterControllerTest : public ::testing::Test {
 protected:
     std::unique_ptr<UpdaterController> makeController(std::optional<QString> feedUrl = std::nullopt)
@@ -55,8 +42,9 @@ protected:
         server.serve(QStringLiteral("/Vantle-2.0.tar.gz"), { 200, served });
         server.serve(QStringLiteral("/appcast.xml"),
             { 200,
-                appcast(QStringLiteral("2.0"), server.url(QStringLiteral("/Vantle-2.0.tar.gz")),
-                    announcedLength, signature) });
+                UpdateSigning::appcast(UpdateSigning::appcastItem("2.0",
+                    server.url(QStringLiteral("/Vantle-2.0.tar.gz")).toUtf8(), announcedLength,
+                    signature.toUtf8())) });
     }
 
     TempSettings settings;
@@ -83,8 +71,7 @@ TEST_F(UpdaterControllerTest, WithoutAFeedAddressTheBoxShowsAtOnceWithoutNetwork
 // Which feeds hold a release is AppcastTest's; here, what the transfer can do to a check.
 TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
 {
-    const QByteArray newer
-        = appcast(QStringLiteral("2.0"), QStringLiteral("https://e.org/v.tgz"), 10, "c2ln");
+    const QByteArray newer = UpdateSigning::appcast(UpdateSigning::appcastItem("2.0"));
     struct Case {
         const char *what;
         LocalHttpServer::Response response;
@@ -104,7 +91,7 @@ TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
         checkAndWait(*makeController());
         EXPECT_EQ(ui.offered.size(), c.offered ? 1 : 0);
         EXPECT_EQ(ui.upToDateTexts.size(), c.offered ? 0 : 1);
-        EXPECT_EQ(ui.offered.value(0).releaseNotes, c.offered ? u"<ul><li>Faster picking</li></ul>" : u"");
+        EXPECT_EQ(ui.offered.value(0).releaseNotes, c.offered ? u"<p>Notes 2.0</p>" : u"");
     }
 }
 

@@ -11,7 +11,6 @@ public:
     ManualAnimationDriver() { install(); }
     ~ManualAnimationDriver() override { uninstall(); }
 
-    qint64 now() const { return m_now; }
     qint64 elapsed() const override { return m_now - m_startedAt; }
 
     // Moves the clock forward to `ms`, one frame at a time.

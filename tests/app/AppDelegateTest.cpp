@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The launch sequence and the reactions of the tray program, with the desktop's facilities
-// played by fakes (offscreen: no tray host, so the delegate stays in its waiting state).
+// Offscreen there is no tray host: the delegate stays in its waiting state.
 #include "app/AppDelegate.h"
-#include "app/PopupWindow.h"
-#include "history/ColorListViewModel.h"
 #include "platform/network/QtUpdateNetwork.h"
 #include "platform/portal/AppearanceMonitor.h"
 #include "screens/DialogUpdateInterface.h"
 #include "screens/OnboardingWindow.h"
-#include "screens/SettingsView.h"
-#include "screens/SettingsWindow.h"
 #include "services/PreferenceKeys.h"
 #include "support/Fakes.h"
 #include "support/TempSettings.h"
@@ -30,7 +25,6 @@ protected:
                 confirmation, dialogs, shortcuts, loginItems, appearance, network, updateInterface, false });
         delegate->applicationDidFinishLaunching();
     }
-    QStringList registrations() const { return shortcuts.calls.filter(QStringLiteral("register")); }
 
     TempSettings settings;
     FakeShortcutBackend shortcuts;
@@ -52,7 +46,6 @@ TEST_F(AppDelegateTest, OnlyAnUnsetShortcutIsSeeded)
         SCOPED_TRACE(c.stored);
         settings.store->setInteger(pickKeyCode, c.stored);
         settings.store->setInteger(pickModifiers, 4096);
-        shortcuts.calls.clear();
         shortcuts.registered.clear();
         launch();
         EXPECT_EQ(settings.store->integerForKey(pickKeyCode), c.expected);
@@ -76,8 +69,7 @@ TEST_F(AppDelegateTest, OnlyTheFirstLaunchGreets)
 TEST_F(AppDelegateTest, ShortcutsFireTheirReactionsAfterTheSignalAndQuitReleasesThem)
 {
     launch();
-    const int pickId = shortcuts.registered.first().id;
-    shortcuts.press(pickId);
+    shortcuts.press(shortcuts.registered.first().id);
     EXPECT_EQ(sampler.pickCount, 0); // not inside the shortcut's signal
     QTRY_COMPARE(sampler.pickCount, 1); // a second trigger during the pick is the model's test
     sampler.cancel();

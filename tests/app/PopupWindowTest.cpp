@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the popup opens: beside the tray icon on the side away from the panel, near the pointer
-// when the icon's place is unknown, always whole on the screen's available area and off the
-// icon; and when its content is built.
 #include "app/PopupWindow.h"
 
 #include <QCoreApplication>
@@ -62,7 +59,6 @@ TEST(PopupWindowContent, IsBuiltWhenThePopupFirstOpens)
     popup.popUp(QRect());
     EXPECT_EQ(built, 1) << "reopening keeps the content";
 
-    // New content while open replaces the old at once.
     popup.setContent([] { return new QLabel(QStringLiteral("next")); });
     EXPECT_TRUE(qobject_cast<QLabel *>(popup.content()));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

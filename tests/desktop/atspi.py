@@ -45,16 +45,14 @@ class Session:
             print("SKIP: at-spi2-core or xdotool is missing", file=sys.stderr)
             sys.exit(77)
         self.home = tempfile.mkdtemp()
-        env = dict(os.environ)
-        env.pop("NO_AT_BRIDGE", None)
+        env = {key: value for key, value in os.environ.items() if key != "NO_AT_BRIDGE"}
         env.update(HOME=self.home, XDG_CONFIG_HOME=f"{self.home}/config",
                    XDG_DATA_HOME=f"{self.home}/data", XDG_RUNTIME_DIR=f"{self.home}/run",
                    QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_ACCESSIBILITY="1")
-        os.makedirs(f"{self.home}/config/Vantle")
         os.makedirs(f"{self.home}/run", mode=0o700)
+        os.makedirs(f"{self.home}/config/Vantle")
         for name, text in self.files.items():
-            with open(f"{self.home}/config/Vantle/{name}", "w") as seeded:
-                seeded.write(text)
+            open(f"{self.home}/config/Vantle/{name}", "w").write(text)
         self.procs.append(subprocess.Popen([BUS_LAUNCHER, "--launch-immediately"], env=env,
                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         time.sleep(0.5)
@@ -66,9 +64,7 @@ class Session:
         return self
 
     def __exit__(self, kind, value, tb):
-        if kind is None:
-            self.finish()
-        self.stop()
+        self.finish() if kind is None else self.stop()
 
     def stop(self):
         for proc in reversed(self.procs):

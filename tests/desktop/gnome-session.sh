@@ -5,12 +5,11 @@
 # DESKTOP_DRIVER, a person at the desktop (gnome-driver.py; verbs: tests/platform/desktop-checks.sh).
 set -euo pipefail
 
-skip() { echo "SKIP: $*" >&2; exit 77; }
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/wait-for.sh"
 
 if [[ -z "${VANTLE_IN_GNOME_SESSION:-}" ]]; then
-    command -v gnome-shell >/dev/null || skip "gnome-shell is not installed (scripts/packages/test.txt)"
+    command -v gnome-shell >/dev/null || { echo "SKIP: gnome-shell is not installed" >&2; exit 77; }
     dir=$(mktemp -d "${TMPDIR:-/tmp}/vantle-gnome.XXXXXX")
     status=0
     env -u DISPLAY -u WAYLAND_DISPLAY -u XAUTHORITY VANTLE_IN_GNOME_SESSION=1 XDG_RUNTIME_DIR="$dir" \

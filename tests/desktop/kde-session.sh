@@ -16,7 +16,6 @@ frontend=/usr/libexec/xdg-desktop-portal
 if [[ -z "${VANTLE_IN_KDE_SESSION:-}" ]]; then
     command -v kwin_wayland >/dev/null || skip "KWin is not installed (apt-get install kwin-wayland)"
     [[ -x $portal_kde && -x $frontend ]] || skip "the KDE portal is not installed (apt-get install xdg-desktop-portal-kde)"
-    command -v dbus-run-session >/dev/null || skip "dbus-run-session is not installed (apt-get install dbus)"
     [[ -x ${KDE_DESKTOP_DRIVER:-} ]] || skip "KDE_DESKTOP_DRIVER names no driver"
     # KWin's file capability lies outside a container's bounding set, where exec of the
     # installed binary fails: a plain copy runs anywhere.

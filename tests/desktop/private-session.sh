@@ -17,12 +17,8 @@ private_session() {
     chmod 0700 "$session_dir"
     mkdir -p "$session_dir/bin"
     bring() { # bring FILE: prints a path the session user can read
-        if [[ -f "$1" && ${#run_as[@]} -gt 0 ]] && ! "${run_as[@]}" test -r "$1"; then
-            cp -p "$1" "$session_dir/bin/"
-            echo "$session_dir/bin/$(basename "$1")"
-        else
-            echo "$1"
-        fi
+        [[ -f "$1" && ${#run_as[@]} -gt 0 ]] && ! "${run_as[@]}" test -r "$1" \
+            && cp -p "$1" "$session_dir/bin/" && echo "$session_dir/bin/${1##*/}" || echo "$1"
     }
     script=$(bring "$1")
     local args=()

@@ -12,7 +12,6 @@ source "$(dirname "${BASH_SOURCE[0]}")/private-session.sh"
 if [[ -z "${VANTLE_IN_SWAY_SESSION:-}" ]]; then
     command -v sway >/dev/null || skip "sway is not installed (apt-get install sway)"
     command -v wl-paste >/dev/null || skip "wl-clipboard is not installed (apt-get install wl-clipboard)"
-    command -v dbus-run-session >/dev/null || skip "dbus-run-session is not installed (apt-get install dbus)"
     private_session VANTLE_IN_SWAY_SESSION "$0" "$@"
 fi
 

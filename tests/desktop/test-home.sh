@@ -5,17 +5,13 @@
 source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 
 pids=()
-test_home_cleanup() {
-    end_started
-    remove_tree "$home"
-}
 fail() {
     echo "FAIL: $*" >&2
     [[ $(type -t on_failure) != function ]] || on_failure || true
     exit 1
 }
 trap 'status=$?; echo "FAIL: line $LINENO: \"$BASH_COMMAND\" ended with status $status" >&2' ERR
-trap test_home_cleanup EXIT
+trap 'end_started; remove_tree "$home"' EXIT
 
 # Under Wayland the session's runtime folder holds the compositor's socket, so it stays.
 if [[ -n ${WAYLAND_DISPLAY:-} ]]; then

@@ -4,6 +4,12 @@
 # desktop (Xvfb, openbox, trayer as XEmbed tray; VANTLE_TRAY_PID) on a private session bus.
 set -euo pipefail
 
+command -v Xvfb >/dev/null || { echo "SKIP: Xvfb is not installed (apt-get install xvfb)" >&2; exit 77; }
+if [[ -z "${VANTLE_IN_DBUS:-}" ]]; then # again on a private session bus that ends with us
+    # A plain X11 desktop: the portal frontend that reading the appearance activates finds no
+    # backend, rather than starting GNOME's or KDE's (installed for their own tests) to fail here.
+    VANTLE_IN_DBUS=1 XDG_DESKTOP_PORTAL_DIR=/nonexistent/vantle-x11-test exec dbus-run-session -- "$0" "$@"
+fi
 size=1280x800x24
 tray=1
 while [[ $# -gt 0 ]]; do
@@ -14,29 +20,9 @@ while [[ $# -gt 0 ]]; do
     esac
 done
 
-if ! command -v Xvfb >/dev/null; then
-    echo "SKIP: Xvfb is not installed (apt-get install xvfb)" >&2
-    exit 77
-fi
-
-if [[ -z "${VANTLE_IN_DBUS:-}" ]]; then
-    # Re-run under a private session bus that ends with us.
-    export VANTLE_IN_DBUS=1
-    # A plain X11 desktop: the portal frontend that reading the appearance activates finds no
-    # backend, rather than starting GNOME's or KDE's (installed for their own tests) to fail here.
-    export XDG_DESKTOP_PORTAL_DIR=/nonexistent/vantle-x11-test
-    args=(--size "${size%x24}")
-    [[ $tray == 0 ]] && args+=(--no-tray)
-    exec dbus-run-session -- "$0" "${args[@]}" "$@"
-fi
-
 source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 pids=()
-cleanup() {
-    end_started
-    [[ -n "${fifo_dir:-}" ]] && rm -rf "$fifo_dir"
-}
-trap cleanup EXIT
+trap 'end_started; rm -rf "${fifo_dir:-/nonexistent}"' EXIT
 
 # Let Xvfb pick a free display and tell us its number, so parallel tests never collide.
 fifo_dir=$(mktemp -d)

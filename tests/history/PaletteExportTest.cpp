@@ -18,9 +18,8 @@ TEST(PaletteExportTest, TextLayout)
         QByteArray expected;
     };
     const Case cases[] = {
-        { "named and unnamed", { sunset, blue }, ColorFormat::hex, "Sunset: #FF6B36\n#3366CC" },
-        { "the given format, no final line feed", { sunset }, ColorFormat::css,
-            "Sunset: rgba(255, 107, 54, 1.0)" },
+        { "named and unnamed in the given format, no final line feed", { sunset, blue }, ColorFormat::css,
+            "Sunset: rgba(255, 107, 54, 1.0)\nrgba(51, 102, 204, 1.0)" },
         { "empty name is no name", { makeColor(1, 0.42, 0.21, false, QString()) }, ColorFormat::rgb,
             "rgb(255, 107, 54)" },
         { "slash, quote and blanks unchanged, UTF-8",
@@ -46,8 +45,7 @@ TEST(PaletteExportTest, JsonLayout)
     EXPECT_TRUE(exportJSON({ makeColor(0, 0, 0, false, QStringLiteral("a/b \"c\" \\ \t")) })
                     .contains("    \"name\" : \"a\\/b \\\"c\\\" \\\\ \\t\",\n"));
     EXPECT_FALSE(exportJSON({ makeColor(1, 1, 1, false, QString()) }).contains("name"));
-    EXPECT_EQ(exportJSON({ sunset, makeColor(0, 0, 0, false, QString(QChar(0xD800))) }), "[]")
-        << "half a surrogate pair";
+    EXPECT_EQ(exportJSON({ sunset, makeColor(0, 0, 0, false, QString(QChar(0xD800))) }), "[]"); // half a pair
 }
 
 } // namespace

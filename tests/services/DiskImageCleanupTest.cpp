@@ -21,8 +21,7 @@ struct FakeCommandRunner : CommandRunner {
     QStringList calls;
 };
 
-// A private machine: a home folder with its own Trash, a mount table, folders standing in for
-// mounted volumes.
+// A private machine: a home with its own Trash, a mount table, folders as mounted volumes.
 struct Machine {
     Machine()
     {
@@ -36,7 +35,6 @@ struct Machine {
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     }
-    // A mounted volume of `device`, holding the program or not.
     void volume(const QString &name, const QString &device, bool holdsProgram = true)
     {
         const QString mountPoint = root.filePath(QStringLiteral("media/") + name);
@@ -75,7 +73,6 @@ TEST(DiskImageCleanup, OnlyALaunchFromAnApplicationsFolderStartsTheCleanUp)
         bool starts;
     } cases[] = {
         { "~/Applications/Vantle.AppImage", true },
-        { "/usr/bin/vantle", false },
         { "~/Downloads/Vantle.AppImage", false },
         { "/media/u/Vantle/Applications/Vantle.AppImage", false },
     };

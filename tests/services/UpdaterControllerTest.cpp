@@ -15,6 +15,7 @@
 
 using namespace std::chrono_literals;
 using Choice = UpdateUserInterface::Choice;
+using UpdateSigning::appcast, UpdateSigning::appcastItem;
 
 namespace {
 
@@ -37,14 +38,14 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor(
             [&] { return ui.outcomes() >= expectedOutcomes && controller.canCheckForUpdates(); }, 10000));
     }
-    void serveRelease(const QByteArray &served, qint64 announcedLength, const QString &signature)
+    void serveRelease(const QByteArray &served)
     {
         server.serve(QStringLiteral("/Vantle-2.0.tar.gz"), { 200, served });
+        const QByteArray url = server.url(QStringLiteral("/Vantle-2.0.tar.gz")).toUtf8();
         server.serve(QStringLiteral("/appcast.xml"),
             { 200,
-                UpdateSigning::appcast(UpdateSigning::appcastItem("2.0",
-                    server.url(QStringLiteral("/Vantle-2.0.tar.gz")).toUtf8(), announcedLength,
-                    signature.toUtf8())) });
+                appcast(appcastItem(
+                    "2.0", url, installer.size(), UpdateSigning::sign(installer, keys).toUtf8())) });
     }
 
     TempSettings settings;
@@ -61,9 +62,8 @@ protected:
 TEST_F(UpdaterControllerTest, WithoutAFeedAddressTheBoxShowsAtOnceWithoutNetwork)
 {
     for (const QString &address :
-        { QString(), QStringLiteral("not an address"), QStringLiteral("ftp://e.org/a") }) {
+        { QString(), QStringLiteral("not an address"), QStringLiteral("ftp://e.org/a") })
         makeController(address)->checkForUpdates();
-    }
     EXPECT_EQ(ui.upToDateTexts, QStringList(3, QStringLiteral("Vantle 1.4")));
     EXPECT_EQ(server.requestCount(), 0);
 }
@@ -71,7 +71,7 @@ TEST_F(UpdaterControllerTest, WithoutAFeedAddressTheBoxShowsAtOnceWithoutNetwork
 // Which feeds hold a release is AppcastTest's; here, what the transfer can do to a check.
 TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
 {
-    const QByteArray newer = UpdateSigning::appcast(UpdateSigning::appcastItem("2.0"));
+    const QByteArray newer = appcast(appcastItem("2.0"));
     struct Case {
         const char *what;
         LocalHttpServer::Response response;
@@ -103,27 +103,19 @@ TEST_F(UpdaterControllerTest, ADownloadIsKeptOnlyWhenVerifiedAndNeverOverwritesA
     mine.close();
     QByteArray tampered = installer;
     tampered[1000] = char(tampered[1000] ^ 0x40);
-    const struct {
-        const char *what;
-        QByteArray served;
-        qint64 announced;
-        bool kept;
-    } cases[] = {
-        { "good", installer, installer.size(), true },
-        { "tampered", tampered, installer.size(), false },
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const QByteArray &served : { installer, tampered }) {
+        const bool kept = served == installer;
+        SCOPED_TRACE(kept ? "good" : "tampered");
         ui = FakeUpdateInterface();
         ui.answer = Choice::download;
-        serveRelease(c.served, c.announced, UpdateSigning::sign(installer, keys));
+        serveRelease(served);
         checkAndWait(*makeController(), 2);
         EXPECT_FALSE(ui.downloading);
-        EXPECT_EQ(ui.readyFiles.size(), c.kept ? 1 : 0);
-        EXPECT_EQ(ui.failures.size(), c.kept ? 0 : 1);
+        EXPECT_EQ(ui.readyFiles.size(), kept ? 1 : 0);
+        EXPECT_EQ(ui.failures.size(), kept ? 0 : 1);
         const QStringList files = QDir(downloads.path()).entryList(QDir::Files | QDir::Hidden);
-        EXPECT_EQ(files.size(), c.kept ? 2 : 1) << files.join(u',').toStdString();
-        if (c.kept) {
+        EXPECT_EQ(files.size(), kept ? 2 : 1) << files.join(u',').toStdString();
+        if (kept) {
             EXPECT_EQ(QFileInfo(ui.readyFiles[0]).fileName(), QStringLiteral("Vantle-2.0.tar (2).gz"));
             EXPECT_FALSE(ui.readyWasAutomatic);
             EXPECT_GT(ui.progressReports, 0);
@@ -138,7 +130,7 @@ TEST_F(UpdaterControllerTest, ADownloadIsKeptOnlyWhenVerifiedAndNeverOverwritesA
 
 TEST_F(UpdaterControllerTest, BackgroundChecksDownloadOrOfferAndStayQuietWhenSkipped)
 {
-    serveRelease(installer, installer.size(), UpdateSigning::sign(installer, keys));
+    serveRelease(installer);
     const struct {
         std::optional<bool> automatic; // none: never set, which means on
         bool skipped;

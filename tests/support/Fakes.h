@@ -19,7 +19,6 @@
 // One stand-in per desktop facility, driven by tests. The clock is ManualAnimationDriver.h; the
 // network is a real one talking to LocalHttpServer.h.
 
-// A colour picked now.
 inline PickedColor makeColor(
     double r, double g, double b, bool pinned = false, std::optional<QString> name = std::nullopt)
 {
@@ -38,10 +37,7 @@ public:
         ++pickCount;
         pending = std::move(completion);
     }
-    void finish(double red, double green, double blue, double alpha = 1.0)
-    {
-        answer(SampledColor { red, green, blue, alpha });
-    }
+    void finish(double red, double green, double blue) { answer(SampledColor { red, green, blue, 1.0 }); }
     void cancel() { answer(std::nullopt); }
     void answer(std::optional<SampledColor> sample)
     {

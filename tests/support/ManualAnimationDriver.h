@@ -13,7 +13,6 @@ public:
 
     qint64 elapsed() const override { return m_now - m_startedAt; }
 
-    // Moves the clock forward to `ms`, one frame at a time.
     void advanceTo(qint64 ms)
     {
         QCoreApplication::processEvents(); // animations start on a queued call

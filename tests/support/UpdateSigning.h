@@ -36,7 +36,6 @@ inline QString sign(const QByteArray &content, const KeyPair &keys)
     return QString::fromLatin1(signature.toBase64());
 }
 
-// A feed as the maker publishes it, holding `items`.
 inline QByteArray appcast(const QByteArray &items)
 {
     return R"(<?xml version="1.0" encoding="utf-8"?>

@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The launch sequence and the reactions of the tray program, with the desktop's facilities
-// played by fakes (offscreen: no tray host, so the delegate stays in its waiting state).
+// Offscreen there is no tray host: the delegate stays in its waiting state.
 #include "app/AppDelegate.h"
-#include "app/PopupWindow.h"
-#include "history/ColorListViewModel.h"
 #include "platform/network/QtUpdateNetwork.h"
 #include "platform/portal/AppearanceMonitor.h"
 #include "screens/DialogUpdateInterface.h"
 #include "screens/OnboardingWindow.h"
-#include "screens/SettingsView.h"
-#include "screens/SettingsWindow.h"
 #include "services/PreferenceKeys.h"
-#include "services/Preferences.h"
 #include "support/Fakes.h"
 #include "support/TempSettings.h"
 
@@ -31,7 +25,6 @@ protected:
                 confirmation, dialogs, shortcuts, loginItems, appearance, network, updateInterface, false });
         delegate->applicationDidFinishLaunching();
     }
-    QStringList registrations() const { return shortcuts.calls.filter(QStringLiteral("register")); }
 
     TempSettings settings;
     FakeShortcutBackend shortcuts;
@@ -53,7 +46,6 @@ TEST_F(AppDelegateTest, OnlyAnUnsetShortcutIsSeeded)
         SCOPED_TRACE(c.stored);
         settings.store->setInteger(pickKeyCode, c.stored);
         settings.store->setInteger(pickModifiers, 4096);
-        shortcuts.calls.clear();
         shortcuts.registered.clear();
         launch();
         EXPECT_EQ(settings.store->integerForKey(pickKeyCode), c.expected);
@@ -63,32 +55,21 @@ TEST_F(AppDelegateTest, OnlyAnUnsetShortcutIsSeeded)
     }
 }
 
-TEST_F(AppDelegateTest, FirstLaunchGreetsAndTheNextFindsTheHistory)
+TEST_F(AppDelegateTest, OnlyTheFirstLaunchGreets)
 {
     launch();
-    EXPECT_EQ(Preferences::popoverShortcut.read(*settings.store),
-        (StoredShortcut { 7, 655360, QStringLiteral("X") }));
-    EXPECT_EQ(shortcuts.registered.size(), 2) << "the seeded shortcuts are live at once";
     ASSERT_NE(delegate->onboardingWindow(), nullptr);
     EXPECT_TRUE(delegate->onboardingWindow()->isVisible());
-    EXPECT_TRUE(loginItems.enabled) << "launch at login is on by default";
-    delegate->pickColor();
-    sampler.finish(1.0, 0.42, 0.21);
-    EXPECT_EQ(clipboard.current(), QStringLiteral("#FF6B36"));
     delegate.reset();
-
     settings.store->setBool(onboardingShown, true); // as the welcome's Get Started does
     launch();
-    EXPECT_EQ(delegate->onboardingWindow(), nullptr); // welcomed once
-    ASSERT_EQ(delegate->viewModel()->colors().size(), 1);
-    EXPECT_EQ(delegate->viewModel()->colors().first().formatted(ColorFormat::hex), QStringLiteral("#FF6B36"));
+    EXPECT_EQ(delegate->onboardingWindow(), nullptr);
 }
 
 TEST_F(AppDelegateTest, ShortcutsFireTheirReactionsAfterTheSignalAndQuitReleasesThem)
 {
     launch();
-    const int pickId = shortcuts.registered.first().id;
-    shortcuts.press(pickId);
+    shortcuts.press(shortcuts.registered.first().id);
     EXPECT_EQ(sampler.pickCount, 0); // not inside the shortcut's signal
     QTRY_COMPARE(sampler.pickCount, 1); // a second trigger during the pick is the model's test
     sampler.cancel();

@@ -24,22 +24,13 @@ struct CommandRun {
 CommandRun run(
     int (*command)(const QStringList &, CommandContext &), const QStringList &args, SettingsStore &store)
 {
-    CommandRun run;
-    QTextStream out(&run.out), err(&run.err);
+    CommandRun r;
+    QTextStream out(&r.out), err(&r.err);
     CommandContext context { out, err, store };
-    run.status = command(args, context);
+    r.status = command(args, context);
     out.flush();
     err.flush();
-    return run;
-}
-
-CommandRun runFormat(const QStringList &args, SettingsStore &store)
-{
-    return run(runFormatCommand, args, store);
-}
-CommandRun runExport(const QStringList &args, SettingsStore &store)
-{
-    return run(runExportCommand, args, store);
+    return r;
 }
 
 void removeTranslations()
@@ -86,9 +77,8 @@ TEST(FormatCommand, PrintsEachColourInTheAskedFormats)
     };
     inEnglishAndGerman([&] {
         for (const auto &c : cases) {
-            const CommandRun run = runFormat(c.args, *t.store);
-            EXPECT_EQ(
-                std::tuple(run.status, run.out, run.err), std::tuple(0, QString::fromUtf16(c.out), QString()))
+            const CommandRun r = run(runFormatCommand, c.args, *t.store);
+            EXPECT_EQ(std::tuple(r.status, r.out, r.err), std::tuple(0, QString::fromUtf16(c.out), QString()))
                 << c.args.join(u' ').toStdString();
         }
     });
@@ -97,15 +87,16 @@ TEST(FormatCommand, PrintsEachColourInTheAskedFormats)
 TEST(FormatCommand, BadInputPrintsOneLineAndNothingOnStandardOutput)
 {
     TempSettings t;
-    const QStringList bad[] = { { u"#FF6B3"_s }, { u"GGGGGG"_s }, { u"1,2"_s }, { u"nan,0,0"_s },
-        { u"1,0,0"_s, u"--format"_s, u"Hexx"_s }, { u"--format"_s }, { u"--bogus"_s, u"1,0,0"_s }, {},
-        { u"--all"_s, u"--format=hsl"_s, u"1,0,0"_s }, { u"1,0,0"_s, u"#+12345"_s } };
+    const QStringList bad[] = { { u"nan,0,0"_s }, { u"1,0,0"_s, u"--format"_s, u"Hexx"_s }, { u"--format"_s },
+        { u"--bogus"_s, u"1,0,0"_s }, {}, { u"--all"_s, u"--format=hsl"_s, u"1,0,0"_s },
+        { u"1,0,0"_s, u"#+12345"_s } };
     for (const QStringList &args : bad) {
-        const CommandRun run = runFormat(args, *t.store);
-        EXPECT_EQ(std::tuple(run.status, run.out, run.err.count(u'\n')), std::tuple(2, QString(), 1))
-            << args.join(u' ').toStdString() << ": " << run.err.toStdString();
+        const CommandRun r = run(runFormatCommand, args, *t.store);
+        EXPECT_EQ(std::tuple(r.status, r.out, r.err.count(u'\n')), std::tuple(2, QString(), 1))
+            << args.join(u' ').toStdString() << ": " << r.err.toStdString();
     }
-    EXPECT_TRUE(runFormat({ u"1,0,0"_s, u"--format"_s, u"Hexx"_s }, *t.store).err.contains(u"Hexx"));
+    EXPECT_TRUE(
+        run(runFormatCommand, { u"1,0,0"_s, u"--format"_s, u"Hexx"_s }, *t.store).err.contains(u"Hexx"));
 }
 
 // Every text Vantle writes reads back as a colour with that text; components are read exactly.
@@ -151,8 +142,7 @@ TEST(ContrastCommand, PrintsTheMeasureInPlainLinesOrOneObject)
         const CommandRun json = run(runContrastCommand,
             { QStringLiteral("--json"), QStringLiteral("0,0,0,0.5"), QStringLiteral("#FFFFFF") }, *t.store);
         EXPECT_TRUE(
-            json.out.startsWith(u"{\"foreground\":\"#808080\",\"background\":\"#FFFFFF\",\"ratio\":3.97"))
-            << json.out.toStdString();
+            json.out.startsWith(u"{\"foreground\":\"#808080\",\"background\":\"#FFFFFF\",\"ratio\":3.97"));
         EXPECT_TRUE(json.out.contains(
             u"\"normalText\":\"Fail\",\"largeText\":\"AA\",\"nonText\":\"Pass\",\"apcaLc\":67.13"));
         EXPECT_TRUE(run(runContrastCommand,
@@ -201,12 +191,11 @@ TEST_F(ExportCommandTest, PrintsTheStoredHistoryInEitherLayout)
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.args.join(u' ').toStdString());
-        const CommandRun run = runExport(c.args, *t.store);
-        EXPECT_EQ(run.status, ExitStatus::ok);
-        EXPECT_EQ(run.out.toUtf8(), c.expected);
-        EXPECT_EQ(run.err, QString());
+        const CommandRun r = run(runExportCommand, c.args, *t.store);
+        EXPECT_EQ(r.status, ExitStatus::ok);
+        EXPECT_EQ(r.out.toUtf8(), c.expected);
+        EXPECT_EQ(r.err, QString());
     }
-    EXPECT_TRUE(runExport({ QStringLiteral("--json") }, *t.store).out.contains(u"\"name\" : \"Sun\\/set\""));
 }
 
 // Whole files or none is AtomicFileTest's; here, both spellings of the option and the message.
@@ -216,31 +205,31 @@ TEST_F(ExportCommandTest, WritesTheFileNamedByEitherSpelling)
     for (const QStringList &args : { QStringList { QStringLiteral("--json"), QStringLiteral("-o"), path },
              QStringList { QStringLiteral("--output=") + path, QStringLiteral("--json") } }) {
         QFile::remove(path);
-        const CommandRun run = runExport(args, *t.store);
-        EXPECT_EQ(run.status, ExitStatus::ok);
-        EXPECT_EQ(run.out, QString());
+        const CommandRun r = run(runExportCommand, args, *t.store);
+        EXPECT_EQ(r.status, ExitStatus::ok);
+        EXPECT_EQ(r.out, QString());
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly) && file.readAll() == exportJSON(history));
     }
-    const CommandRun run = runExport({ QStringLiteral("-o"), t.dir.path() }, *t.store);
-    EXPECT_EQ(run.status, ExitStatus::failure);
-    EXPECT_TRUE(run.err.startsWith(QStringLiteral("vantle export: cannot write \"%1\": ").arg(t.dir.path())));
+    const CommandRun r = run(runExportCommand, { QStringLiteral("-o"), t.dir.path() }, *t.store);
+    EXPECT_EQ(r.status, ExitStatus::failure);
+    EXPECT_TRUE(r.err.startsWith(QStringLiteral("vantle export: cannot write \"%1\": ").arg(t.dir.path())));
 }
 
 TEST_F(ExportCommandTest, RefusesWhatItCannotDo)
 {
-    EXPECT_EQ(runExport({ QStringLiteral("--pdf") }, *t.store).status, ExitStatus::usage);
-    EXPECT_EQ(runExport({ QStringLiteral("-o") }, *t.store).status, ExitStatus::usage);
+    EXPECT_EQ(run(runExportCommand, { QStringLiteral("--pdf") }, *t.store).status, ExitStatus::usage);
+    EXPECT_EQ(run(runExportCommand, { QStringLiteral("-o") }, *t.store).status, ExitStatus::usage);
 
     t.store->setData(PreferenceKeys::colorHistory, "{not json");
-    const CommandRun run = runExport({ QStringLiteral("--json") }, *t.store);
-    EXPECT_EQ(run.status, ExitStatus::failure);
-    EXPECT_EQ(run.out, QString());
-    EXPECT_TRUE(run.err.contains(t.store->dataFilePath(PreferenceKeys::colorHistory))) << qPrintable(run.err);
+    const CommandRun r = run(runExportCommand, { QStringLiteral("--json") }, *t.store);
+    EXPECT_EQ(r.status, ExitStatus::failure);
+    EXPECT_EQ(r.out, QString());
+    EXPECT_TRUE(r.err.contains(t.store->dataFilePath(PreferenceKeys::colorHistory))) << qPrintable(r.err);
 
     t.store->removeObject(PreferenceKeys::colorHistory);
-    EXPECT_EQ(runExport({ QStringLiteral("--json") }, *t.store).out, u"[\n\n]\n");
-    EXPECT_EQ(runExport({}, *t.store).out, QString());
+    EXPECT_EQ(run(runExportCommand, { QStringLiteral("--json") }, *t.store).out, u"[\n\n]\n");
+    EXPECT_EQ(run(runExportCommand, {}, *t.store).out, QString());
 }
 
 // English listed before a translation wins; a language without one is passed over; the
@@ -255,7 +244,8 @@ TEST(CommandLineLanguage, FollowsTheFirstTranslatedLanguage)
     }
     TempSettings t;
     installTranslations({ u"de"_s });
-    EXPECT_TRUE(runFormat({ u"zz"_s }, *t.store).err.startsWith(u"vantle format: die Farbe „zz“"));
+    EXPECT_TRUE(
+        run(runFormatCommand, { u"zz"_s }, *t.store).err.startsWith(u"vantle format: die Farbe „zz“"));
     removeTranslations();
 }
 

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Where the popup opens: beside the tray icon on the side away from the panel, near the pointer
-// when the icon's place is unknown, always whole on the screen's available area and off the
-// icon; and when its content is built.
 #include "app/PopupWindow.h"
 
 #include <QCoreApplication>
@@ -10,14 +7,10 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-constexpr int gap = 4; // between the tray icon and the popup
-} // namespace
-
 TEST(PopupWindowPlacement, BesideTheIconAwayFromThePanelAndWholeOnTheScreen)
 {
-    // A 1280 × 800 screen; a short history makes a 200-pixel popup, a long one would make a
-    // 1000-pixel one and must scroll within the room instead of covering the icon.
+    // A 1280 × 800 screen; a long history (1000 pixels) must scroll within the room, 4 pixels
+    // from the icon, instead of covering it.
     const QRect screen(0, 0, 1280, 800);
     struct Case {
         const char *what;
@@ -27,16 +20,15 @@ TEST(PopupWindowPlacement, BesideTheIconAwayFromThePanelAndWholeOnTheScreen)
         QRect expected;
     };
     const Case cases[] = {
-        { "top panel, short", QRect(1200, 0, 24, 24), screen, 200, QRect(960, 24 + gap, 320, 200) },
+        { "top panel, short", QRect(1200, 0, 24, 24), screen, 200, QRect(960, 28, 320, 200) },
         { "top panel, long", QRect(1200, 0, 24, 24), screen, 1000, QRect(960, 28, 320, 800 - 28) },
         { "top panel's corner, no strut (scale 2)", QRect(1258, 1, 22, 11), screen, 200,
-            QRect(960, 12 + gap, 320, 200) },
-        { "bottom panel, short", QRect(600, 776, 24, 24), screen, 200,
-            QRect(451, 776 - gap - 200, 320, 200) },
+            QRect(960, 16, 320, 200) },
+        { "bottom panel, short", QRect(600, 776, 24, 24), screen, 200, QRect(451, 572, 320, 200) },
         { "bottom panel, long", QRect(600, 776, 24, 24), screen, 1000, QRect(451, 0, 320, 772) },
-        { "left panel, short", QRect(0, 400, 24, 24), screen, 200, QRect(24 + gap, 311, 320, 200) },
+        { "left panel, short", QRect(0, 400, 24, 24), screen, 200, QRect(28, 311, 320, 200) },
         { "right panel, long", QRect(1256, 700, 24, 24), screen, 1000, QRect(932, 0, 320, 800) },
-        { "no icon geometry: under the pointer", QRect(), screen, 200, QRect(480, 300 + gap, 320, 200) },
+        { "no icon geometry: under the pointer", QRect(), screen, 200, QRect(480, 304, 320, 200) },
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
@@ -67,7 +59,6 @@ TEST(PopupWindowContent, IsBuiltWhenThePopupFirstOpens)
     popup.popUp(QRect());
     EXPECT_EQ(built, 1) << "reopening keeps the content";
 
-    // New content while open replaces the old at once.
     popup.setContent([] { return new QLabel(QStringLiteral("next")); });
     EXPECT_TRUE(qobject_cast<QLabel *>(popup.content()));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -1,11 +1,6 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Vantle as a person meets it, inside the private X desktop of tests/desktop/x11-session.sh
-# (openbox, trayer, private session bus): start, tray icon, a second start, the shortcuts at a
-# person's pace (keys held 80 ms, many picks in a row ended in every way with the welcome window
-# open, both shortcuts while the popup holds the keyboard, a pick from the popup's own button),
-# `vantle pick` onto the clipboard, the dot in the tray, the popup from the tray and from
-# `vantle toggle`, and quitting.
+# Vantle as a person meets it from start to quit, on the desktop of tests/desktop/x11-session.sh.
 #   VANTLE_BIN=... x11-session.sh tray-end-to-end.sh [SHOT_DIR]
 set -euo pipefail
 
@@ -20,15 +15,10 @@ for i in $(seq 10 49); do
         "$i" "$i" "$((700000000 - i))"
 done | paste -sd, | sed 's/^/[/; s/$/]/' >"$XDG_CONFIG_HOME/Vantle/colorHistory.json"
 
-# What a failure leaves to read: Vantle's messages, the windows of the tray and of Vantle.
 on_failure() {
     shot failure
     tail -n 20 "$home/vantle.log" >&2
     xwininfo -root -tree | grep -iE '"(trayer|vantle)"' >&2
-    kill -0 "${VANTLE_TRAY_PID:-0}" 2>/dev/null || echo "trayer is not running; it said:" >&2
-    tail -n 20 "${VANTLE_TRAY_LOG:-/dev/null}" >&2
-    kill -0 "${VANTLE_WM_PID:-0}" 2>/dev/null || echo "openbox is not running; it said:" >&2
-    tail -n 20 "${VANTLE_WM_LOG:-/dev/null}" >&2
 }
 press() { xdotool key --delay 80 "$1"; } # a person's press: each key held 80 ms
 # The tray icon: the window trayer embedded for us.
@@ -46,9 +36,7 @@ icon_shows() { # icon_shows HEX: the tray icon has pixels of that colour
 "$vantle" 2>>"$home/vantle.log" &
 pid=$! && pids+=("$pid")
 wait_for 20 tray_icon || fail "no tray icon appeared"
-# The first run greets with the welcome window.
 wait_for 20 xdotool search --onlyvisible --name '^Welcome to vantle$' || fail "no welcome window"
-shot start
 
 # Second start: asks the first to toggle its popup and ends (one that kept running would meet the
 # timeout); simultaneous starts are two-instances.sh's.
@@ -84,8 +72,7 @@ for i in "${!ends[@]}"; do
     esac
 done
 
-# The popup takes the keyboard while it is open: its shortcut still closes it, and the pick
-# shortcut still picks (the popup makes way).
+# The open popup holds the keyboard, yet both shortcuts work (the popup makes way for a pick).
 # Another client holds the keyboard when a grab of ours finds it AlreadyGrabbed (1).
 keyboard_taken() {
     python3 -c 'import ctypes as c; x = c.CDLL("libX11.so.6"); x.XOpenDisplay.restype = c.c_void_p
@@ -110,28 +97,20 @@ xsetroot -solid '#2E8B57'
 press alt+shift+x
 wait_for 10 popup_shown || fail "the popup did not open"
 read -r px py pw ph < <(popup_geometry)
-# The button spans the popup's width just below its header.
 xdotool mousemove $((px + pw / 2)) $((py + $(scaled 62))) click 1
 wait_for 10 loupe_shown || fail "the popup's Pick Color button opened no loupe"
 xdotool mousemove $((px + pw / 2)) $((py + ph / 2)) click 1
 wait_for 10 clipboard_is '#2E8B57' || fail "a pick where the popup was copied \"$(xclip -o -selection clipboard)\""
 
-# `vantle pick` from another process, then a click on the desktop: the loupe takes the click, the
-# text the clipboard.
+# `vantle pick` from another process; the loupe takes the click on the desktop.
 xsetroot -solid '#FF6B36'
 timeout 20 "$vantle" pick || fail "vantle pick failed"
 wait_for 20 loupe_shown || fail "no loupe came up"
 xdotool mousemove 100 700 click 1
 wait_for 10 clipboard_is '#FF6B36' || fail "clipboard holds \"$(xclip -o -selection clipboard)\", not #FF6B36"
-shot after-pick
 [[ $("$vantle" export) == *"#FF6B36"* ]] || fail "the history does not hold the colour: $("$vantle" export)"
-if ! wait_for 10 icon_shows FF6B36; then
-    [[ -n $shots ]] && import -window "$(tray_icon)" "$shots/tray-icon.png"
-    shot no-dot
-    fail "the tray icon ($(tray_icon)) shows no dot in the picked colour"
-fi
+wait_for 10 icon_shows FF6B36 || fail "the tray icon ($(tray_icon)) shows no dot in the picked colour"
 
-# A click on the tray icon opens the popup; a second one closes it.
 read -r icon_w icon_h icon_x icon_y < <(geometry "$(tray_icon)")
 xdotool mousemove $((icon_x + icon_w / 2)) $((icon_y + icon_h / 2)) click 1
 wait_for 10 popup_shown || fail "a click on the tray icon did not open the popup"
@@ -155,13 +134,6 @@ xdotool key Up Return
 wait_for 10 sh -c "! kill -0 $pid" || fail "Vantle did not quit from its menu"
 wait "$pid" || fail "Vantle ended with status $?"
 if timeout 20 "$vantle" toggle 2>/dev/null; then fail "vantle toggle still finds a Vantle"; fi
-
-# A logout (SIGTERM) ends Vantle cleanly, as Quit does.
-"$vantle" 2>>"$home/vantle.log" &
-pid=$! && pids+=("$pid")
-wait_for 20 tray_icon || fail "no tray icon at the second start"
-kill -TERM "$pid"
-wait "$pid" || fail "Vantle ended with status $? on SIGTERM"
 
 # At login the panel may come up after Vantle gave up waiting for it: the icon docks when it
 # does, and the no-tray window goes. At scale 2 on this small screen the popup opens below the
@@ -187,7 +159,6 @@ settings_fit() {
     eval "$(xdotool getwindowgeometry --shell "$(xdotool search --onlyvisible --name '^Vantle Settings$' | head -n1)")"
     ((Y >= 20 && Y + HEIGHT <= screen_h))
 }
-wait_for 5 settings_fit || fail "the settings window runs off the screen: $(xdotool search --onlyvisible \
-    --name '^Vantle Settings$' | head -n1 | xargs xdotool getwindowgeometry | tr "\n" " ")"
+wait_for 5 settings_fit || fail "the settings window runs off the screen"
 shot small-screen
 echo "PASS"

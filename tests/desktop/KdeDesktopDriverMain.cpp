@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A person's keys and pointer at the KDE Plasma desktop, for tests/desktop/kde-driver.py: KWin's
-// org_kde_kwin_fake_input protocol, which only a Wayland client speaks.
-//   kde_desktop_driver key EVDEV_CODE... | move X Y | click
-// (kde-driver.py names the keys: a combination is pressed in order and released in reverse.)
+// kde_desktop_driver key EVDEV_CODE... | move X Y | click: keys and pointer at the KDE desktop for
+// kde-driver.py, through KWin's org_kde_kwin_fake_input, which only a Wayland client speaks.
 #include "fake-input-client-protocol.h"
 
 #include <chrono>
@@ -12,7 +10,6 @@
 #include <linux/input-event-codes.h>
 #include <string>
 #include <thread>
-#include <vector>
 #include <wayland-client.h>
 
 namespace {
@@ -49,15 +46,10 @@ int main(int argc, char **argv)
     };
     const std::string verb = argc > 1 ? argv[1] : "";
     if (verb == "key" && argc > 2) {
-        std::vector<int> codes;
-        for (int i = 2; i < argc; ++i)
-            codes.push_back(std::atoi(argv[i]));
-        for (int code : codes) {
-            org_kde_kwin_fake_input_keyboard_key(input, code, WL_KEYBOARD_KEY_STATE_PRESSED);
-            settle();
-        }
-        for (auto code = codes.crbegin(); code != codes.crend(); ++code) {
-            org_kde_kwin_fake_input_keyboard_key(input, *code, WL_KEYBOARD_KEY_STATE_RELEASED);
+        for (int i = 2; i < 2 * argc - 2; ++i) { // pressed in order, released in reverse
+            const bool isPress = i < argc;
+            org_kde_kwin_fake_input_keyboard_key(input, std::atoi(argv[isPress ? i : 2 * argc - 1 - i]),
+                isPress ? WL_KEYBOARD_KEY_STATE_PRESSED : WL_KEYBOARD_KEY_STATE_RELEASED);
             settle();
         }
     } else if (verb == "move" && argc == 4) {

@@ -7,12 +7,7 @@ x11-session.sh, Vantle's tree in the AT-SPI registry, the focused object after r
         s.expect_focus("focus starts on Pick Color", role="push button", name="Pick Color")
         s.finish()  # exits 1 listing every failed check; 77 when the bus or pyatspi is missing
 """
-import os
-import shutil
-import subprocess
-import sys
-import tempfile
-import time
+import os, shutil, subprocess, sys, tempfile, time
 
 try:
     import pyatspi
@@ -24,36 +19,40 @@ BUS_LAUNCHER = "/usr/libexec/at-spi-bus-launcher"
 
 
 def describe(acc):
-    """ "role 'name'" of an accessible, as a failure message shows it."""
     try:
         return f"{acc.getRoleName()} '{acc.name}'"
     except Exception:  # gone while we looked
         return "<gone>"
 
 
+def matches(acc, role, name):
+    """A name ending in "…" is a prefix."""
+    try:
+        prefix = name[:-1] if name and name.endswith("…") and len(name) > 1 else None
+        return ((not role or acc.getRoleName() == role)
+                and ((acc.name or "").startswith(prefix) if prefix else name is None or acc.name == name))
+    except Exception:  # gone while we looked
+        return False
+
+
 class Session:
     def __init__(self, files=None):
         """files: {path under the config folder Vantle/: text}, e.g. a seeded history."""
-        self.files = files or {}
-        self.failures = []
-        self.procs = []
+        self.files, self.failures, self.procs = files or {}, [], []
 
-    # --- life ----------------------------------------------------------------------------
     def __enter__(self):
         if not os.path.exists(BUS_LAUNCHER) or not shutil.which("xdotool"):
             print("SKIP: at-spi2-core or xdotool is missing", file=sys.stderr)
             sys.exit(77)
         self.home = tempfile.mkdtemp()
-        env = dict(os.environ)
-        env.pop("NO_AT_BRIDGE", None)
+        env = {key: value for key, value in os.environ.items() if key != "NO_AT_BRIDGE"}
         env.update(HOME=self.home, XDG_CONFIG_HOME=f"{self.home}/config",
                    XDG_DATA_HOME=f"{self.home}/data", XDG_RUNTIME_DIR=f"{self.home}/run",
                    QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_ACCESSIBILITY="1")
-        os.makedirs(f"{self.home}/config/Vantle")
         os.makedirs(f"{self.home}/run", mode=0o700)
+        os.makedirs(f"{self.home}/config/Vantle")
         for name, text in self.files.items():
-            with open(f"{self.home}/config/Vantle/{name}", "w") as seeded:
-                seeded.write(text)
+            open(f"{self.home}/config/Vantle/{name}", "w").write(text)
         self.procs.append(subprocess.Popen([BUS_LAUNCHER, "--launch-immediately"], env=env,
                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         time.sleep(0.5)
@@ -65,10 +64,7 @@ class Session:
         return self
 
     def __exit__(self, kind, value, tb):
-        if kind is None:
-            self.finish()
-        self.stop()
-        return False
+        self.finish() if kind is None else self.stop()
 
     def stop(self):
         for proc in reversed(self.procs):
@@ -78,15 +74,12 @@ class Session:
         shutil.rmtree(self.home, ignore_errors=True)
 
     def finish(self):
-        """Ends the test: exit 1 with every failed check, else 0."""
+        """Exits 1 listing every failed check, else 0."""
         for failure in self.failures:
             print(f"FAIL: {failure}", file=sys.stderr)
-        if self.failures and os.environ.get("VANTLE_SHOTS"):
-            subprocess.run(["import", "-window", "root", f"{os.environ['VANTLE_SHOTS']}/failure.png"])
         self.stop()
         sys.exit(1 if self.failures else 0)
 
-    # --- input ---------------------------------------------------------------------------
     def key(self, *keys):
         """Each key held 80 ms, as a hand holds it; then a moment for the tree to follow."""
         for k in keys:
@@ -98,52 +91,36 @@ class Session:
         width = subprocess.run(["xdotool", "getdisplaygeometry"], capture_output=True, text=True).stdout.split()[0]
         subprocess.run(["xdotool", "mousemove", str(int(width) - from_right), str(y), *then], check=True)
 
-    # --- reading -------------------------------------------------------------------------
     def app(self):
         desktop = pyatspi.Registry.getDesktop(0)
-        for i in range(desktop.childCount):
-            child = desktop.getChildAtIndex(i)
+        for child in (desktop.getChildAtIndex(i) for i in range(desktop.childCount)):
             try:
                 if child is not None and child.get_process_id() == self.vantle.pid:
                     return child
             except Exception:
                 continue
-        return None
 
-    def walk(self, root=None):
-        """Every showing object under root (Vantle's windows by default), depth first."""
-        root = root or self.app()
-        if root is None:
-            return
-        stack = [root]
-        while stack:
-            acc = stack.pop()
+    def walk(self, root=None, depth=False):
+        """Every showing object under Vantle's windows, depth first; with depth, (object, depth)."""
+        stack = [(root or self.app(), 0)]
+        while stack and stack[-1][0] is not None:
+            acc, level = stack.pop()
             try:
-                if acc is not root and acc.getRole() != pyatspi.ROLE_APPLICATION:
+                if level and acc.getRole() != pyatspi.ROLE_APPLICATION:
                     if not acc.getState().contains(pyatspi.STATE_SHOWING):
                         continue
-                yield acc
-                stack.extend(reversed([acc.getChildAtIndex(i) for i in range(acc.childCount)]))
+                    yield (acc, level) if depth else acc
+                stack.extend(reversed([(acc.getChildAtIndex(i), level + 1) for i in range(acc.childCount)]))
             except Exception:
                 continue
 
-    @staticmethod
-    def matches(acc, role=None, name=None, prefix=None):
-        return ((not role or acc.getRoleName() == role) and (name is None or acc.name == name)
-                and (prefix is None or (acc.name or "").startswith(prefix)))
-
-    def find(self, role=None, name=None, prefix=None, root=None):
-        for acc in self.walk(root):
-            try:
-                if self.matches(acc, role, name, prefix):
-                    return acc
-            except Exception:
-                continue
-        return None
+    def find(self, role=None, name=None, prefix=None):
+        return next((acc for acc in self.walk() if matches(acc, role, name if prefix is None else prefix + "…")),
+                    None)
 
     def focused(self):
-        """The focused object. While a menu is open the widget it opened from still reads as
-        focused (Qt keeps it as the window's focus), but the keys go to the menu's entry."""
+        """While a menu is open the widget it opened from still reads as focused (Qt keeps it as
+        the window's focus), but the keys go to the menu's entry."""
         found = None
         for acc in self.walk():
             try:
@@ -162,22 +139,10 @@ class Session:
         except NotImplementedError:
             return []
 
-    def dump(self, root=None):
+    def dump(self):
         """The tree as indented lines, for a failure message."""
+        return "\n".join("  " * level + describe(acc) for acc, level in self.walk(depth=True))
 
-        def lines(acc, depth):
-            try:
-                if depth and not acc.getState().contains(pyatspi.STATE_SHOWING):
-                    return []
-                return ["  " * depth + describe(acc)] + [
-                    line for i in range(acc.childCount) for line in lines(acc.getChildAtIndex(i), depth + 1)]
-            except Exception:
-                return []
-
-        root = root or self.app()
-        return "\n".join(lines(root, 0)) if root is not None else ""
-
-    # --- checking ------------------------------------------------------------------------
     def wait(self, predicate, timeout=5.0):
         deadline = time.monotonic() + timeout
         while True:
@@ -198,17 +163,15 @@ class Session:
         return ok
 
     def expect_focus(self, label, name=None, role=None, timeout=3.0):
-        """After a key: the focused object is the one named (a name ending in "…" is a prefix)."""
-        prefix = name[:-1] if name and name.endswith("…") and len(name) > 1 else None
-        if not self.wait(lambda: self.matches(self.focused(), role, None if prefix else name, prefix), timeout):
-            acc = self.focused()
-            self.fail(f"{label}: focus on {describe(acc) if acc else 'nothing'}, expected {role or 'any role'} '{name}'")
-            return False
-        return True
+        """After a key: the focused object is the one named."""
+        if self.wait(lambda: matches(self.focused(), role, name), timeout):
+            return True
+        acc = self.focused()
+        self.fail(f"{label}: focus on {describe(acc) if acc else 'nothing'}, expected {role or 'any role'} '{name}'")
+        return False
 
-    def expect_tree(self, label, table, root=None):
-        """table: (role, name) rows, name ending in "…" for a prefix; each must be showing."""
+    def expect_tree(self, label, table):
+        """table: (role, name) rows; each must be showing."""
         for role, name in table:
-            prefix = name[:-1] if name.endswith("…") and len(name) > 1 else None
-            if self.wait(lambda: self.find(role, None if prefix else name, prefix, root), 2) is None:
-                self.fail(f"{label}: no {role} '{name}' in\n{self.dump(root)}")
+            if self.wait(lambda: self.find(role, name), 2) is None:
+                self.fail(f"{label}: no {role} '{name}' in\n{self.dump()}")

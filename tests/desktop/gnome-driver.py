@@ -1,10 +1,8 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-# A person at the GNOME desktop, for tests/desktop/gnome-session.sh: keys and the pointer through
-# mutter's RemoteDesktop API (absolute motion through a linked ScreenCast stream), the screen and
-# the windows through the shell (--unsafe-mode). `serve SOCKET`
-# holds the one input session the seat's virtual devices belong to; every other verb is a client
-# of it (verbs: the top of tests/platform/desktop-checks.sh).
+# A person at the GNOME desktop of gnome-session.sh (verbs: tests/platform/desktop-checks.sh): input
+# through mutter's RemoteDesktop API, screen and windows through the shell. `serve SOCKET` holds
+# the one input session the seat's virtual devices belong to; every other verb is its client.
 import json, os, socket, sys, time
 
 KEYSYMS = {"alt": 0xFFE9, "shift": 0xFFE1, "ctrl": 0xFFE3, "super": 0xFFEB, "escape": 0xFF1B, "return": 0xFF0D}

@@ -1,24 +1,15 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Runs a command inside a private GNOME 43 desktop on Wayland: gnome-shell headless on a
-# 1280x800 virtual monitor with Xwayland, the GNOME portal, the AppIndicator tray, gsd-media-keys
-# (custom shortcuts) and pipewire, on a private session bus and a stand-in system bus.
-#
-#   gnome-session.sh COMMAND [ARGS...]
-#
-# Exports WAYLAND_DISPLAY, DISPLAY, XAUTHORITY, XDG_RUNTIME_DIR, HOME, DBUS_SESSION_BUS_ADDRESS,
-# XDG_SESSION_TYPE=wayland, XDG_CURRENT_DESKTOP=GNOME, VANTLE_TEST_SESSION=1
-# and DESKTOP_DRIVER, a person at the desktop (tests/desktop/gnome-driver.py; verbs:
-# tests/platform/desktop-checks.sh).
-# Exits 77 (CTest's "skipped") only when gnome-shell is not installed.
+# gnome-session.sh COMMAND [ARGS...]: runs COMMAND in a private GNOME 43 desktop on Wayland
+# (headless gnome-shell with Xwayland, portal, AppIndicator tray, gsd-media-keys, pipewire) with
+# DESKTOP_DRIVER, a person at the desktop (gnome-driver.py; verbs: tests/platform/desktop-checks.sh).
 set -euo pipefail
 
-skip() { echo "SKIP: $*" >&2; exit 77; }
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/wait-for.sh"
 
 if [[ -z "${VANTLE_IN_GNOME_SESSION:-}" ]]; then
-    command -v gnome-shell >/dev/null || skip "gnome-shell is not installed (scripts/packages/test.txt)"
+    command -v gnome-shell >/dev/null || { echo "SKIP: gnome-shell is not installed" >&2; exit 77; }
     dir=$(mktemp -d "${TMPDIR:-/tmp}/vantle-gnome.XXXXXX")
     status=0
     env -u DISPLAY -u WAYLAND_DISPLAY -u XAUTHORITY VANTLE_IN_GNOME_SESSION=1 XDG_RUNTIME_DIR="$dir" \
@@ -86,6 +77,5 @@ wait_for 30 "$DESKTOP_DRIVER" focused || fail "the input driver did not start: $
 # The shell starts in the overview, which holds the keyboard until Escape.
 "$DESKTOP_DRIVER" key Escape
 wait_for 20 "$DESKTOP_DRIVER" eval '!Main.overview.visible' || fail "the overview stays open"
-export VANTLE_TEST_SESSION=1
 
 "$@"

@@ -1,10 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-# A person at the KDE Plasma desktop of tests/desktop/kde-session.sh (verbs: the top of
-# tests/platform/desktop-checks.sh): keys and the pointer through $KDE_DESKTOP_DRIVER (KWin's
-# fake-input protocol needs a Wayland client), the screen and the windows through KWin's D-Bus
-# API and scripts; `tray-watcher` stands in for the tray watcher of the Plasma shell this
-# session does not run.
+# A person at the KDE desktop of kde-session.sh (verbs: tests/platform/desktop-checks.sh): input
+# through $KDE_DESKTOP_DRIVER, screen and windows through KWin's D-Bus API and scripts.
 import os, re, subprocess, sys, tempfile
 import dbus, dbus.service
 from dbus.mainloop.glib import DBusGMainLoop
@@ -107,11 +104,6 @@ class TrayWatcher(dbus.service.Object):  # as far as a Qt tray icon needs it: a 
                 "RegisteredStatusNotifierItems": dbus.Array(self.items, signature="s")}
 
 
-def watch_tray():
-    TrayWatcher(dbus.service.BusName(WATCHER, bus), "/StatusNotifierWatcher")
-    GLib.MainLoop().run()
-
-
 VERBS = {
     "focused": lambda: windows("[workspace.activeClient]"),
     "windows": lambda: windows("workspace.clientList()"),
@@ -121,7 +113,9 @@ VERBS = {
     "shortcut-bound": shortcut_bound,
     # The paste target fills the screen: its colour is the desktop's.
     "background": lambda color: call("org.vantle.PasteTarget", "/", "org.vantle.PasteTarget", "SetColor", color),
-    "tray-watcher": watch_tray,
+    # The Plasma shell's tray watcher, which this session does not run.
+    "tray-watcher": lambda: TrayWatcher(dbus.service.BusName(WATCHER, bus), "/StatusNotifierWatcher")
+    and GLib.MainLoop().run(),
 }
 if sys.argv[1] == "paste-target":
     os.execv(os.path.join(os.path.dirname(os.path.abspath(__file__)), "paste-target.py"), sys.argv[1:])

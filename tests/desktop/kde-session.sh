@@ -1,17 +1,8 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Runs a command inside a private KDE Plasma desktop on Wayland: kwin_wayland with a virtual
-# output (software rendering, Xwayland), the real KDE portal behind the real xdg-desktop-portal
-# frontend, a tray watcher, on a private session bus. KWin runs real-time as root, so as root
-# the session runs as the unprivileged user `nobody` (tests/desktop/private-session.sh).
-#
-#   KDE_DESKTOP_DRIVER=path/to/kde_desktop_driver kde-session.sh COMMAND [ARGS...]
-#
-# Exports WAYLAND_DISPLAY, DISPLAY, XDG_RUNTIME_DIR, DBUS_SESSION_BUS_ADDRESS,
-# QT_QPA_PLATFORM=wayland, XDG_CURRENT_DESKTOP=KDE, VANTLE_TEST_SESSION=1, and DESKTOP_DRIVER, a
-# person at the desktop (tests/desktop/kde-driver.py; verbs: tests/platform/desktop-checks.sh).
-# Exits 77 (CTest's "skipped") when KWin, the KDE portal or the driver are missing, or when KWin
-# cannot start on this machine.
+# KDE_DESKTOP_DRIVER=kde_desktop_driver kde-session.sh COMMAND [ARGS...]: runs COMMAND in a
+# private KDE Plasma desktop on Wayland (virtual kwin_wayland with Xwayland, the KDE portal, a tray
+# watcher; as `nobody` when root) with DESKTOP_DRIVER (kde-driver.py; verbs: desktop-checks.sh).
 set -euo pipefail
 
 skip() { echo "SKIP: $*" >&2; exit 77; }
@@ -25,7 +16,6 @@ frontend=/usr/libexec/xdg-desktop-portal
 if [[ -z "${VANTLE_IN_KDE_SESSION:-}" ]]; then
     command -v kwin_wayland >/dev/null || skip "KWin is not installed (apt-get install kwin-wayland)"
     [[ -x $portal_kde && -x $frontend ]] || skip "the KDE portal is not installed (apt-get install xdg-desktop-portal-kde)"
-    command -v dbus-run-session >/dev/null || skip "dbus-run-session is not installed (apt-get install dbus)"
     [[ -x ${KDE_DESKTOP_DRIVER:-} ]] || skip "KDE_DESKTOP_DRIVER names no driver"
     # KWin's file capability lies outside a container's bounding set, where exec of the
     # installed binary fails: a plain copy runs anywhere.
@@ -40,7 +30,7 @@ mkdir -p "$log"
 
 unset DISPLAY WAYLAND_DISPLAY
 export XDG_SESSION_TYPE=wayland XDG_CURRENT_DESKTOP=KDE KDE_FULL_SESSION=true KDE_SESSION_VERSION=5
-export NO_AT_BRIDGE=1 VANTLE_TEST_SESSION=1
+export NO_AT_BRIDGE=1
 # Software OpenGL compositing: the QPainter one has no colour picker for the portal. Fake input
 # is granted to every client, as to a desktop entry that lists org_kde_kwin_fake_input.
 KWIN_COMPOSE=O2 LIBGL_ALWAYS_SOFTWARE=1 KWIN_WAYLAND_NO_PERMISSION_CHECKS=1 KWIN_SCREENSHOT_NO_PERMISSION_CHECKS=1 \

@@ -1,10 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-# The Wayland program the desktop checks paste into (the drivers' `paste-target FILE`): a
-# maximised window of one colour, the colour the checks pick (org.vantle.PasteTarget.SetColor
-# "#RRGGBB" on the session bus), that appends the clipboard's text and a newline to FILE at each
-# Ctrl+V or Ctrl+Shift+V, as a terminal pastes. (foot dies on KWin's virtual output, whose size
-# in inches it divides by.)
+# paste-target FILE: a maximised window in the colour the checks pick (SetColor on the bus) that
+# appends the clipboard's text to FILE at each Ctrl+(Shift+)V. (foot dies on KWin's virtual output.)
 import sys
 import dbus, dbus.service, gi
 from dbus.mainloop.glib import DBusGMainLoop

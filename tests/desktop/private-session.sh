@@ -1,10 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Sourced by the session scripts of compositors that refuse to run as root (sway, KWin).
 # private_session MARKER SCRIPT ARGS...: runs `bash SCRIPT ARGS...` with MARKER=1 on a private
-# session bus, in a private XDG_RUNTIME_DIR that is also HOME, as the user `nobody` when run as
-# root. Files that user cannot read (SCRIPT, file arguments, VANTLE_BIN, KDE_DESKTOP_DRIVER) are
-# copied to the directory's bin/, which leads PATH; `prepare_session BIN_DIR`, when the session
-# script defines it, puts more there. Exits with the script's status; the caller defines skip.
+# session bus and XDG_RUNTIME_DIR (also HOME), as `nobody` when root (sway and KWin refuse root),
+# with the files `nobody` cannot read, and what `prepare_session BIN_DIR` adds, in a bin/ on PATH.
 private_session() {
     local marker=$1 script arg status=0
     shift
@@ -20,12 +17,8 @@ private_session() {
     chmod 0700 "$session_dir"
     mkdir -p "$session_dir/bin"
     bring() { # bring FILE: prints a path the session user can read
-        if [[ -f "$1" && ${#run_as[@]} -gt 0 ]] && ! "${run_as[@]}" test -r "$1"; then
-            cp -p "$1" "$session_dir/bin/"
-            echo "$session_dir/bin/$(basename "$1")"
-        else
-            echo "$1"
-        fi
+        [[ -f "$1" && ${#run_as[@]} -gt 0 ]] && ! "${run_as[@]}" test -r "$1" \
+            && cp -p "$1" "$session_dir/bin/" && echo "$session_dir/bin/${1##*/}" || echo "$1"
     }
     script=$(bring "$1")
     local args=()

@@ -1,15 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Runs a command inside a private Wayland desktop: sway in headless mode (no GPU, no input
-# devices, no XWayland) on a private session bus. sway refuses to run as root, so as root the
-# whole session runs as the unprivileged user `nobody` (tests/desktop/private-session.sh).
-#
-#   sway-session.sh COMMAND [ARGS...]
-#
-# Exports WAYLAND_DISPLAY, SWAYSOCK, XDG_RUNTIME_DIR, DBUS_SESSION_BUS_ADDRESS,
-# QT_QPA_PLATFORM=wayland, XDG_SESSION_TYPE=wayland and VANTLE_TEST_SESSION=1 to COMMAND.
-# Exits 77 (CTest's "skipped") when sway, wl-clipboard or (as root) runuser are missing, or
-# when sway cannot start on this machine.
+# sway-session.sh COMMAND [ARGS...]: runs COMMAND in a private headless sway (no GPU, input
+# devices or XWayland; as `nobody` when root, since sway refuses root) on a private session bus.
 set -euo pipefail
 
 skip() { echo "SKIP: $*" >&2; exit 77; }
@@ -20,7 +12,6 @@ source "$(dirname "${BASH_SOURCE[0]}")/private-session.sh"
 if [[ -z "${VANTLE_IN_SWAY_SESSION:-}" ]]; then
     command -v sway >/dev/null || skip "sway is not installed (apt-get install sway)"
     command -v wl-paste >/dev/null || skip "wl-clipboard is not installed (apt-get install wl-clipboard)"
-    command -v dbus-run-session >/dev/null || skip "dbus-run-session is not installed (apt-get install dbus)"
     private_session VANTLE_IN_SWAY_SESSION "$0" "$@"
 fi
 
@@ -46,6 +37,6 @@ WAYLAND_DISPLAY=$(basename "$(wayland_socket)")
 SWAYSOCK=$(ipc_socket)
 export WAYLAND_DISPLAY SWAYSOCK
 export QT_QPA_PLATFORM=wayland XDG_SESSION_TYPE=wayland XDG_CURRENT_DESKTOP=sway
-export NO_AT_BRIDGE=1 VANTLE_TEST_SESSION=1
+export NO_AT_BRIDGE=1
 
 "$@"

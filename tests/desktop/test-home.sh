@@ -1,25 +1,17 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Sourced by the scripts that run Vantle on a test desktop: a throwaway home for its settings,
-# history and runtime files, and one clean-up for everything the script started.
-#   pids+=(PID)     ended (in reverse order) when the script exits; then the home goes
-#   fail MESSAGE    prints FAIL: MESSAGE, runs the script's on_failure if it has one, exits 1
-# A command that fails outside `fail` (under set -e) says which one it was, at which line.
-# Once per script: sourced again (through vantle-windows.sh), it keeps the home and the processes.
+# Sourced once by the scripts that run Vantle on a test desktop: a throwaway home; pids+=(PID)
+# end at exit; `fail MESSAGE` runs the script's on_failure, if any, and exits 1.
 [[ -z ${test_home:-} ]] || return 0
 source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 
 pids=()
-test_home_cleanup() {
-    end_started
-    remove_tree "$home"
-}
 fail() {
     echo "FAIL: $*" >&2
     [[ $(type -t on_failure) != function ]] || on_failure || true
     exit 1
 }
 trap 'status=$?; echo "FAIL: line $LINENO: \"$BASH_COMMAND\" ended with status $status" >&2' ERR
-trap test_home_cleanup EXIT
+trap 'end_started; remove_tree "$home"' EXIT
 
 # Under Wayland the session's runtime folder holds the compositor's socket, so it stays.
 if [[ -n ${WAYLAND_DISPLAY:-} ]]; then

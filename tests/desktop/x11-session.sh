@@ -1,52 +1,28 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Runs a command inside a private X11 desktop: Xvfb on a free display, openbox as window
-# manager, trayer as system tray (XEmbed), all on a private session bus. Everything this
-# script starts is ended by PID when the command finishes.
-#
-#   x11-session.sh [--size WxH] [--no-tray] [--no-wm] COMMAND [ARGS...]
-#
-# Exports DISPLAY, DBUS_SESSION_BUS_ADDRESS and VANTLE_TEST_SESSION=1 to COMMAND, and with a
-# tray VANTLE_TRAY_PID and VANTLE_TRAY_LOG (trayer's messages).
-# Exits 77 (CTest's "skipped") when Xvfb is not installed.
+# x11-session.sh [--size WxH] [--no-tray] COMMAND [ARGS...]: runs COMMAND in a private X11
+# desktop (Xvfb, openbox, trayer as XEmbed tray; VANTLE_TRAY_PID) on a private session bus.
 set -euo pipefail
 
+command -v Xvfb >/dev/null || { echo "SKIP: Xvfb is not installed (apt-get install xvfb)" >&2; exit 77; }
+if [[ -z "${VANTLE_IN_DBUS:-}" ]]; then # again on a private session bus that ends with us
+    # A plain X11 desktop: the portal frontend that reading the appearance activates finds no
+    # backend, rather than starting GNOME's or KDE's (installed for their own tests) to fail here.
+    VANTLE_IN_DBUS=1 XDG_DESKTOP_PORTAL_DIR=/nonexistent/vantle-x11-test exec dbus-run-session -- "$0" "$@"
+fi
 size=1280x800x24
 tray=1
-wm=1
 while [[ $# -gt 0 ]]; do
     case "$1" in
         --size) size="$2x24"; shift 2 ;;
         --no-tray) tray=0; shift ;;
-        --no-wm) wm=0; shift ;;
         *) break ;;
     esac
 done
 
-if ! command -v Xvfb >/dev/null; then
-    echo "SKIP: Xvfb is not installed (apt-get install xvfb)" >&2
-    exit 77
-fi
-
-if [[ -z "${VANTLE_IN_DBUS:-}" ]]; then
-    # Re-run under a private session bus that ends with us.
-    export VANTLE_IN_DBUS=1
-    # A plain X11 desktop: the portal frontend that reading the appearance activates finds no
-    # backend, rather than starting GNOME's or KDE's (installed for their own tests) to fail here.
-    export XDG_DESKTOP_PORTAL_DIR=/nonexistent/vantle-x11-test
-    args=(--size "${size%x24}")
-    [[ $tray == 0 ]] && args+=(--no-tray)
-    [[ $wm == 0 ]] && args+=(--no-wm)
-    exec dbus-run-session -- "$0" "${args[@]}" "$@"
-fi
-
 source "$(dirname "${BASH_SOURCE[0]}")/wait-for.sh"
 pids=()
-cleanup() {
-    end_started
-    [[ -n "${fifo_dir:-}" ]] && rm -rf "$fifo_dir"
-}
-trap cleanup EXIT
+trap 'end_started; rm -rf "${fifo_dir:-/nonexistent}"' EXIT
 
 # Let Xvfb pick a free display and tell us its number, so parallel tests never collide.
 fifo_dir=$(mktemp -d)
@@ -58,7 +34,6 @@ pids+=($!)
 read -r -t 20 display_number <"$fifo_dir/display" || { echo "Xvfb did not start" >&2; exit 1; }
 export DISPLAY=":$display_number"
 export NO_AT_BRIDGE=1
-export VANTLE_TEST_SESSION=1
 export QT_QPA_PLATFORM=xcb
 unset WAYLAND_DISPLAY XDG_SESSION_TYPE
 
@@ -79,17 +54,16 @@ start_until() {
     echo "$1 did not start on $DISPLAY: $(tail -n 5 "$fifo_dir/$1.log")" >&2
     exit 1
 }
-if [[ $wm == 1 ]] && command -v openbox >/dev/null; then
+if command -v openbox >/dev/null; then
     # "window id" and not just "window": on a new server xprop answers "no such atom on any window".
     start_until "xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'" openbox --sm-disable
-    export VANTLE_WM_PID=${pids[-1]} VANTLE_WM_LOG=$fifo_dir/openbox.log
 fi
 if [[ $tray == 1 ]] && command -v trayer >/dev/null; then
     # Qt docks an icon whenever the tray appears, so trayer's window existing is enough here
     # (an empty panel of width "request" may stay unmapped).
     start_until "xdotool search --class trayer" trayer --edge top --align right --widthtype request \
         --height 24 --SetDockType true --transparent false --tint 0x202020
-    export VANTLE_TRAY_PID=${pids[-1]} VANTLE_TRAY_LOG=$fifo_dir/trayer.log
+    export VANTLE_TRAY_PID=${pids[-1]}
 fi
 
 "$@"

@@ -42,9 +42,6 @@ void fuzzOne(const QByteArray &input)
             if (const std::optional<quint32> xKeycode = KeyCodes::xKeycodeForKeyCode(keyCode))
                 FUZZ_CHECK(KeyCodes::keyCodeForXKeycode(*xKeycode) == keyCode);
         }
-        (void)store.boolForKey(PreferenceKeys::showColorDot),
-            (void)store.integerForKey(PreferenceKeys::historyLimit);
-        (void)store.stringForKey(PreferenceKeys::colorFormat);
         if (const std::optional<QByteArray> history = store.dataForKey(PreferenceKeys::colorHistory))
             (void)decodeColorHistory(*history);
     }

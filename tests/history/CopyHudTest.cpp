@@ -11,9 +11,6 @@
 #include <QWidget>
 #include <gtest/gtest.h>
 
-// Runs on the offscreen platform with the other widget tests, and under a real X server with
-// a window manager (the desktop test), where the X-only checks run too.
-
 namespace {
 
 const QString sampleMessage = QStringLiteral("Copied #FF6B36");
@@ -59,12 +56,10 @@ TEST(CopyHudGeometry, CentredOnTheUsableAreaAHundredPixelsAboveItsMiddle)
         { { -1024, 0, 1024, 768 }, { 100, 36 }, { -562, 266 } }, // a screen left of the primary one
     };
     for (const auto &c : cases)
-        EXPECT_EQ(CopyHud::capsulePosition(c.available, c.size), c.expected)
-            << c.available.x() << "," << c.available.y();
+        EXPECT_EQ(CopyHud::capsulePosition(c.available, c.size), c.expected) << c.available.x();
 }
 
-// The capsule fades in where it belongs; a new message replaces the old one at once, even while
-// it fades, and stays its whole time: the old fade never ends it early.
+// A new message replaces the fading old one at once and stays its whole time.
 TEST_F(CopyHudTest, FadesInWhereItBelongsAndANewMessageReplacesTheOldAtOnce)
 {
     hud.showHUD(QStringLiteral("Copied #000000"));
@@ -92,7 +87,6 @@ TEST_F(CopyHudTest, FadesInWhereItBelongsAndANewMessageReplacesTheOldAtOnce)
     EXPECT_GE(shown.elapsed(), 1750); // 1.5 s on screen, then a 0.3 s fade
 }
 
-// Focus and clicks need a window manager and a real server.
 TEST_F(CopyHudTest, NeverTakesFocusAndLetsClicksThrough)
 {
     if (!onX11())
@@ -124,7 +118,6 @@ TEST_F(CopyHudTest, NeverTakesFocusAndLetsClicksThrough)
             QStringLiteral("click"), QStringLiteral("1") });
     QTRY_COMPARE_WITH_TIMEOUT(editor.presses, 1, 10000);
     EXPECT_TRUE(window); // still showing: the click went through it
-    EXPECT_EQ(QApplication::activeWindow(), &editor);
     EXPECT_EQ(run(QStringLiteral("xdotool"), { QStringLiteral("getwindowfocus") }), editorId);
 }
 

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
-// The one writer behind saved histories, exports and the autostart entry.
 TEST(AtomicFile, WritesWholeFilesOrLeavesTheOldOneAlone)
 {
     QTemporaryDir dir;
@@ -33,11 +32,8 @@ TEST(AtomicFile, WritesWholeFilesOrLeavesTheOldOneAlone)
             file.close();
         }
         std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit saved = [] {
-            rlimit limit;
-            getrlimit(RLIMIT_FSIZE, &limit);
-            return limit;
-        }();
+        rlimit saved;
+        getrlimit(RLIMIT_FSIZE, &saved);
         const rlimit limit { c.sizeLimit, saved.rlim_max };
         setrlimit(RLIMIT_FSIZE, &limit);
         const std::optional<QString> failure = writeFileAtomically(path, content);
@@ -50,6 +46,5 @@ TEST(AtomicFile, WritesWholeFilesOrLeavesTheOldOneAlone)
             = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : "none";
         EXPECT_EQ(now, c.written ? content : c.existing ? old : "none");
     }
-    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 3)
-        << "no temporary file left behind";
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files | QDir::Hidden).size(), 3); // no temporary file left
 }

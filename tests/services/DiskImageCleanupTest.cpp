@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "services/DiskImageCleanup.h"
-#include "support/Fakes.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,22 +10,23 @@
 
 namespace {
 
-QByteArray losetupJson(const QList<std::pair<QString, QString>> &devices)
-{
-    QStringList entries;
-    for (const auto &[device, file] : devices)
-        entries << QStringLiteral(R"({"name": "%1", "ro": true, "back-file": "%2"})").arg(device, file);
-    return "{\"loopdevices\": [" + entries.join(u',').toUtf8() + "]}";
-}
+// Answers losetup from `listing` and udisksctl with noise; records every call as "program arg arg…".
+struct FakeCommandRunner : CommandRunner {
+    std::optional<QByteArray> run(const QString &program, const QStringList &arguments, bool) override
+    {
+        calls << (QStringList { program } + arguments).join(u' ');
+        return program == u"losetup" ? listing : QByteArray("noise");
+    }
+    QByteArray listing;
+    QStringList calls;
+};
 
-// A private machine: a home folder with its own Trash, a mount table, folders standing in for
-// mounted volumes, and losetup and udisksctl played by a fake runner.
+// A private machine: a home with its own Trash, a mount table, folders as mounted volumes.
 struct Machine {
     Machine()
     {
         qputenv("HOME", home().toLocal8Bit());
         qputenv("XDG_DATA_HOME", (home() + QStringLiteral("/.local/share")).toLocal8Bit());
-        runner->outputs.insert(QStringLiteral("udisksctl"), "noise");
     }
     QString home() const { return root.filePath(QStringLiteral("home")); }
     void writeFile(const QString &path, const QByteArray &content) const
@@ -35,7 +35,6 @@ struct Machine {
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     }
-    // A mounted volume of `device`, holding the program or not.
     void volume(const QString &name, const QString &device, bool holdsProgram = true)
     {
         const QString mountPoint = root.filePath(QStringLiteral("media/") + name);
@@ -74,7 +73,6 @@ TEST(DiskImageCleanup, OnlyALaunchFromAnApplicationsFolderStartsTheCleanUp)
         bool starts;
     } cases[] = {
         { "~/Applications/Vantle.AppImage", true },
-        { "/usr/bin/vantle", false },
         { "~/Downloads/Vantle.AppImage", false },
         { "/media/u/Vantle/Applications/Vantle.AppImage", false },
     };
@@ -93,9 +91,10 @@ TEST(DiskImageCleanup, DetachesAndTrashesTheFirstImageHoldingTheProgram)
     machine.volume(QStringLiteral("photos"), QStringLiteral("/dev/loop3"), false);
     machine.volume(QStringLiteral("Vantle 1.0"), QStringLiteral("/dev/loop4p1"));
     machine.volume(QStringLiteral("Vantle copy"), QStringLiteral("/dev/loop5"));
-    machine.runner->outputs.insert(QStringLiteral("losetup"),
-        losetupJson({ { QStringLiteral("/dev/loop3"), unrelated }, { QStringLiteral("/dev/loop4"), first },
-            { QStringLiteral("/dev/loop5"), second } }));
+    machine.runner->listing = QStringLiteral(R"({"loopdevices": [{"name": "/dev/loop3", "back-file": "%1"},
+        {"name": "/dev/loop4", "back-file": "%2"}, {"name": "/dev/loop5", "back-file": "%3"}]})")
+                                  .arg(unrelated, first, second)
+                                  .toUtf8();
 
     ASSERT_TRUE(machine.cleanup().start()); // in the background
     const QString trashed = machine.home() + QStringLiteral("/.local/share/Trash/files/Vantle 1.0.img");

@@ -15,11 +15,6 @@ struct Autostart {
     QTemporaryDir dir;
     QString entryPath = dir.filePath(QStringLiteral("autostart/vantle.desktop"));
     XdgAutostartService service { entryPath, QStringLiteral("/opt/My Apps/vantle \"$HOME\" 100%.AppImage") };
-    QByteArray entry() const
-    {
-        QFile file(entryPath);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
 };
 
 } // namespace
@@ -32,8 +27,9 @@ TEST(XdgAutostartService, EntryStartsTheProgramWithExecQuoting)
     EXPECT_TRUE(a.service.isEnabled());
     // Exec quoting escapes '"' and '$' with a backslash, the string escape doubles it again,
     // and a literal percent sign is doubled.
-    EXPECT_TRUE(a.entry().contains(R"(Exec="/opt/My Apps/vantle \\"\\$HOME\\" 100%%.AppImage")"))
-        << a.entry().constData();
+    QFile entry(a.entryPath);
+    EXPECT_TRUE(entry.open(QIODevice::ReadOnly)
+        && entry.readAll().contains(R"(Exec="/opt/My Apps/vantle \\"\\$HOME\\" 100%%.AppImage")"));
     EXPECT_TRUE(a.service.unregisterItem());
     EXPECT_FALSE(QFile::exists(a.entryPath));
     EXPECT_TRUE(a.service.unregisterItem()) << "nothing to remove is not a failure";

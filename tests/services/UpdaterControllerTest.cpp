@@ -15,21 +15,9 @@
 
 using namespace std::chrono_literals;
 using Choice = UpdateUserInterface::Choice;
+using UpdateSigning::appcast, UpdateSigning::appcastItem;
 
 namespace {
-
-QByteArray appcast(const QString &version, const QString &url, qint64 length, const QString &signature)
-{
-    return QStringLiteral(R"(<?xml version="1.0" encoding="utf-8"?>
-<rss version="2.0" xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>
-<item><title>Vantle %1</title><sparkle:version>%1</sparkle:version>
-<description><![CDATA[<ul><li>Faster picking</li></ul>]]></description>
-<enclosure url="%2" length="%3" sparkle:edSignature="%4"/></item></channel></rss>)")
-        .arg(version, url)
-        .arg(length)
-        .arg(signature)
-        .toUtf8();
-}
 
 class UpdaterControllerTest : public ::testing::Test {
 protected:
@@ -50,13 +38,14 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor(
             [&] { return ui.outcomes() >= expectedOutcomes && controller.canCheckForUpdates(); }, 10000));
     }
-    void serveRelease(const QByteArray &served, qint64 announcedLength, const QString &signature)
+    void serveRelease(const QByteArray &served)
     {
         server.serve(QStringLiteral("/Vantle-2.0.tar.gz"), { 200, served });
+        const QByteArray url = server.url(QStringLiteral("/Vantle-2.0.tar.gz")).toUtf8();
         server.serve(QStringLiteral("/appcast.xml"),
             { 200,
-                appcast(QStringLiteral("2.0"), server.url(QStringLiteral("/Vantle-2.0.tar.gz")),
-                    announcedLength, signature) });
+                appcast(appcastItem(
+                    "2.0", url, installer.size(), UpdateSigning::sign(installer, keys).toUtf8())) });
     }
 
     TempSettings settings;
@@ -73,9 +62,8 @@ protected:
 TEST_F(UpdaterControllerTest, WithoutAFeedAddressTheBoxShowsAtOnceWithoutNetwork)
 {
     for (const QString &address :
-        { QString(), QStringLiteral("not an address"), QStringLiteral("ftp://e.org/a") }) {
+        { QString(), QStringLiteral("not an address"), QStringLiteral("ftp://e.org/a") })
         makeController(address)->checkForUpdates();
-    }
     EXPECT_EQ(ui.upToDateTexts, QStringList(3, QStringLiteral("Vantle 1.4")));
     EXPECT_EQ(server.requestCount(), 0);
 }
@@ -83,8 +71,7 @@ TEST_F(UpdaterControllerTest, WithoutAFeedAddressTheBoxShowsAtOnceWithoutNetwork
 // Which feeds hold a release is AppcastTest's; here, what the transfer can do to a check.
 TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
 {
-    const QByteArray newer
-        = appcast(QStringLiteral("2.0"), QStringLiteral("https://e.org/v.tgz"), 10, "c2ln");
+    const QByteArray newer = appcast(appcastItem("2.0"));
     struct Case {
         const char *what;
         LocalHttpServer::Response response;
@@ -93,7 +80,6 @@ TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
     const Case cases[] = {
         { "release", { 200, newer }, true },
         { "not modified", { 304, newer }, false },
-        { "not found", { 404, newer }, false },
         { "huge body", { 200, newer + QByteArray(5 * 1024 * 1024, ' ') }, false },
         { "redirect loop", { 302, "", "/appcast.xml" }, false },
         { "stalled server", { 200, "", "", true }, false },
@@ -105,7 +91,7 @@ TEST_F(UpdaterControllerTest, OnlyAFeedWithANewerReleaseOpensTheUpdateDialog)
         checkAndWait(*makeController());
         EXPECT_EQ(ui.offered.size(), c.offered ? 1 : 0);
         EXPECT_EQ(ui.upToDateTexts.size(), c.offered ? 0 : 1);
-        EXPECT_EQ(ui.offered.value(0).releaseNotes, c.offered ? u"<ul><li>Faster picking</li></ul>" : u"");
+        EXPECT_EQ(ui.offered.value(0).releaseNotes, c.offered ? u"<p>Notes 2.0</p>" : u"");
     }
 }
 
@@ -117,28 +103,19 @@ TEST_F(UpdaterControllerTest, ADownloadIsKeptOnlyWhenVerifiedAndNeverOverwritesA
     mine.close();
     QByteArray tampered = installer;
     tampered[1000] = char(tampered[1000] ^ 0x40);
-    const struct {
-        const char *what;
-        QByteArray served;
-        qint64 announced;
-        bool kept;
-    } cases[] = {
-        { "good", installer, installer.size(), true },
-        { "tampered", tampered, installer.size(), false },
-        { "longer than announced", installer, installer.size() - 1, false },
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const QByteArray &served : { installer, tampered }) {
+        const bool kept = served == installer;
+        SCOPED_TRACE(kept ? "good" : "tampered");
         ui = FakeUpdateInterface();
         ui.answer = Choice::download;
-        serveRelease(c.served, c.announced, UpdateSigning::sign(installer, keys));
+        serveRelease(served);
         checkAndWait(*makeController(), 2);
         EXPECT_FALSE(ui.downloading);
-        EXPECT_EQ(ui.readyFiles.size(), c.kept ? 1 : 0);
-        EXPECT_EQ(ui.failures.size(), c.kept ? 0 : 1);
+        EXPECT_EQ(ui.readyFiles.size(), kept ? 1 : 0);
+        EXPECT_EQ(ui.failures.size(), kept ? 0 : 1);
         const QStringList files = QDir(downloads.path()).entryList(QDir::Files | QDir::Hidden);
-        EXPECT_EQ(files.size(), c.kept ? 2 : 1) << files.join(u',').toStdString();
-        if (c.kept) {
+        EXPECT_EQ(files.size(), kept ? 2 : 1) << files.join(u',').toStdString();
+        if (kept) {
             EXPECT_EQ(QFileInfo(ui.readyFiles[0]).fileName(), QStringLiteral("Vantle-2.0.tar (2).gz"));
             EXPECT_FALSE(ui.readyWasAutomatic);
             EXPECT_GT(ui.progressReports, 0);
@@ -153,7 +130,7 @@ TEST_F(UpdaterControllerTest, ADownloadIsKeptOnlyWhenVerifiedAndNeverOverwritesA
 
 TEST_F(UpdaterControllerTest, BackgroundChecksDownloadOrOfferAndStayQuietWhenSkipped)
 {
-    serveRelease(installer, installer.size(), UpdateSigning::sign(installer, keys));
+    serveRelease(installer);
     const struct {
         std::optional<bool> automatic; // none: never set, which means on
         bool skipped;

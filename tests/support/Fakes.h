@@ -8,11 +8,9 @@
 #include "hotkeys/GlobalShortcutBackend.h"
 #include "model/PickedColor.h"
 #include "services/Appcast.h"
-#include "services/CommandRunner.h"
 #include "services/LoginItemService.h"
 #include "services/UpdateUserInterface.h"
 
-#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -21,7 +19,6 @@
 // One stand-in per desktop facility, driven by tests. The clock is ManualAnimationDriver.h; the
 // network is a real one talking to LocalHttpServer.h.
 
-// A colour picked now.
 inline PickedColor makeColor(
     double r, double g, double b, bool pinned = false, std::optional<QString> name = std::nullopt)
 {
@@ -40,11 +37,7 @@ public:
         ++pickCount;
         pending = std::move(completion);
     }
-    bool isOpen() const { return bool(pending); }
-    void finish(double red, double green, double blue, double alpha = 1.0)
-    {
-        answer(SampledColor { red, green, blue, alpha });
-    }
+    void finish(double red, double green, double blue) { answer(SampledColor { red, green, blue, 1.0 }); }
     void cancel() { answer(std::nullopt); }
     void answer(std::optional<SampledColor> sample)
     {
@@ -185,18 +178,4 @@ public:
     bool readyWasAutomatic = false;
     int progressReports = 0;
     bool downloading = false;
-};
-
-// Answers each program from `outputs` (a program missing there could not be started) and
-// records every call as "program arg arg…".
-class FakeCommandRunner : public CommandRunner {
-public:
-    std::optional<QByteArray> run(const QString &program, const QStringList &arguments, bool) override
-    {
-        calls << (QStringList { program } + arguments).join(QLatin1Char(' '));
-        return outputs.contains(program) ? std::optional(outputs.value(program)) : std::nullopt;
-    }
-
-    QHash<QString, QByteArray> outputs;
-    QStringList calls;
 };

@@ -5,9 +5,8 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-// A tiny HTTP/1.1 server on 127.0.0.1 for update tests, in the test's own event loop. Each path
-// answers with a fixed response; unknown paths get 404. Every connection is closed after one
-// answer.
+// An HTTP/1.1 server on 127.0.0.1 in the test's event loop: one fixed response per path, one
+// answer per connection.
 class LocalHttpServer {
 public:
     struct Response {

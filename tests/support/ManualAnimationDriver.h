@@ -11,10 +11,8 @@ public:
     ManualAnimationDriver() { install(); }
     ~ManualAnimationDriver() override { uninstall(); }
 
-    qint64 now() const { return m_now; }
     qint64 elapsed() const override { return m_now - m_startedAt; }
 
-    // Moves the clock forward to `ms`, one frame at a time.
     void advanceTo(qint64 ms)
     {
         QCoreApplication::processEvents(); // animations start on a queued call

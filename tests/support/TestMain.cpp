@@ -6,9 +6,8 @@
 #include <QCoreApplication>
 #endif
 
-// Tests of display-free code run inside a QCoreApplication, as the command line does (which
-// also applies the user's locale); widget tests inside a QApplication, on the offscreen
-// platform unless a desktop test asks for a real display (QT_QPA_PLATFORM=xcb).
+// Display-free code runs in a QCoreApplication as the command line does; widget tests on the
+// offscreen platform unless a desktop test asks for a real display.
 int main(int argc, char **argv)
 {
 #ifdef VANTLE_WIDGET_TESTS

@@ -5,8 +5,8 @@
 #include <QString>
 #include <sodium.h>
 
-// The maker's side of update signing, for tests: fresh Ed25519 keys and detached signatures,
-// all base64 as they appear in the feed and the build.
+// The maker's side of updates, for tests: fresh Ed25519 keys, detached signatures (base64 as in
+// the feed and the build) and feeds.
 namespace UpdateSigning {
 
 struct KeyPair {
@@ -34,6 +34,23 @@ inline QString sign(const QByteArray &content, const KeyPair &keys)
         static_cast<unsigned long long>(content.size()),
         reinterpret_cast<const unsigned char *>(keys.secretKey.constData()));
     return QString::fromLatin1(signature.toBase64());
+}
+
+inline QByteArray appcast(const QByteArray &items)
+{
+    return R"(<?xml version="1.0" encoding="utf-8"?>
+<rss version="2.0" xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>)"
+        + items + "</channel></rss>";
+}
+
+inline QByteArray appcastItem(const QByteArray &version, QByteArray url = {}, qint64 length = 1234,
+    const QByteArray &signature = "c2ln")
+{
+    url = url.isEmpty() ? "https://example.org/Vantle-" + version + ".tar.gz" : url;
+    return "<item><title>Version " + version + "</title><sparkle:version>" + version
+        + "</sparkle:version><description><![CDATA[<p>Notes " + version
+        + "</p>]]></description><enclosure url=\"" + url + "\" length=\"" + QByteArray::number(length)
+        + "\" sparkle:edSignature=\"" + signature + "\"/></item>";
 }
 
 // Bytes that vary like an archive's, `size` long.

@@ -12,7 +12,14 @@ wait_for() {
 # end_started: ends the background processes the script started (pids+=($!)), newest first;
 # with `pids=(); trap end_started EXIT` they end when it exits.
 end_started() {
+    local i pid
     for ((i = ${#pids[@]} - 1; i >= 0; i--)); do kill "${pids[$i]}" 2>/dev/null || true; done
+    # One that does not end on SIGTERM is named and killed, rather than holding the test to its timeout.
+    for pid in "${pids[@]}"; do
+        wait_for 10 eval "[[ \$(ps -o stat= -p $pid) != [^Z]* ]]" && continue
+        echo "FAIL: $(ps -o args= -p "$pid") did not end on SIGTERM" >&2
+        kill -KILL "$pid" 2>/dev/null || true
+    done
     wait 2>/dev/null || true
 }
 # need_tools TOOL...: skips the test (exit 77) unless every tool is installed.

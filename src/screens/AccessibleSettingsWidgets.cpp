@@ -139,6 +139,8 @@ public:
         state.focusable = isButton();
         state.focused = isButton() && m_view && m_view->hasFocus();
         state.readOnly = !isButton();
+        // The button is not there, and takes no press, until it has entered.
+        state.invisible = isButton() && m_view && !m_view->isButtonShown();
         return state;
     }
     QRect rect() const override

@@ -86,11 +86,27 @@ QParallelAnimationGroup *OnboardingView::makeEntrance(const QList<Timing> &timin
                 if (state == QAbstractAnimation::Running && !hasFired(step)) {
                     m_fired[std::size_t(step)] = true;
                     update();
+                    if (step == Step::ButtonVisible || step == Step::Button2Visible)
+                        announceButton();
                 }
             });
         group->addAnimation(sequence);
     }
     return group;
+}
+
+// A screen reader learns that the screen's button, which takes no press before it enters, is
+// there now.
+void OnboardingView::announceButton()
+{
+    QAccessibleInterface *view
+        = QAccessible::isActive() ? QAccessible::queryAccessibleInterface(this) : nullptr;
+    if (QAccessibleInterface *button = view ? view->child(view->childCount() - 1) : nullptr) {
+        QAccessible::State changed;
+        changed.invisible = true;
+        QAccessibleStateChangeEvent event(button, changed);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void OnboardingView::setProgress(Step step, qreal value)

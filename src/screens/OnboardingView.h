@@ -68,6 +68,8 @@ public:
     int currentScreen() const { return m_currentScreen; }
     bool hasFired(Step step) const { return m_fired[std::size_t(step)]; }
     qreal progress(Step step) const { return m_progress[std::size_t(step)]; }
+    // Whether the screen's button has entered: before, it takes no press.
+    bool isButtonShown() const { return activeButton() != Button::None; }
     qreal circleTrim() const { return progress(Step::CircleTrim); }
     qreal checkmarkTrim() const { return progress(Step::CheckmarkTrim); }
     qreal glowOpacity() const { return 0.3 + 0.7 * progress(Step::GreenGlow); }
@@ -105,6 +107,7 @@ private:
     // The button that a click or Return would press now, if any.
     enum class Button { None, GetStarted, StartUsing };
     Button activeButton() const;
+    void announceButton();
     Button buttonAt(const QPointF &position) const;
 
     void paintWelcome(QPainter &painter) const;

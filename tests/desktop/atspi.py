@@ -55,7 +55,10 @@ class Session:
             open(f"{self.home}/config/Vantle/{name}", "w").write(text)
         self.procs.append(subprocess.Popen([BUS_LAUNCHER, "--launch-immediately"], env=env,
                                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
-        time.sleep(0.5)
+        # Vantle looks for the accessibility bus as it starts: the launcher owns it first.
+        owner = ["dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.DBus", "/org/freedesktop/DBus",
+                 "org.freedesktop.DBus.NameHasOwner", "string:org.a11y.Bus"]
+        self.wait(lambda: b"true" in subprocess.run(owner, capture_output=True, env=env).stdout, 10)
         self.vantle = subprocess.Popen([os.environ["VANTLE_BIN"]], env=env)
         self.procs.append(self.vantle)
         if not self.wait(self.app, 20):

@@ -6,6 +6,7 @@
 #include "support/TempSettings.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
@@ -110,6 +111,19 @@ TEST(SettingsStore, AValueAlreadyOnDiskIsNotWrittenAgainButStillSignalled)
     EXPECT_TRUE(store.setString(pickKeyChar, QStringLiteral("C")));
     EXPECT_EQ(spy.count(), 3);
     EXPECT_EQ(inode(path), written);
+}
+
+TEST(SettingsStore, AnEmptyLockLeftByAKilledWriterDoesNotHoldTheNextSave)
+{
+    // A writer killed between creating "<file>.lock" and writing its id leaves it empty, and
+    // QSettings would wait 30 s for it to go stale: the program with it, at its next save.
+    TempSettings t;
+    put(t.filePath() + QStringLiteral(".lock"), {});
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_TRUE(t.store->setInteger(historyLimit, 20));
+    EXPECT_LT(clock.elapsed(), 10000);
+    EXPECT_EQ(t.reopen()->integerForKey(historyLimit), 20);
 }
 
 // A corrupt settings file is HostileSettingsTest's; here, a data file that is a folder, or a

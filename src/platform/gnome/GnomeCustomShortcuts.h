@@ -33,9 +33,6 @@ public:
     explicit GnomeCustomShortcuts(const QString &programPath, QObject *parent = nullptr);
     ~GnomeCustomShortcuts() override;
 
-    // Whether GNOME's custom shortcut schemas are installed.
-    bool isAvailable() const { return m_settings != nullptr; }
-
     void registerShortcut(const GlobalShortcut &shortcut) override;
     void unregisterShortcut(int id) override;
 

@@ -54,7 +54,10 @@ int runDesktopPart(int argc, char **argv)
         ? QFileInfo(QString::fromLocal8Bit(self, length)).absolutePath().toLocal8Bit()
         : QByteArray(".");
     const QByteArray path = programDir + '/' + BuildInfo::desktopPartPath;
-    void *module = ::dlopen(path.constData(), RTLD_NOW | RTLD_LOCAL);
+    // Its thousand calls into Qt are bound at their first use rather than all here, a millisecond
+    // off the start; what its data refers to (vtables, type information) is still bound here, so
+    // a module that does not match the installed Qt fails below, with a message.
+    void *module = ::dlopen(path.constData(), RTLD_LAZY | RTLD_LOCAL);
     auto entry = module ? reinterpret_cast<DesktopPart::EntryPoint>(::dlsym(module, DesktopPart::entryPoint))
                         : nullptr;
     if (!entry) {

@@ -87,6 +87,12 @@ void AppDelegate::applicationDidFinishLaunching()
     // 7. Default shortcuts where none was ever set.
     applyDefaultShortcuts();
 
+    // The tray icon comes on screen here, once every shortcut is registered: a person takes the
+    // icon for "ready" and may press the shortcut at once. What follows needs no icon.
+    m_shortcutsRegistered = true;
+    if (m_statusItem)
+        showStatusItem();
+
     // 8, 9. Redraw the tray icon after any settings change (the history is one) and after a
     // change of the desktop's light or dark appearance.
     connect(&store, &SettingsStore::changed, this, &AppDelegate::updateStatusItemIcon, Qt::QueuedConnection);
@@ -156,9 +162,9 @@ void AppDelegate::createStatusItem()
             if (reason == QSystemTrayIcon::Trigger)
                 togglePopoverWith(Qt::MouseFocusReason);
         });
-    // The icon comes on screen once the launch has run to its end, after the shortcuts are
-    // registered: a person takes the icon for "ready" and may press the shortcut at once.
-    QMetaObject::invokeMethod(this, &AppDelegate::showStatusItem, Qt::QueuedConnection);
+    // During the launch the icon waits for the shortcuts; a tray that comes later shows it now.
+    if (m_shortcutsRegistered)
+        showStatusItem();
 }
 
 void AppDelegate::showStatusItem()

@@ -104,4 +104,5 @@ private:
     std::unique_ptr<SettingsWindow> m_settingsWindow;
     std::unique_ptr<OnboardingWindow> m_onboardingWindow;
     TrayHost *m_trayHost = nullptr;
+    bool m_shortcutsRegistered = false; // the launch has registered them: the icon may show
 };

@@ -20,7 +20,6 @@
 #include <QSocketNotifier>
 #include <QTextStream>
 #include <QThreadPool>
-#include <QTimer>
 #include <csignal>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -122,7 +121,8 @@ int runTrayApplication()
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
     quitOnTerminationSignals(&delegate);
 
-    // Launching finishes once the event loop runs, as a desktop application's would.
-    QTimer::singleShot(0, &delegate, &AppDelegate::applicationDidFinishLaunching);
+    // The launch runs to its end before the first event is handled, as a desktop application's
+    // does; the tray icon shows within it, not a turn of the event loop later.
+    delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

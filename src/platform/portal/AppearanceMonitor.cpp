@@ -44,6 +44,13 @@ AppearanceMonitor::AppearanceMonitor(QObject *parent)
 {
     qApp->installEventFilter(this);
     m_themeHighContrast = qEnvironmentVariable("GTK_THEME").contains(u"HighContrast", Qt::CaseInsensitive);
+    // The portal's answers come in later anyway; subscribing (a few calls the bus answers at once)
+    // waits for the event loop too, so the start does not wait for it.
+    QMetaObject::invokeMethod(this, &AppearanceMonitor::followPortal, Qt::QueuedConnection);
+}
+
+void AppearanceMonitor::followPortal()
+{
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;

@@ -34,6 +34,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void followPortal();
     void onSettingChanged(const QString &nameSpace, const QString &key, const QDBusVariant &value);
     void read(const QString &nameSpace, const QString &key);
     void apply(const QString &nameSpace, const QString &key, const QVariant &value);

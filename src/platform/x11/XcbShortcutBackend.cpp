@@ -44,18 +44,19 @@ XcbShortcutBackend::XcbShortcutBackend(xcb_connection_t *connection, xcb_window_
     , m_connection(connection)
     , m_root(root)
 {
-    // XKB announces layout changes with its own events; know their number to notice them.
+    // XKB announces layout changes with its own events; know their number to notice them. Its
+    // answer comes back with the keyboard mapping's: one wait for the server, not two.
     static constexpr char xkbName[] = "XKEYBOARD";
-    ReplyPtr<xcb_query_extension_reply_t> xkb(xcb_query_extension_reply(
-        m_connection, xcb_query_extension(m_connection, sizeof xkbName - 1, xkbName), nullptr));
+    const xcb_query_extension_cookie_t xkbCookie
+        = xcb_query_extension(m_connection, sizeof xkbName - 1, xkbName);
+    readKeyboardMapping();
+    ReplyPtr<xcb_query_extension_reply_t> xkb(xcb_query_extension_reply(m_connection, xkbCookie, nullptr));
     if (xkb && xkb->present)
         m_xkbFirstEvent = xkb->first_event;
     // XInput 2 raw events tell of a key's release wherever the release itself is delivered.
     const xcb_query_extension_reply_t *xinput = xcb_get_extension_data(m_connection, &xcb_input_id);
     if (xinput && xinput->present)
         m_xinputOpcode = xinput->major_opcode;
-
-    readKeyboardMapping();
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
 

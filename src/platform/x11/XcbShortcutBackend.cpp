@@ -66,6 +66,7 @@ XcbShortcutBackend::~XcbShortcutBackend()
         QCoreApplication::instance()->removeNativeEventFilter(this);
     watchRelease(false);
     releaseAllGrabs();
+    collectGrabAnswers();
     if (m_symbols)
         xcb_key_symbols_free(m_symbols);
 }
@@ -159,21 +160,30 @@ void XcbShortcutBackend::syncGrabs()
             xcb_ungrab_key(m_connection, grab.keycode, m_root, grab.modifiers | lock);
     }
 
-    // Checked requests: a BadAccess (another client holds the combination) comes back here
-    // instead of the event queue, where it would be logged as an X error.
-    std::vector<xcb_void_cookie_t> cookies;
+    // Checked requests: a BadAccess (another client holds the combination) comes back to us
+    // instead of the event queue, where it would be logged as an X error. The grabs are in
+    // force once sent, before any later request of ours (the tray icon's, for one); their
+    // answers are collected on the next turn of the event loop, so nothing waits for them.
+    const bool isCollectionPending = !m_uncheckedGrabs.empty();
     for (const Grab &grab : wanted) {
         if (m_grabs.contains(grab))
             continue;
         for (const quint16 lock : locks) {
-            cookies.push_back(xcb_grab_key_checked(m_connection, 1, m_root, grab.modifiers | lock,
+            m_uncheckedGrabs.push_back(xcb_grab_key_checked(m_connection, 1, m_root, grab.modifiers | lock,
                 grab.keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
         }
     }
     m_grabs = wanted;
     xcb_flush(m_connection);
-    for (const xcb_void_cookie_t cookie : cookies)
+    if (!isCollectionPending && !m_uncheckedGrabs.empty())
+        QMetaObject::invokeMethod(this, &XcbShortcutBackend::collectGrabAnswers, Qt::QueuedConnection);
+}
+
+void XcbShortcutBackend::collectGrabAnswers()
+{
+    for (const xcb_void_cookie_t cookie : m_uncheckedGrabs)
         std::free(xcb_request_check(m_connection, cookie));
+    m_uncheckedGrabs.clear();
 }
 
 void XcbShortcutBackend::releaseAllGrabs()

@@ -63,6 +63,7 @@ private:
     QList<Grab> wantedGrabs() const;
     void syncGrabs();
     void releaseAllGrabs();
+    void collectGrabAnswers();
     void scheduleMappingRefresh();
     void refreshMapping();
     bool handleKey(const xcb_key_press_event_t *event, bool isPress);
@@ -81,6 +82,7 @@ private:
     quint16 m_scrollLockMask = 0;
     std::vector<Registration> m_registrations; // in registration order: the first one wins
     QList<Grab> m_grabs;
+    std::vector<xcb_void_cookie_t> m_uncheckedGrabs; // sent, their answers not yet taken
     bool m_isRefreshPending = false;
 
     // Auto-repeat: the key code whose press last fired, and the time of its release.

@@ -10,7 +10,25 @@ rounds=${VANTLE_INSTANCE_ROUNDS:-20}
 
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
 on_failure() { tail -n 20 "$home"/first.log "$home"/second.log >&2 2>/dev/null; }
-running() { kill -0 "$1" 2>/dev/null && [[ $(ps -o stat= -p "$1") != Z* ]]; }
+# Ended or a zombie: not running. Bash may reap a child between kill -0 and ps; ps then shows
+# nothing, and a second kill -0 tells that from ps itself failing.
+running() {
+    local state
+    kill -0 "$1" 2>/dev/null || return 1
+    state=$(ps -o stat= -p "$1" 2>/dev/null) || true
+    [[ -n $state ]] || { kill -0 "$1" 2>/dev/null; return; }
+    [[ $state != Z* ]]
+}
+
+# A run that hangs says where it stood (the last traced steps, this script's children) and
+# fails after 120 s, instead of being cut off silently at the test's timeout.
+exec 9>"$home/trace"
+BASH_XTRACEFD=9
+set -x
+trap 'fail "hangs; last steps: $(grep -v "sleep 0.0" "$home/trace" | tail -n 6 | tr "\n" "|"); children: $(ps -o pid=,stat=,args= --ppid $$ | tr "\n" "|")"' USR1
+(sleep 120 && kill -USR1 $$) >/dev/null 2>&1 &
+watchdog=$!
+trap 'kill "$watchdog" 2>/dev/null; end_started; remove_tree "$home"' EXIT
 exited() { ! running "$1"; }
 config_has() { grep -q "^$1\$" "$XDG_CONFIG_HOME/Vantle/Vantle.conf" 2>/dev/null; }
 

@@ -10,15 +10,7 @@ rounds=${VANTLE_INSTANCE_ROUNDS:-20}
 
 source "$(dirname "${BASH_SOURCE[0]}")/../desktop/test-home.sh"
 on_failure() { tail -n 20 "$home"/first.log "$home"/second.log >&2 2>/dev/null; }
-# Ended or a zombie: not running. Bash may reap a child between kill -0 and ps; ps then shows
-# nothing, and a second kill -0 tells that from ps itself failing.
-running() {
-    local state
-    kill -0 "$1" 2>/dev/null || return 1
-    state=$(ps -o stat= -p "$1" 2>/dev/null) || true
-    [[ -n $state ]] || { kill -0 "$1" 2>/dev/null; return; }
-    [[ $state != Z* ]]
-}
+running() { kill -0 "$1" 2>/dev/null && [[ $(ps -o stat= -p "$1") != Z* ]]; }
 
 # A run that hangs says where it stood (the last traced steps, this script's children) and
 # fails after 120 s, instead of being cut off silently at the test's timeout.

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/StatusIcon.h"
 
-#include "screens/Symbols.h"
-
 #include <QPainter>
+#include <QPainterPath>
 
 namespace StatusIcon {
 
@@ -13,6 +12,34 @@ QColor tintFor(bool darkAppearance)
 }
 
 namespace {
+
+// The eyedropper of the "eyedropper" symbol, drawn here rather than from its SVG: the start then
+// needs no SVG renderer before the icon shows. The same figures as the symbol's drawing, in its
+// 24-unit box turned by 45 degrees: the bulb, the collar and the tapering tube.
+void paintEyedropper(QPainter &painter, const QColor &tint)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(symbolSize / 24.0, symbolSize / 24.0);
+    painter.translate(12, 12);
+    painter.rotate(45);
+    painter.translate(-12, -12);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(tint);
+    painter.drawRoundedRect(QRectF(9.5, -2, 5, 8), 2.5, 2.5);
+    QPainterPath outline;
+    outline.moveTo(7, 6.5);
+    outline.lineTo(17, 6.5);
+    outline.moveTo(9.25, 6.5);
+    outline.lineTo(9.25, 19);
+    outline.lineTo(12, 24.5);
+    outline.lineTo(14.75, 19);
+    outline.lineTo(14.75, 6.5);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(tint, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(outline);
+    painter.restore();
+}
 
 QImage canvas(int width, qreal dpr)
 {
@@ -28,8 +55,7 @@ QImage plainIcon(bool darkAppearance, qreal devicePixelRatio)
 {
     QImage image = canvas(symbolSize, devicePixelRatio);
     QPainter painter(&image);
-    Symbols::paint(
-        painter, QRectF(0, 0, symbolSize, symbolSize), QStringLiteral("eyedropper"), tintFor(darkAppearance));
+    paintEyedropper(painter, tintFor(darkAppearance));
     return image;
 }
 
@@ -38,8 +64,7 @@ QImage iconWithDot(bool darkAppearance, const QColor &dotColor, qreal devicePixe
     QImage image = canvas(canvasWidth, devicePixelRatio);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    Symbols::paint(
-        painter, QRectF(0, 0, symbolSize, symbolSize), QStringLiteral("eyedropper"), tintFor(darkAppearance));
+    paintEyedropper(painter, tintFor(darkAppearance));
     QColor opaque = dotColor;
     opaque.setAlphaF(1.0);
     painter.setPen(Qt::NoPen);

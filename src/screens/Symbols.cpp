@@ -2,8 +2,8 @@
 #include "screens/Symbols.h"
 
 #include <QFile>
+#include <QImageReader>
 #include <QPainter>
-#include <QSvgRenderer>
 
 namespace {
 
@@ -46,20 +46,23 @@ void paint(QPainter &painter, const QRectF &rect, const QString &name, const QCo
 
 QPixmap pixmap(const QString &name, int size, const QColor &color, qreal devicePixelRatio)
 {
-    QSvgRenderer renderer(resourcePath(name));
-    if (!renderer.isValid() || size <= 0)
+    if (size <= 0)
         return {};
+    // Drawn by Qt's SVG image plugin, loaded with the first symbol a screen shows: a start that
+    // shows only the tray icon maps no SVG code.
+    QImageReader reader(resourcePath(name));
     const int device = qCeil(size * devicePixelRatio);
-    QPixmap result(device, device);
-    result.fill(Qt::transparent);
-    QPainter p(&result);
-    p.setRenderHint(QPainter::Antialiasing);
-    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
-    renderer.render(&p, QRectF(0, 0, device, device));
+    reader.setScaledSize(QSize(device, device));
+    QImage image = reader.read();
+    if (image.isNull())
+        return {};
     // Keep the shape, take the colour.
+    image = std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QPainter p(&image);
     p.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    p.fillRect(result.rect(), color);
+    p.fillRect(image.rect(), color);
     p.end();
+    QPixmap result = QPixmap::fromImage(std::move(image));
     result.setDevicePixelRatio(devicePixelRatio);
     return result;
 }

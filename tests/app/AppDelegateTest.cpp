@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Offscreen there is no tray host: the delegate stays in its waiting state.
 #include "app/AppDelegate.h"
+#include "app/StatusIcon.h"
 #include "platform/network/QtUpdateNetwork.h"
 #include "platform/portal/AppearanceMonitor.h"
 #include "screens/DialogUpdateInterface.h"
 #include "screens/OnboardingWindow.h"
+#include "screens/Symbols.h"
 #include "services/PreferenceKeys.h"
 #include "support/Fakes.h"
 #include "support/TempSettings.h"
@@ -79,3 +81,29 @@ TEST_F(AppDelegateTest, ShortcutsFireTheirReactionsAfterTheSignalAndQuitReleases
 }
 
 } // namespace
+
+// The tray icon paints the eyedropper itself, so that the start needs no SVG renderer; it must
+// stay the symbol every screen draws from its SVG (which also shows the SVG plugin is there).
+TEST(StatusIconTest, TrayIconIsTheEyedropperSymbol)
+{
+    for (const bool dark : { false, true }) {
+        const QImage tray = StatusIcon::plainIcon(dark, 2.0).convertToFormat(QImage::Format_ARGB32);
+        const QImage symbol = Symbols::pixmap(
+            QStringLiteral("eyedropper"), StatusIcon::symbolSize, StatusIcon::tintFor(dark), 2.0)
+                                  .toImage()
+                                  .convertToFormat(QImage::Format_ARGB32);
+        ASSERT_EQ(tray.size(), symbol.size());
+        int worst = 0, covered = 0;
+        for (int y = 0; y < tray.height(); ++y)
+            for (int x = 0; x < tray.width(); ++x) {
+                const QRgb a = tray.pixel(x, y), b = symbol.pixel(x, y);
+                worst = qMax(worst, qAbs(qAlpha(a) - qAlpha(b)));
+                covered += qAlpha(b) > 128;
+                if (qAlpha(a) > 128) {
+                    EXPECT_EQ(a & 0xFFFFFF, StatusIcon::tintFor(dark).rgb() & 0xFFFFFF);
+                }
+            }
+        EXPECT_GT(covered, tray.width() * tray.height() / 8) << "the symbol drew nothing";
+        EXPECT_LE(worst, 16) << "the tray icon and the symbol differ";
+    }
+}

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/LoadedModule.h"
 
+#include "BuildInfo.h"
+
 #include <QFileInfo>
 #include <dlfcn.h>
 
@@ -15,11 +17,23 @@ QString ownFolder()
     return QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absolutePath();
 }
 
+// The modules sit beside the desktop part. Code linked into a program in bin/ (a test, a
+// benchmark) finds them where `vantle` finds the desktop part.
+QString modulePath(const char *fileName)
+{
+    const QString own = ownFolder();
+    const QString beside = own + QLatin1Char('/') + QLatin1String(fileName);
+    if (QFileInfo::exists(beside))
+        return beside;
+    return QFileInfo(own + QLatin1Char('/') + QLatin1String(BuildInfo::desktopPartPath)).absolutePath()
+        + QLatin1Char('/') + QLatin1String(fileName);
+}
+
 } // namespace
 
 void *loadedModuleEntry(const char *fileName, const char *entryPoint, QString *error)
 {
-    const QByteArray path = (ownFolder() + QLatin1Char('/') + QLatin1String(fileName)).toLocal8Bit();
+    const QByteArray path = modulePath(fileName).toLocal8Bit();
     void *module = ::dlopen(path.constData(), RTLD_NOW | RTLD_LOCAL);
     void *entry = module ? ::dlsym(module, entryPoint) : nullptr;
     if (!entry && error)

@@ -25,4 +25,7 @@ public:
     // From the bytes of an ICC profile: relative colorimetric, in floating point and unbounded.
     // Only an RGB display profile gives a conversion.
     static Built fromIccProfile(const QByteArray &profile);
+    // The same through the colour module, which carries littleCMS and is loaded on the first call:
+    // what the sampler uses, so that only a desktop with profiles maps it.
+    static Built loadedFromIccProfile(const QByteArray &profile);
 };

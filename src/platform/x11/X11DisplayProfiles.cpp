@@ -133,7 +133,7 @@ void X11DisplayProfiles::load(size_t index, xcb_get_property_reply_t *reply)
         failure = QStringLiteral("%1 is not a profile's bytes").arg(property);
     } else {
         // littleCMS copies what it keeps.
-        auto built = DisplayColorConversion::fromIccProfile(QByteArray::fromRawData(
+        auto built = DisplayColorConversion::loadedFromIccProfile(QByteArray::fromRawData(
             static_cast<const char *>(xcb_get_property_value(reply)), xcb_get_property_value_length(reply)));
         m_conversions[index] = std::move(built.conversion);
         failure = built.failure;

@@ -239,7 +239,7 @@ void AppcastUpdater::finishDownload(bool ok, int status)
     } else if (!ok || status != 200) {
         failure = tr("The update could not be downloaded, so the partial file was deleted.");
     } else {
-        const auto verdict = UpdateSignature::verifyFile(
+        const auto verdict = m_network.verifyDownload(
             d->file.fileName(), d->update.length, d->update.edSignature, m_bundle.publicKey);
         if (verdict != UpdateSignature::Verdict::verified)
             failure = verificationFailure(int(verdict));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "services/UpdateSignature.h"
+
 #include <QtGlobal>
 #include <chrono>
 #include <functional>
@@ -35,4 +37,10 @@ public:
         = 0;
     // Ends a transfer early; its onFinished reports a failure.
     virtual void abort(QObject *transfer) = 0;
+
+    // A downloaded update checked against the feed's promise (UpdateSignature::verifyFile). It
+    // lives beside the transfers, in the module that the first transfer loads.
+    virtual UpdateSignature::Verdict verifyDownload(const QString &filePath, qint64 expectedLength,
+        const QString &base64Signature, const QString &base64PublicKey)
+        = 0;
 };

@@ -49,3 +49,12 @@ void LoadedUpdateNetwork::abort(QObject *transfer)
     if (m_network && transfer)
         m_network->abort(transfer);
 }
+
+UpdateSignature::Verdict LoadedUpdateNetwork::verifyDownload(const QString &filePath, qint64 expectedLength,
+    const QString &base64Signature, const QString &base64PublicKey)
+{
+    // Without the module no download could have come in; were one there, it could not be trusted.
+    if (UpdateNetwork *network = loaded())
+        return network->verifyDownload(filePath, expectedLength, base64Signature, base64PublicKey);
+    return UpdateSignature::Verdict::badSignature;
+}

@@ -47,3 +47,9 @@ void QtUpdateNetwork::abort(QObject *transfer)
     if (auto *reply = qobject_cast<QNetworkReply *>(transfer))
         reply->abort();
 }
+
+UpdateSignature::Verdict QtUpdateNetwork::verifyDownload(const QString &filePath, qint64 expectedLength,
+    const QString &base64Signature, const QString &base64PublicKey)
+{
+    return UpdateSignature::verifyFile(filePath, expectedLength, base64Signature, base64PublicKey);
+}

@@ -12,6 +12,8 @@ public:
     QObject *get(const QUrl &url, std::chrono::milliseconds stallTimeout, const QObject *context,
         Handlers handlers) override;
     void abort(QObject *transfer) override;
+    UpdateSignature::Verdict verifyDownload(const QString &filePath, qint64 expectedLength,
+        const QString &base64Signature, const QString &base64PublicKey) override;
 
 private:
     QNetworkAccessManager m_manager;

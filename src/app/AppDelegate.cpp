@@ -149,14 +149,6 @@ void AppDelegate::createStatusItem()
     m_statusItem = std::make_unique<QSystemTrayIcon>();
     m_statusItem->setIcon(QIcon(QPixmap::fromImage(StatusIcon::plainIcon(isPanelDark(), 2.0))));
     m_statusItem->setToolTip(QStringLiteral("Vantle"));
-    // Desktops that show only a menu for a tray icon (and a secondary click elsewhere) get
-    // the three things one does from the tray.
-    m_statusMenu = std::make_unique<QMenu>();
-    m_statusMenu->addAction(tr("Pick Color"), this, &AppDelegate::pickColor);
-    m_statusMenu->addAction(tr("Settings…"), this, &AppDelegate::openSettings);
-    m_statusMenu->addSeparator();
-    m_statusMenu->addAction(tr("Quit vantle"), qApp, &QCoreApplication::quit);
-    m_statusItem->setContextMenu(m_statusMenu.get());
     connect(m_statusItem.get(), &QSystemTrayIcon::activated, this,
         [this](QSystemTrayIcon::ActivationReason reason) {
             if (reason == QSystemTrayIcon::Trigger)
@@ -171,6 +163,17 @@ void AppDelegate::showStatusItem()
 {
     m_statusItem->show();
     TrayHost::sendPendingRequests();
+    // Desktops that show only a menu for a tray icon (and a secondary click elsewhere) get
+    // the three things one does from the tray. Made once the icon is on its way: neither a click
+    // nor a panel's question for the menu reaches us before the event loop runs again.
+    if (!m_statusMenu) {
+        m_statusMenu = std::make_unique<QMenu>();
+        m_statusMenu->addAction(tr("Pick Color"), this, &AppDelegate::pickColor);
+        m_statusMenu->addAction(tr("Settings…"), this, &AppDelegate::openSettings);
+        m_statusMenu->addSeparator();
+        m_statusMenu->addAction(tr("Quit vantle"), qApp, &QCoreApplication::quit);
+        m_statusItem->setContextMenu(m_statusMenu.get());
+    }
     if (m_popover && m_popover->isStandalone()) {
         // The tray appeared after we gave up waiting: move into it.
         m_popover->hide();

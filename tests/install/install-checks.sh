@@ -43,7 +43,8 @@ check_layout() {
     for f in bin/vantle share/applications/vantle.desktop share/metainfo/$app_id.metainfo.xml \
         share/man/man1/vantle.1.gz share/bash-completion/completions/vantle \
         share/icons/hicolor/scalable/apps/vantle.svg share/icons/hicolor/scalable/apps/vantle-symbolic.svg \
-        lib/vantle/modules/vantle-desktop.so lib/vantle/modules/vantle-network.so lib/vantle/modules/vantle-gnome.so; do
+        lib/vantle/modules/vantle-desktop.so lib/vantle/modules/vantle-network.so lib/vantle/modules/vantle-gnome.so \
+        lib/vantle/modules/vantle-wayland.so; do
         [[ -s $prefix/$f ]] || fail "$f is not installed"
     done
     # The installed program's exit statuses (each command's own refusals are CommandLineTest's):

@@ -47,6 +47,9 @@ check_layout() {
         lib/vantle/modules/vantle-wayland.so; do
         [[ -s $prefix/$f ]] || fail "$f is not installed"
     done
+    # Wayland's client library (and libffi with it) is the Wayland module's: X11 starts never map it.
+    ! readelf -d "$prefix/lib/vantle/modules/vantle-desktop.so" | grep -qE 'NEEDED.*(wayland|ffi)' \
+        || fail "the desktop part links Wayland's client library; it belongs in vantle-wayland.so"
     # The installed program's exit statuses (each command's own refusals are CommandLineTest's):
     # it finds its desktop part (`pick --print` refuses the format there), and says calmly when
     # the part is missing.
@@ -189,7 +192,7 @@ check_package() {
     mkdir -p "$work/shlibs/debian"
     printf 'Source: vantle\n\nPackage: vantle\nArchitecture: any\n' >"$work/shlibs/debian/control"
     # (a module missing from the package fails dpkg-shlibdeps)
-    needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" "$work"/root/usr/lib/vantle/modules/vantle-{desktop,network}.so \
+    needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" "$work"/root/usr/lib/vantle/modules/vantle-{desktop,network,gnome,wayland}.so \
         2>/dev/null | sed -n 's/^shlibs:Depends=//p')
     [[ -n $needed ]] || fail "dpkg-shlibdeps found no dependencies (or a module is missing)"
     declared=$(tr ',' '\n' <<<"$depends" | sed 's/^ *//; s/ .*//')

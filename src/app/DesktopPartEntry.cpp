@@ -4,7 +4,7 @@
 #include "app/Translations.h"
 #include "app/TrayApplication.h"
 #include "platform/DesktopSession.h"
-#include "platform/wayland/DataControlProbe.h"
+#include "platform/wayland/LoadedWayland.h"
 #include "screens/AccessibleWidgets.h"
 #include "services/SettingsStore.h"
 #include "services/SettingsViewModel.h"
@@ -28,7 +28,7 @@ QByteArray choosePlatform(int argc, char **argv)
     environment.hasWaylandDisplay = !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
     environment.hasX11Display = !qEnvironmentVariableIsEmpty("DISPLAY");
     if (environment.needsDataControlProbe())
-        environment.offersDataControl = compositorOffersDataControl();
+        environment.offersDataControl = LoadedWayland::compositorOffersDataControl();
     const QByteArray platform = qtPlatformFor(environment);
     if (!platform.isEmpty())
         qputenv("QT_QPA_PLATFORM", platform);

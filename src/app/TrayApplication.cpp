@@ -10,7 +10,7 @@
 #include "platform/WindowCompositing.h"
 #include "platform/network/LoadedUpdateNetwork.h"
 #include "platform/portal/AppearanceMonitor.h"
-#include "platform/wayland/PlasmaShellSurfaces.h"
+#include "platform/wayland/LoadedWayland.h"
 #include "screens/DialogUpdateInterface.h"
 #include "services/SettingsStore.h"
 #include "services/XdgAutostartService.h"
@@ -35,7 +35,7 @@ std::unique_ptr<WindowRoles> makeWindowRoles(const DesktopSession &session)
 {
     if (!session.isWayland())
         return nullptr;
-    if (std::unique_ptr<WindowRoles> plasmaShell = PlasmaShellSurfaces::connect()) {
+    if (std::unique_ptr<WindowRoles> plasmaShell = LoadedWayland::connectPlasmaShell()) {
         qCInfo(lcWindows) << "capsule and popup through org_kde_plasma_shell: an on-screen display that "
                              "never takes the keyboard, the popup under the pointer";
         return plasmaShell;

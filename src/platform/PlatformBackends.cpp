@@ -6,7 +6,7 @@
 #include "platform/gnome/GnomeShortcutBackend.h"
 #include "platform/portal/PortalScreenSampler.h"
 #include "platform/portal/PortalShortcutBackend.h"
-#include "platform/wayland/WaylandDataControlClipboard.h"
+#include "platform/wayland/LoadedWayland.h"
 #include "platform/x11/X11ScreenSampler.h"
 #include "platform/x11/XcbShortcutBackend.h"
 
@@ -42,8 +42,9 @@ std::unique_ptr<ScreenColorSampler> makeScreenColorSampler(const DesktopSession 
 std::unique_ptr<Clipboard> makeClipboard(const DesktopSession &session)
 {
     if (chooseBackends(session).clipboard == ClipboardBackend::dataControl) {
-        if (auto clipboard = WaylandDataControlClipboard::connect()) {
-            qCInfo(lcBackends) << "clipboard: Wayland data-control," << clipboard->protocolName();
+        QString protocolName;
+        if (auto clipboard = LoadedWayland::connectDataControlClipboard(&protocolName)) {
+            qCInfo(lcBackends) << "clipboard: Wayland data-control," << protocolName;
             return clipboard;
         }
         // GNOME's mutter, for one, offers no data-control: Qt's clipboard is what is left.

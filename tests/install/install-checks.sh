@@ -44,9 +44,13 @@ check_layout() {
         share/man/man1/vantle.1.gz share/bash-completion/completions/vantle \
         share/icons/hicolor/scalable/apps/vantle.svg share/icons/hicolor/scalable/apps/vantle-symbolic.svg \
         lib/vantle/modules/vantle-desktop.so lib/vantle/modules/vantle-network.so lib/vantle/modules/vantle-gnome.so \
-        lib/vantle/modules/vantle-colour.so; do
+        lib/vantle/modules/vantle-colour.so lib/vantle/modules/vantle-wayland.so; do
         [[ -s $prefix/$f ]] || fail "$f is not installed"
     done
+    # Libraries only some sessions or moments use are their modules' (Wayland's client library,
+    # littleCMS, libsodium) or a plugin's (Qt SVG): a start never maps them.
+    ! readelf -d "$prefix/lib/vantle/modules/vantle-desktop.so" | grep -E 'NEEDED.*(wayland|ffi|lcms|sodium|Svg)' \
+        || fail "the desktop part links a library that belongs in a module"
     # The installed program's exit statuses (each command's own refusals are CommandLineTest's):
     # it finds its desktop part (`pick --print` refuses the format there), and says calmly when
     # the part is missing.
@@ -189,7 +193,7 @@ check_package() {
     mkdir -p "$work/shlibs/debian"
     printf 'Source: vantle\n\nPackage: vantle\nArchitecture: any\n' >"$work/shlibs/debian/control"
     # (a module missing from the package fails dpkg-shlibdeps)
-    needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" "$work"/root/usr/lib/vantle/modules/vantle-{desktop,network}.so \
+    needed=$(cd "$work/shlibs" && dpkg-shlibdeps -O "$program" "$work"/root/usr/lib/vantle/modules/vantle-{desktop,network,gnome,colour,wayland}.so \
         2>/dev/null | sed -n 's/^shlibs:Depends=//p')
     [[ -n $needed ]] || fail "dpkg-shlibdeps found no dependencies (or a module is missing)"
     declared=$(tr ',' '\n' <<<"$depends" | sed 's/^ *//; s/ .*//')

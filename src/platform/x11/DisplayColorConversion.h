@@ -28,4 +28,8 @@ public:
     // The same through the colour module, which carries littleCMS and is loaded on the first call:
     // what the sampler uses, so that only a desktop with profiles maps it.
     static Built loadedFromIccProfile(const QByteArray &profile);
+
+    // The colour module's one entry point: fromIccProfile(*profile) into *built.
+    static constexpr char moduleEntry[] = "vantleColorConversionFromIccProfile";
+    using ModuleEntry = void (*)(const QByteArray *profile, Built *built);
 };

@@ -5,8 +5,6 @@
 namespace {
 
 constexpr char moduleFileName[] = "vantle-colour.so";
-constexpr char entryPoint[] = "vantleColorConversionFromIccProfile";
-using EntryPoint = void (*)(const QByteArray *profile, DisplayColorConversion::Built *built);
 
 } // namespace
 
@@ -15,7 +13,7 @@ DisplayColorConversion::Built DisplayColorConversion::loadedFromIccProfile(const
     // Tried once; the module stays loaded, and so does the code of the conversions it made.
     static QString error;
     static const auto convert
-        = reinterpret_cast<EntryPoint>(loadedModuleEntry(moduleFileName, entryPoint, &error));
+        = reinterpret_cast<ModuleEntry>(loadedModuleEntry(moduleFileName, moduleEntry, &error));
     if (!convert)
         return { nullptr,
             QStringLiteral(
